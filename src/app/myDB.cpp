@@ -1,0 +1,339 @@
+#include "app/myDB.h"
+
+#include "app/Schema.h"
+#include "app/globals.h"
+#include "app/myPrefs.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+namespace {
+
+constexpr int kBusyTimeoutMs = 5000;
+
+std::string utf8(const QString &text)
+{
+    return text.toStdString();
+}
+
+QVariant columnValue(const SQLite::Column &column)
+{
+    switch (column.getType()) {
+    case SQLITE_INTEGER:
+        return QVariant::fromValue<qint64>(column.getInt64());
+    case SQLITE_FLOAT:
+        return column.getDouble();
+    case SQLITE_TEXT:
+        return QString::fromUtf8(column.getText(), column.getBytes());
+    case SQLITE_BLOB:
+        return QByteArray(static_cast<const char *>(column.getBlob()), column.getBytes());
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+QVariant Record::value(const QString &column) const
+{
+    const qsizetype i = columns.indexOf(column);
+    return i < 0 ? QVariant() : values.at(i);
+}
+
+myDB::myDB(const myPrefs &prefs) : myDB(prefs.strdDataLoc, prefs.prSeason) {}
+
+myDB::myDB(const QString &dataFolder, const QString &season)
+{
+    try {
+        check4Database(dataFolder, season);
+    } catch (const std::exception &) {
+        tlynData.reset();
+        gMsgBox(QStringLiteral("There was an error connecting to the Database."));
+    }
+}
+
+myDB::~myDB() = default;
+
+QString myDB::getCurDBFileName(const QString &season)
+{
+    return QStringLiteral("tlData_") + season + QStringLiteral(".sqlite");
+}
+
+void myDB::check4Database(const QString &dataFolder, const QString &season)
+{
+    const QString file = QDir(dataFolder).filePath(getCurDBFileName(season));
+    m_filePath = file;
+    if (QFileInfo::exists(file))
+        connectToDB(file);
+    else
+        createDBFile(file);
+}
+
+void myDB::configureConnection()
+{
+    tlynData->setBusyTimeout(kBusyTimeoutMs);
+    tlynData->exec("PRAGMA journal_mode=DELETE");
+    tlynData->exec("PRAGMA synchronous=FULL");
+}
+
+bool myDB::verifyIntegrity()
+{
+    std::string result;
+    try {
+        SQLite::Statement check(*tlynData, "PRAGMA quick_check");
+        if (check.executeStep())
+            result = check.getColumn(0).getString();
+    } catch (const SQLite::Exception &e) {
+        result = e.what();
+    }
+    if (result == "ok")
+        return true;
+    // A damaged season is never written to: the program carries on without
+    // a connection, and the coach is told which file to restore.
+    tlynData.reset();
+    gShowMsgDlog(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
+                     QStringLiteral("\" is damaged and can't be opened."),
+                 QStringLiteral("Nothing was changed in it. Restore it from a backup copy, or choose another "
+                                "season."),
+                 QStringLiteral("OK"));
+    return false;
+}
+
+bool myDB::connectToDB(const QString &file)
+{
+    try {
+        tlynData = std::make_unique<SQLite::Database>(utf8(file), SQLite::OPEN_READWRITE);
+    } catch (const SQLite::Exception &e) {
+        tlynData.reset();
+        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
+        DisplayDatabaseError();
+        return false;
+    }
+    if (!verifyIntegrity())
+        return false;
+    configureConnection();
+    return true;
+}
+
+bool myDB::createDBFile(const QString &file)
+{
+    try {
+        tlynData = std::make_unique<SQLite::Database>(utf8(file), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        configureConnection();
+        SQLite::Transaction transaction(*tlynData);
+        for (const QString &statement : schema::createStatements())
+            tlynData->exec(utf8(statement));
+        transaction.commit();
+    } catch (const SQLite::Exception &) {
+        tlynData.reset();
+        QFile::remove(file);
+        gMsgBox(QStringLiteral("Database Error\nThere was an error when creating the database at <") +
+                QDir::toNativeSeparators(file) + u'>');
+        return false;
+    }
+    return true;
+}
+
+void myDB::rememberError(int code, const QString &message)
+{
+    m_lastErrorCode = code;
+    m_lastErrorMessage = message;
+}
+
+void myDB::clearError()
+{
+    rememberError(0, {});
+}
+
+bool myDB::DisplayDatabaseError()
+{
+    // Constraint violations (19) are expected by the screens that rely on
+    // them, and 0 is no error: both stay quiet.
+    if (m_lastErrorCode == 0 || m_lastErrorCode == SQLITE_CONSTRAINT)
+        return false;
+    gMsgBox(QStringLiteral("Database Error: ") + QString::number(m_lastErrorCode) + u'\n' + m_lastErrorMessage);
+    return true;
+}
+
+void myDB::bindAll(SQLite::Statement &statement, const QVariantList &params)
+{
+    for (int i = 0; i < params.size(); ++i) {
+        const QVariant &v = params.at(i);
+        const int index = i + 1;
+        if (!v.isValid()) {
+            statement.bind(index);
+            continue;
+        }
+        switch (v.typeId()) {
+        case QMetaType::Bool:
+        case QMetaType::Int:
+        case QMetaType::UInt:
+        case QMetaType::LongLong:
+        case QMetaType::ULongLong:
+        case QMetaType::Short:
+        case QMetaType::UShort:
+        case QMetaType::Long:
+            statement.bind(index, static_cast<int64_t>(v.toLongLong()));
+            break;
+        case QMetaType::Double:
+        case QMetaType::Float:
+            statement.bind(index, v.toDouble());
+            break;
+        case QMetaType::QByteArray: {
+            const QByteArray bytes = v.toByteArray();
+            statement.bind(index, bytes.constData(), int(bytes.size()));
+            break;
+        }
+        default:
+            statement.bind(index, utf8(v.toString()));
+            break;
+        }
+    }
+}
+
+bool myDB::exec(const QString &sql, const QVariantList &params)
+{
+    if (!tlynData)
+        return false;
+    try {
+        SQLite::Statement statement(*tlynData, utf8(sql));
+        bindAll(statement, params);
+        while (statement.executeStep()) {
+        }
+        clearError();
+        return true;
+    } catch (const SQLite::Exception &e) {
+        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
+        DisplayDatabaseError();
+        return false;
+    }
+}
+
+QList<Record> myDB::select(const QString &sql, const QVariantList &params)
+{
+    QList<Record> rows;
+    if (!tlynData)
+        return rows;
+    try {
+        SQLite::Statement statement(*tlynData, utf8(sql));
+        bindAll(statement, params);
+        QStringList columns;
+        for (int c = 0; c < statement.getColumnCount(); ++c)
+            columns.append(QString::fromUtf8(statement.getColumnName(c)));
+        while (statement.executeStep()) {
+            Record row;
+            row.columns = columns;
+            row.values.reserve(columns.size());
+            for (int c = 0; c < columns.size(); ++c)
+                row.values.append(columnValue(statement.getColumn(c)));
+            rows.append(std::move(row));
+        }
+        clearError();
+    } catch (const SQLite::Exception &e) {
+        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
+        DisplayDatabaseError();
+        rows.clear();
+    }
+    return rows;
+}
+
+QVariant myDB::scalar(const QString &sql, const QVariantList &params)
+{
+    const QList<Record> rows = select(sql, params);
+    if (rows.isEmpty() || rows.first().values.isEmpty())
+        return {};
+    return rows.first().values.first();
+}
+
+qint64 myDB::insert(const QString &table, const Fields &fields)
+{
+    QStringList names;
+    QStringList marks;
+    QVariantList values;
+    for (const Field &f : fields) {
+        names.append(f.first);
+        marks.append(QStringLiteral("?"));
+        values.append(f.second);
+    }
+    const QString sql = QStringLiteral("INSERT INTO ") + table + QStringLiteral(" (") + names.join(u',') +
+                        QStringLiteral(") VALUES (") + marks.join(u',') + u')';
+    if (!exec(sql, values))
+        return -1;
+    return lastRowId();
+}
+
+bool myDB::update(const QString &table, const Fields &fields, const QString &keyColumn, const QVariant &key)
+{
+    QStringList sets;
+    QVariantList values;
+    for (const Field &f : fields) {
+        sets.append(f.first + QStringLiteral(" = ?"));
+        values.append(f.second);
+    }
+    values.append(key);
+    return exec(QStringLiteral("UPDATE ") + table + QStringLiteral(" SET ") + sets.join(QStringLiteral(", ")) +
+                    QStringLiteral(" WHERE ") + keyColumn + QStringLiteral(" = ?"),
+                values);
+}
+
+bool myDB::runInTransaction(const std::function<void()> &body)
+{
+    if (!tlynData)
+        return false;
+    try {
+        SQLite::Transaction transaction(*tlynData);
+        body();
+        transaction.commit();
+        clearError();
+        return true;
+    } catch (const SQLite::Exception &e) {
+        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
+        DisplayDatabaseError();
+        return false;
+    }
+}
+
+qint64 myDB::lastRowId() const
+{
+    return tlynData ? tlynData->getLastInsertRowid() : -1;
+}
+
+QString myDB::getTeamNameFromID(const QString &id, bool full)
+{
+    const QList<Record> rows = select(QStringLiteral("SELECT TeamName, SchoolName FROM Teams WHERE teamID = ?"), {id});
+    if (rows.isEmpty())
+        return {};
+    const Record &r = rows.first();
+    if (full)
+        return r.text(QStringLiteral("SchoolName")) + u' ' + r.text(QStringLiteral("TeamName"));
+    return r.text(QStringLiteral("TeamName"));
+}
+
+QStringList myDB::getAllCurTeams()
+{
+    QStringList teams;
+    for (const Record &r : select(QStringLiteral("SELECT TeamName, SchoolName FROM Teams")))
+        teams.append(r.text(QStringLiteral("SchoolName")) + u' ' + r.text(QStringLiteral("TeamName")));
+    return teams;
+}
+
+void myDB::cleanUpDB()
+{
+    if (!tlynData)
+        return;
+    // No transaction is left open between writes here, so there is nothing
+    // to end before compacting; VACUUM can't run inside one.
+    if (tlynData->getHandle() && !sqlite3_get_autocommit(tlynData->getHandle())) {
+        try {
+            tlynData->exec("END TRANSACTION");
+        } catch (const SQLite::Exception &) {
+        }
+    }
+    exec(QStringLiteral("VACUUM"));
+}

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace SQLite {
+class Database;
+class Statement;
+} // namespace SQLite
+
+class myPrefs;
+
+// One named value of a row to insert or update, column name first.
+using Field = std::pair<QString, QVariant>;
+using Fields = QList<Field>;
+
+// A row read back: the column names in select order and their values.
+// Integers come back as qint64, text as QString, blobs as QByteArray and
+// NULL as an invalid QVariant.
+class Record
+{
+public:
+    QStringList columns;
+    QVariantList values;
+
+    QVariant value(const QString &column) const;
+    QString text(const QString &column) const { return value(column).toString(); }
+    qint64 integer(const QString &column) const { return value(column).toLongLong(); }
+    QByteArray blob(const QString &column) const { return value(column).toByteArray(); }
+};
+
+// The open season: one SQLite file "tlData_<season>.sqlite" in the data
+// folder. Every statement binds its values as parameters; SQL text is only
+// ever joined from the program's own table and column names.
+//
+// The connection runs in rollback-journal (DELETE) mode with full sync, so a
+// season stays a single file a coach can copy, and every write is on disk
+// when the call returns. A step of several writes goes through
+// runInTransaction so it happens whole or not at all.
+//
+// Errors are reported where they happen through DisplayDatabaseError, which
+// keeps constraint violations (code 19) quiet as screens expect.
+class myDB
+{
+public:
+    // Opens (or creates, with the complete schema) the season of
+    // prefs.prSeason in prefs.strdDataLoc.
+    explicit myDB(const myPrefs &prefs);
+    myDB(const QString &dataFolder, const QString &season);
+    ~myDB();
+    myDB(const myDB &) = delete;
+    myDB &operator=(const myDB &) = delete;
+
+    static QString getCurDBFileName(const QString &season);
+
+    // The connection; null when the season couldn't be opened, in which
+    // case every query returns nothing and every write fails quietly.
+    std::unique_ptr<SQLite::Database> tlynData;
+    bool isConnected() const { return tlynData != nullptr; }
+    QString filePath() const { return m_filePath; }
+
+    bool DisplayDatabaseError();
+    int lastErrorCode() const { return m_lastErrorCode; }
+    QString lastErrorMessage() const { return m_lastErrorMessage; }
+
+    QString getTeamNameFromID(const QString &id, bool full);
+    QStringList getAllCurTeams();
+    void cleanUpDB();
+
+    // Runs one statement with bound values. On failure the error is kept,
+    // shown through DisplayDatabaseError, and false comes back.
+    bool exec(const QString &sql, const QVariantList &params = {});
+    // All rows of a query; empty on failure (the error is shown).
+    QList<Record> select(const QString &sql, const QVariantList &params = {});
+    // The first column of the first row, or an invalid QVariant.
+    QVariant scalar(const QString &sql, const QVariantList &params = {});
+    // INSERT INTO table (columns) VALUES (?, ...): the new row's id, or -1.
+    qint64 insert(const QString &table, const Fields &fields);
+    // UPDATE table SET columns WHERE keyColumn = key.
+    bool update(const QString &table, const Fields &fields, const QString &keyColumn, const QVariant &key);
+    // Runs `body` inside one transaction; any database error in it rolls
+    // everything back, is shown, and gives false.
+    bool runInTransaction(const std::function<void()> &body);
+
+    qint64 lastRowId() const;
+
+    // Binds `params` (by position) to a prepared statement.
+    static void bindAll(SQLite::Statement &statement, const QVariantList &params);
+
+private:
+    void check4Database(const QString &dataFolder, const QString &season);
+    bool connectToDB(const QString &file);
+    bool createDBFile(const QString &file);
+    void configureConnection();
+    bool verifyIntegrity();
+    void rememberError(int code, const QString &message);
+    void clearError();
+
+    QString m_filePath;
+    int m_lastErrorCode = 0;
+    QString m_lastErrorMessage;
+};

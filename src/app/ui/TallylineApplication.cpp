@@ -1,0 +1,36 @@
+#include "app/ui/TallylineApplication.h"
+
+#include "platform/Services.h"
+
+#include <exception>
+
+TallylineApplication::TallylineApplication(int &argc, char **argv) : QApplication(argc, argv)
+{
+    setApplicationName(QStringLiteral("Tallyline Baseball"));
+    setApplicationDisplayName(QStringLiteral("Tallyline Baseball"));
+    setOrganizationName(QStringLiteral("QLM"));
+    setApplicationVersion(QStringLiteral("2.2.0"));
+    setQuitOnLastWindowClosed(true);
+}
+
+bool TallylineApplication::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception &e) {
+        reportUnhandled(QString::fromUtf8(e.what()));
+    } catch (...) {
+        reportUnhandled(QStringLiteral("An unknown error"));
+    }
+    return false;
+}
+
+void TallylineApplication::reportUnhandled(const QString &what)
+{
+    if (!platform::installed().messages)
+        return;
+    platform::messages().showMsgDlog(QStringLiteral("An unexpected error occurred."),
+                                     what + QStringLiteral("\n\nYour data has been saved as you entered it. "
+                                                           "The program will go on."),
+                                     QStringLiteral("OK"), {});
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QImage>
+#include <QMainWindow>
+#include <QPointer>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class MainMenuBar;
+class LogoCanvas;
+
+// The hub from which every other screen opens. There is one at a time:
+// instance() makes it when none is open, and every screen that closed it
+// brings it back with showStartScreen() when it closes, so the team name,
+// logo and season list are read afresh on every return.
+class startScrn1 : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit startScrn1(QWidget *parent = nullptr);
+    ~startScrn1() override;
+
+    static startScrn1 *instance();
+    // Shows the start screen, making it first when none is open.
+    static startScrn1 *showStartScreen();
+
+    void setLogo_Name();
+    void setPopupList();
+
+    QImage curLogo;
+
+    QComboBox *SelectSeasonPop = nullptr;
+    QLabel *teamNameLabel = nullptr;
+    LogoCanvas *LogoHolder = nullptr;
+    QPushButton *helpBtn = nullptr;
+    MainMenuBar *menuBar() const { return m_menuBar; }
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QPushButton *addTargetButton(const QString &objectName, const QString &caption, const QString &target);
+    void openTarget(const QString &target, bool closeStart, bool startBackupTimer);
+    void seasonChosen(int row);
+    void showAbout();
+
+    MainMenuBar *m_menuBar = nullptr;
+    bool m_fillingPopup = false;
+};
+
+// Paints the home team's logo scaled to its area.
+class LogoCanvas : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LogoCanvas(QWidget *parent = nullptr);
+    void setPicture(const QImage &picture);
+    const QImage &picture() const { return m_picture; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage m_picture;
+};

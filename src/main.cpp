@@ -1,0 +1,36 @@
+// The program's entry point: installs the desktop's services, runs the
+// start-up order and shows the splash screen.
+
+#include "app/App.h"
+#include "app/ui/ScreenDirectory.h"
+#include "app/ui/TallylineApplication.h"
+#include "app/ui/splashScrn.h"
+#include "platform/qt/QtServices.h"
+
+namespace {
+
+// Every window the start screen can open, by name.
+void registerScreens()
+{
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    TallylineApplication application(argc, argv);
+
+    platform::qt::QtServices desktop;
+    platform::ScopedServices installed(desktop.services());
+
+    registerScreens();
+
+    App app;
+    if (app.Event_Open() != App::OpenResult::Ok)
+        return 0;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &app, &App::Event_Close);
+
+    auto *splash = new splashScrn;
+    splash->show();
+    return application.exec();
+}

@@ -1,0 +1,39 @@
+#include "platform/Services.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace platform {
+
+namespace {
+Services g_services;
+
+template<typename T>
+T &need(T *service, const char *name)
+{
+    if (!service)
+        throw std::logic_error(std::string("platform service not installed: ") + name);
+    return *service;
+}
+} // namespace
+
+Services install(const Services &services)
+{
+    Services previous = g_services;
+    g_services = services;
+    return previous;
+}
+
+const Services &installed()
+{
+    return g_services;
+}
+
+MessageService &messages() { return need(g_services.messages, "messages"); }
+FileDialogService &files() { return need(g_services.files, "files"); }
+PrintService &printing() { return need(g_services.printing, "printing"); }
+UrlOpener &urls() { return need(g_services.urls, "urls"); }
+Beeper &beeper() { return need(g_services.beeper, "beeper"); }
+Clock &clock() { return need(g_services.clock, "clock"); }
+
+} // namespace platform

@@ -1,0 +1,288 @@
+// The season file: its schema, bound values, quiet constraint errors and
+// the files it refuses.
+
+#include "app/Schema.h"
+#include "app/myDB.h"
+#include "fakes/FakePlatform.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestDatabase : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Column
+    {
+        QString name, type;
+        bool notNull;
+        QString defaultValue;
+        bool primaryKey;
+    };
+    static QList<Column> columnsOf(myDB &db, const QString &table)
+    {
+        QList<Column> out;
+        for (const Record &r : db.select(QStringLiteral("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info(?)"), {table}))
+            out.append({r.text(QStringLiteral("name")), r.text(QStringLiteral("type")), r.integer(QStringLiteral("notnull")) != 0,
+                        r.text(QStringLiteral("dflt_value")), r.integer(QStringLiteral("pk")) != 0});
+        return out;
+    }
+
+private Q_SLOTS:
+    void newSeasonHasFifteenEmptyTables()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        QVERIFY(db.isConnected());
+        QCOMPARE(db.filePath(), QDir(dir.path()).filePath(QStringLiteral("tlData_2026.sqlite")));
+        QVERIFY(QFile::exists(db.filePath()));
+
+        QStringList tables;
+        for (const Record &r : db.select(QStringLiteral(
+                 "SELECT name FROM sqlite_master WHERE type = 'table' AND name <> 'sqlite_sequence' ORDER BY rowid")))
+            tables.append(r.text(QStringLiteral("name")));
+        QCOMPARE(tables, schema::tableNames());
+        for (const QString &t : tables)
+            QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM ") + t).toInt(), 0);
+        QVERIFY(fake.messages.shown.isEmpty());
+        QCOMPARE(db.scalar(QStringLiteral("PRAGMA journal_mode")).toString(), QStringLiteral("delete"));
+    }
+
+    void columns_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<QStringList>("types");
+        QTest::newRow("Teams") << QStringLiteral("Teams")
+                               << QStringList{"teamID", "TeamName", "SchoolName", "League", "Division", "SchoolAddress",
+                                              "SchoolAddress1", "SchoolCity", "SchoolZip", "SchoolState", "Phone",
+                                              "HomeField", "Active", "TeamLogo"}
+                               << QStringList{"INTEGER", "VarChar", "VarChar", "VarChar", "VarChar", "VarChar", "VarChar",
+                                              "VarChar", "VarChar", "VarChar", "VarChar", "VarChar", "Integer", "Blob"};
+        QTest::newRow("Games") << QStringLiteral("Games")
+                               << QStringList{"gameID", "schedID", "Teams", "HomeTeam", "TeamAHeadings", "TeamABench",
+                                              "TeamAPlayers", "TeamAActions", "TeamAOutcomes", "TeamBHeadings",
+                                              "TeamBBench", "TeamBPlayers", "TeamBActions", "TeamBOutcomes",
+                                              "TeamABatterStats", "TeamBBatterStats", "gameType", "recorded"}
+                               << QStringList{"INTEGER", "Varchar", "Varchar", "Varchar", "Varchar", "Varchar", "Varchar",
+                                              "Varchar", "Varchar", "Varchar", "Varchar", "Varchar", "Varchar", "Varchar",
+                                              "VarChar", "VarChar", "VarChar", "Integer"};
+        QTest::newRow("Schedule") << QStringLiteral("Schedule")
+                                  << QStringList{"eventID", "SchedDate", "BusTime", "StartTime", "Event", "Opponent",
+                                                 "OppID", "Location", "isHome", "position"}
+                                  << QStringList{"INTEGER", "Date", "VarChar", "VarChar", "VarChar", "VarChar", "VarChar",
+                                                 "VarChar", "Integer", "Integer"};
+        QTest::newRow("GamesIndivFielding") << QStringLiteral("GamesIndivFielding")
+                                            << QStringList{"recID", "gameID", "playerID", "teamID", "stats"}
+                                            << QStringList{"INTEGER", "Varchar", "Varchar", "VarChar", "Varchar"};
+        QTest::newRow("PlayerInventory") << QStringLiteral("PlayerInventory")
+                                         << QStringList{"serial", "ctrlNum", "PlayerID", "Item", "ItemID"}
+                                         << QStringList{"INTEGER", "INTEGER", "Varchar", "Varchar", "Varchar"};
+        QTest::newRow("Fielding") << QStringLiteral("Fielding")
+                                  << QStringList{"recID", "playerID", "teamID", "gameID", "IP", "CH", "PO", "Asst", "FE",
+                                                 "TE", "DPL", "PB", "SBA", "CS", "UDF1", "UDF2", "UDF3"}
+                                  << (QStringList{"INTEGER"} + QStringList(16, QStringLiteral("Integer")));
+    }
+    void columns()
+    {
+        QFETCH(QString, table);
+        QFETCH(QStringList, names);
+        QFETCH(QStringList, types);
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        QStringList gotNames, gotTypes;
+        for (const Column &c : columnsOf(db, table)) {
+            gotNames.append(c.name);
+            gotTypes.append(c.type);
+        }
+        QCOMPARE(gotNames, names);
+        // SQLite reports the built-in type names in capitals; the declared
+        // spelling stands in the CREATE statement.
+        QCOMPARE(gotTypes.join(u',').toUpper(), types.join(u',').toUpper());
+        const QString sql = db.scalar(QStringLiteral("SELECT sql FROM sqlite_master WHERE name = ?"), {table}).toString();
+        for (int i = 1; i < names.size(); ++i)
+            QVERIFY2(sql.contains(names[i] + u' ' + types[i]), qPrintable(names[i] + u' ' + types[i]));
+    }
+
+    // Keys are autoincrement integer keys; "= 0" columns are NOT NULL DEFAULT 0;
+    // everything else is nullable with no default.
+    void keysAndDefaults()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        const QStringList zeroColumnsOfPitchingGames = {"gameResult", "start", "shutout", "compGame", "totBalls", "totKs"};
+        for (const QString &table : schema::tableNames()) {
+            const QList<Column> cols = columnsOf(db, table);
+            QVERIFY(cols.first().primaryKey);
+            const QString sql = db.scalar(QStringLiteral("SELECT sql FROM sqlite_master WHERE name = ?"), {table}).toString();
+            QVERIFY2(sql.contains(cols.first().name + QStringLiteral(" INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE")),
+                     qPrintable(sql));
+            for (const Column &c : cols.mid(1)) {
+                const bool counter = (table == u"Hitting" || table == u"Fielding" || table == u"Pitching" ||
+                                      (table == u"GameResultsByTeam" && c.name != u"teamID") ||
+                                      (table == u"GamesIndivPitching" && zeroColumnsOfPitchingGames.contains(c.name)) ||
+                                      c.name == u"quantity" || c.name == u"ctrlNum");
+                QVERIFY2(c.notNull == counter, qPrintable(table + u'.' + c.name));
+                QCOMPARE(c.defaultValue, counter ? QStringLiteral("0") : QString());
+            }
+        }
+    }
+
+    void quotesAndSemicolonsAreJustText()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        const QString name = QStringLiteral("O'Brien's \"Bombers\"; DROP TABLE Teams; --");
+        const QString school = QStringLiteral("St. Mary's\tNorth");
+        const qint64 id = db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), name},
+                                                             {QStringLiteral("SchoolName"), school},
+                                                             {QStringLiteral("Active"), 1}});
+        QVERIFY(id > 0);
+        QCOMPARE(db.getTeamNameFromID(QString::number(id), false), name);
+        QCOMPARE(db.getTeamNameFromID(QString::number(id), true), school + u' ' + name);
+        QCOMPARE(db.getAllCurTeams(), QStringList{school + u' ' + name});
+        QVERIFY(db.update(QStringLiteral("Teams"), {{QStringLiteral("League"), QStringLiteral("'; --")}},
+                          QStringLiteral("teamID"), id));
+        QCOMPARE(db.scalar(QStringLiteral("SELECT League FROM Teams WHERE teamID = ?"), {id}).toString(),
+                 QStringLiteral("'; --"));
+        QVERIFY(fake.messages.shown.isEmpty());
+    }
+
+    void unknownTeamGivesEmptyText()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        QCOMPARE(db.getTeamNameFromID(QStringLiteral("99"), true), QString());
+        QCOMPARE(db.getTeamNameFromID(QStringLiteral("99"), false), QString());
+        QCOMPARE(db.getTeamNameFromID(QStringLiteral("x' OR '1'='1"), false), QString());
+    }
+
+    void blobsRoundTrip()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        QByteArray png("\x89PNG\r\n\x1a\n\0\0binary", 18);
+        const qint64 id = db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Hawks")},
+                                                             {QStringLiteral("TeamLogo"), png}});
+        QCOMPARE(db.select(QStringLiteral("SELECT TeamLogo FROM Teams WHERE teamID = ?"), {id}).first().blob(QStringLiteral("TeamLogo")), png);
+    }
+
+    void errorCodes_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("constraint (19) stays quiet")
+            << QStringLiteral("INSERT INTO Teams (teamID, TeamName) VALUES (1, 'again')") << 19 << false;
+        QTest::newRow("not null is a constraint too")
+            << QStringLiteral("INSERT INTO Hitting (playerID) VALUES (NULL)") << 19 << false;
+        QTest::newRow("syntax error is shown") << QStringLiteral("SELEKT 1") << 1 << true;
+        QTest::newRow("missing table is shown") << QStringLiteral("DELETE FROM Nowhere") << 1 << true;
+    }
+    void errorCodes()
+    {
+        QFETCH(QString, sql);
+        QFETCH(int, code);
+        QFETCH(bool, shown);
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        QVERIFY(db.exec(QStringLiteral("INSERT INTO Teams (teamID, TeamName) VALUES (1, 'first')")));
+        QVERIFY(!db.exec(sql));
+        QCOMPARE(db.lastErrorCode(), code);
+        QCOMPARE(fake.messages.shown.size(), shown ? 1 : 0);
+        if (shown)
+            QVERIFY(fake.messages.shown.first().message.startsWith(QStringLiteral("Database Error: 1\n")));
+        QCOMPARE(db.DisplayDatabaseError(), shown);
+        QVERIFY(db.exec(QStringLiteral("SELECT 1")));
+        QCOMPARE(db.DisplayDatabaseError(), false);
+    }
+
+    void transactionRollsBackWhole()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        const bool ok = db.runInTransaction([&] {
+            db.tlynData->exec("INSERT INTO Teams (TeamName) VALUES ('one')");
+            db.tlynData->exec("INSERT INTO Nowhere VALUES (1)");
+        });
+        QVERIFY(!ok);
+        QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM Teams")).toInt(), 0);
+        QCOMPARE(fake.messages.shown.size(), 1);
+    }
+
+    void refusedSeasonNames_data()
+    {
+        QTest::addColumn<QString>("season");
+        QTest::newRow("slash") << QStringLiteral("2026/Fall");
+        QTest::newRow("into a missing folder") << QStringLiteral("x/../../nowhere/y");
+    }
+    void refusedSeasonNames()
+    {
+        QFETCH(QString, season);
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), season);
+        QVERIFY(!db.isConnected());
+        QCOMPARE(fake.messages.shown.size(), 1);
+        QCOMPARE(fake.messages.shown.first().message,
+                 QStringLiteral("Database Error\nThere was an error when creating the database at <") +
+                     QDir::toNativeSeparators(QDir(dir.path()).filePath(myDB::getCurDBFileName(season))) + u'>');
+        // An unconnected season answers nothing and writes nothing.
+        QVERIFY(db.select(QStringLiteral("SELECT * FROM Teams")).isEmpty());
+        QVERIFY(!db.exec(QStringLiteral("DELETE FROM Teams")));
+        QCOMPARE(db.getTeamNameFromID(QStringLiteral("1"), true), QString());
+    }
+
+    void damagedFileIsNeverWritten()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        const QString path = QDir(dir.path()).filePath(myDB::getCurDBFileName(QStringLiteral("2025")));
+        QByteArray junk("SQLite format 3");
+        junk.append(QByteArray(4096, '\x5a'));
+        {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(junk);
+        }
+        myDB db(dir.path(), QStringLiteral("2025"));
+        QVERIFY(!db.isConnected());
+        QCOMPARE(fake.messages.shown.size(), 1);
+        QVERIFY(fake.messages.shown.first().message.contains(QDir::toNativeSeparators(path)));
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(f.readAll(), junk);
+    }
+
+    void cleanUpCompacts()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        const QByteArray big(200000, 'x');
+        for (int i = 0; i < 5; ++i)
+            db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QString::number(i)}, {QStringLiteral("TeamLogo"), big}});
+        db.exec(QStringLiteral("DELETE FROM Teams"));
+        const qint64 before = QFileInfo(db.filePath()).size();
+        db.cleanUpDB();
+        QVERIFY(QFileInfo(db.filePath()).size() < before / 4);
+        QVERIFY(fake.messages.shown.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDatabase)
+#include "tst_database.moc"

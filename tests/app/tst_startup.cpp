@@ -1,0 +1,317 @@
+// Starting the program: the files a first start leaves, the start screen,
+// the season popup, the About box, the single-instance lock and the
+// message dialog.
+
+#include "app/App.h"
+#include "app/globals.h"
+#include "app/myDictionaries.h"
+#include "app/ui/AboutScrn.h"
+#include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenDirectory.h"
+#include "app/ui/splashScrn.h"
+#include "app/ui/startScrn1.h"
+#include "fakes/FakePlatform.h"
+#include "platform/qt/QtServices.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QBuffer>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+class TestStartup : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QByteArray readFile(const QString &path)
+    {
+        QFile f(path);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+    static void closeAllWindows()
+    {
+        QApplication::closeAllWindows();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    static QStringList popupItems(QComboBox *box)
+    {
+        QStringList items;
+        for (int i = 0; i < box->count(); ++i)
+            items.append(box->itemText(i));
+        return items;
+    }
+
+private Q_SLOTS:
+    void cleanup() { closeAllWindows(); }
+
+    void firstStartAndSecondStart()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        const QString root = home.filePath(QStringLiteral("share"));
+        const QString data = myPrefs::dataFolderFor(root);
+        QByteArray prefsBytes;
+        {
+            App app(root);
+            QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+            QCOMPARE(gPrefs, app.prefs());
+            QCOMPARE(gData, app.data());
+            QVERIFY(gData->isConnected());
+            QCOMPARE(QDir(data).entryList(QDir::Files | QDir::NoDotAndDotDot, QDir::Name),
+                     (QStringList{"tLineBB.pref", "tlData_2026.sqlite"}));
+            QCOMPARE(hitD.value(QStringLiteral("RSP")), 22);
+            QCOMPARE(app.BUTimer->mode(), myTimerClass::ModeOff);
+            QCOMPARE(app.BUTimer->period(), 60000);
+            prefsBytes = readFile(QDir(data).filePath(QStringLiteral("tLineBB.pref")));
+            app.Event_Close();
+        }
+        QVERIFY(gPrefs == nullptr && gData == nullptr);
+        fake.clock.time = fake.clock.time.addDays(400); // a later year must not change the season
+        App again(root);
+        QCOMPARE(again.Event_Open(), App::OpenResult::Ok);
+        QCOMPARE(gPrefs->prSeason, QStringLiteral("2026"));
+        again.Event_Close();
+        QCOMPARE(readFile(QDir(data).filePath(QStringLiteral("tLineBB.pref"))), prefsBytes);
+        QVERIFY(fake.messages.shown.isEmpty());
+    }
+
+    void secondCopyTouchesNothing()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App first(home.path());
+        QCOMPARE(first.Event_Open(), App::OpenResult::Ok);
+        gPrefs->prInnings = QStringLiteral("7 Innings");
+        gPrefs->prefsDirty = true;
+        const QByteArray before = readFile(gPrefs->prefsFilePath());
+        myPrefs *firstPrefs = gPrefs;
+        {
+            App second(home.path());
+            QCOMPARE(second.Event_Open(), App::OpenResult::AlreadyRunning);
+            QCOMPARE(fake.messages.shown.size(), 1);
+            QVERIFY(fake.messages.shown.first().message.contains(QStringLiteral("already running")));
+            second.Event_Close();
+        }
+        QCOMPARE(readFile(firstPrefs->prefsFilePath()), before);
+    }
+
+    void startScreenShowsHomeTeam()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        QImage logo(40, 20, QImage::Format_RGB32);
+        logo.fill(Qt::red);
+        QByteArray png;
+        {
+            QBuffer buffer(&png);
+            buffer.open(QIODevice::WriteOnly);
+            logo.save(&buffer, "PNG");
+        }
+        const qint64 id = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Cardinals")},
+                                                                  {QStringLiteral("SchoolName"), QStringLiteral("St. Anne's")},
+                                                                  {QStringLiteral("TeamLogo"), png}});
+        gPrefs->prHomeTeam = QString::number(id);
+
+        startScrn1 *start = startScrn1::showStartScreen();
+        QVERIFY(QTest::qWaitForWindowExposed(start));
+        QCOMPARE(start->teamNameLabel->text(), QStringLiteral("St. Anne's Cardinals"));
+        QCOMPARE(start->curLogo.size(), QSize(40, 20));
+        QCOMPARE(popupItems(start->SelectSeasonPop), (QStringList{"Select Season", "2026"}));
+        QCOMPARE(start->SelectSeasonPop->currentIndex(), 1);
+
+        // Screens that aren't part of the program are disabled; About works.
+        for (const char *name : {"teamScrnBtn", "ShowSchedules", "inventoryBtn", "prefBtn", "newSeasonBtn"})
+            QVERIFY(!start->findChild<QPushButton *>(QString::fromLatin1(name))->isEnabled());
+        QVERIFY(!start->menuBar()->item(QStringLiteral("FilePrint"))->isEnabled());
+        QVERIFY(start->menuBar()->item(QStringLiteral("HelpAbout"))->isEnabled());
+        QVERIFY(!start->menuBar()->item(QStringLiteral("FileBackup"))->isEnabled());
+
+        // A home team that is gone leaves the label empty.
+        gData->exec(QStringLiteral("DELETE FROM Teams"));
+        start->setLogo_Name();
+        QCOMPARE(start->teamNameLabel->text(), QString());
+    }
+
+    void registeredScreenOpensAndStartComesBack()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        QPointer<QWidget> opened;
+        screens::registerScreen(QStringLiteral("teamScrn"), [&opened] {
+            auto *w = new QWidget;
+            w->setObjectName(QStringLiteral("teamScrn"));
+            opened = w;
+            return w;
+        });
+        startScrn1 *start = startScrn1::showStartScreen();
+        auto *button = start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"));
+        QVERIFY(button->isEnabled());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(opened && opened->isVisible());
+        QVERIFY(startScrn1::instance() == nullptr); // closed after the target showed
+        QCOMPARE(app.BUTimer->mode(), myTimerClass::ModeMultiple);
+
+        app.BUTimer->mCount = 3;
+        start = startScrn1::showStartScreen();
+        QCOMPARE(app.BUTimer->mode(), myTimerClass::ModeOff);
+        QCOMPARE(app.BUTimer->mCount, 3); // minutes add up across visits
+        screens::unregisterScreen(QStringLiteral("teamScrn"));
+    }
+
+    void seasonPopup()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        const QString folder = gPrefs->strdDataLoc;
+        { myDB other(folder, QStringLiteral("2025 Fall")); }
+        QFile::copy(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite")), QDir(folder).filePath(QStringLiteral("notes.txt")));
+        const QByteArray prefsBefore = readFile(gPrefs->prefsFilePath());
+
+        startScrn1 *start = startScrn1::showStartScreen();
+        QCOMPARE(popupItems(start->SelectSeasonPop), (QStringList{"Select Season", "2025 Fall", "2026"}));
+
+        // Choosing a season switches the open file without dirtying the preferences.
+        start->SelectSeasonPop->setCurrentIndex(1);
+        QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
+        QVERIFY(gData->filePath().endsWith(QStringLiteral("tlData_2025 Fall.sqlite")));
+        QVERIFY(!gPrefs->prefsDirty);
+
+        // "Select Season" does nothing.
+        myDB *current = gData;
+        start->SelectSeasonPop->setCurrentIndex(0);
+        QCOMPARE(gData, current);
+        QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
+
+        // A file deleted behind the program's back: the message, and no change.
+        QVERIFY(QFile::remove(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite"))));
+        start->SelectSeasonPop->setCurrentIndex(2);
+        QCOMPARE(fake.messages.shown.size(), 1);
+        QCOMPARE(fake.messages.shown[0].message, QStringLiteral("Data for season 2026 is no longer available"));
+        QCOMPARE(fake.messages.shown[0].explanation, QStringLiteral("Please re-select the previous season"));
+        QCOMPARE(fake.messages.shown[0].actionCaption, QStringLiteral("OK"));
+        QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
+        QCOMPARE(gData, current);
+
+        // Quitting after only a switch leaves the old season in the file.
+        app.Event_Close();
+        QCOMPARE(readFile(gPrefs->prefsFilePath()), prefsBefore);
+    }
+
+    void emptyDataFolderOffersOnlySelectSeason()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        QVERIFY(QFile::remove(gData->filePath()));
+        startScrn1 *start = startScrn1::showStartScreen();
+        QCOMPARE(popupItems(start->SelectSeasonPop), QStringList{"Select Season"});
+        QCOMPARE(start->SelectSeasonPop->currentIndex(), 0);
+    }
+
+    void splashClosesOnClickAndShowsStart()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        QPointer<splashScrn> splash = new splashScrn;
+        splash->show();
+        QVERIFY(QTest::qWaitForWindowExposed(splash));
+        QCOMPARE(splash->closeTimer.interval(), 3000);
+        QVERIFY(splash->closeTimer.isActive());
+        QTest::mousePress(splash, Qt::LeftButton);
+        QVERIFY(splash->isVisible()); // only the release closes it
+        QTest::mouseRelease(splash, Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!splash);
+        QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
+    }
+
+    void splashClosesByItself()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        QPointer<splashScrn> splash = new splashScrn;
+        splash->closeTimer.setInterval(10);
+        splash->closeTimer.start();
+        splash->show();
+        QTRY_VERIFY(!splash);
+        QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
+    }
+
+    void aboutBox()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        startScrn1 *start = startScrn1::showStartScreen();
+        start->menuBar()->item(QStringLiteral("HelpAbout"))->trigger();
+        auto *about = start->findChild<AboutScrn *>();
+        QVERIFY(about && about->isVisible());
+        QCOMPARE(about->versLabel->text(), QStringLiteral("Version 2.2.0: Build 2"));
+        QCOMPARE(app.getLongVers(), QStringLiteral("Tallyline Baseball v.2.2.0"));
+        QPointer<AboutScrn> guard = about;
+        QTest::mouseClick(about->creditsTxt->viewport(), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!guard);
+    }
+
+    // The real dialog: Escape answers "cancel" (1), the buttons answer 0 and 2.
+    void realMessageDialog_data()
+    {
+        QTest::addColumn<QString>("press");
+        QTest::addColumn<int>("result");
+        QTest::newRow("escape") << QStringLiteral("escape") << 1;
+        QTest::newRow("action") << QStringLiteral("Save") << 0;
+        QTest::newRow("alternate") << QStringLiteral("Discard") << 2;
+    }
+    void realMessageDialog()
+    {
+        QFETCH(QString, press);
+        QFETCH(int, result);
+        platform::qt::QtMessageService real;
+        QStringList captions;
+        QTimer::singleShot(0, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            for (QAbstractButton *b : box->buttons())
+                captions.append(b->text());
+            if (press == u"escape") {
+                QTest::keyClick(box, Qt::Key_Escape);
+                return;
+            }
+            for (QAbstractButton *b : box->buttons()) {
+                if (b->text() == press)
+                    b->click();
+            }
+        });
+        QCOMPARE(int(real.showMsgDlog(QStringLiteral("Save changes?"), QStringLiteral("They will be lost."),
+                                      QStringLiteral("Save"), QStringLiteral("Discard"))),
+                 result);
+        QCOMPARE(captions.size(), 3);
+        QVERIFY(captions.contains(QStringLiteral("Save")) && captions.contains(QStringLiteral("Discard")));
+    }
+};
+
+QTEST_MAIN(TestStartup)
+#include "tst_startup.moc"

@@ -1,0 +1,108 @@
+#include "fakes/FakePlatform.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace fakes {
+
+std::uint8_t FakeMessages::showMsgDlog(const QString &message, const QString &explanation,
+                                       const QString &actionCaption, const QString &altCaption)
+{
+    shown.append({message, explanation, actionCaption, altCaption, false});
+    return answers.isEmpty() ? defaultAnswer : answers.dequeue();
+}
+
+void FakeMessages::msgBox(const QString &text)
+{
+    shown.append({text, {}, {}, {}, true});
+}
+
+QStringList FakeMessages::texts() const
+{
+    QStringList out;
+    for (const ShownMessage &m : shown)
+        out.append(m.message);
+    return out;
+}
+
+QString FakeFileDialogs::answer(const QString &kind, const platform::FileRequest &request)
+{
+    calls.append({kind, request});
+    return answers.isEmpty() ? QString() : answers.dequeue();
+}
+
+QString FakeFileDialogs::selectFolder(const platform::FileRequest &request) { return answer(QStringLiteral("folder"), request); }
+QString FakeFileDialogs::openFile(const platform::FileRequest &request) { return answer(QStringLiteral("open"), request); }
+QString FakeFileDialogs::saveFile(const platform::FileRequest &request) { return answer(QStringLiteral("save"), request); }
+void FakeFileDialogs::revealInFileBrowser(const QString &path) { revealed.append(path); }
+
+namespace {
+
+class PdfJob final : public platform::PrintJob
+{
+public:
+    PdfJob(const QString &path, const platform::PrinterSetup &setup, int copies)
+        : m_writer(path), m_setup(setup), m_copies(copies)
+    {
+        m_writer.setPageLayout(setup.layout());
+        m_writer.setResolution(1200);
+        m_painter.begin(&m_writer);
+        const qreal scale = m_writer.resolution() / 72.0;
+        m_painter.scale(scale, scale);
+    }
+    ~PdfJob() override
+    {
+        if (m_painter.isActive())
+            m_painter.end();
+    }
+    QPainter &painter() override { return m_painter; }
+    const platform::PrinterSetup &setup() const override { return m_setup; }
+    bool newPage() override { return m_writer.newPage(); }
+    int copies() const override { return m_copies; }
+    bool finish() override { return m_painter.end(); }
+
+private:
+    QPdfWriter m_writer;
+    platform::PrinterSetup m_setup;
+    int m_copies;
+    QPainter m_painter;
+};
+
+} // namespace
+
+PdfPrintService::PdfPrintService(QString dir) : directory(std::move(dir))
+{
+    if (directory.isEmpty())
+        directory = QDir::tempPath();
+}
+
+std::optional<platform::PrinterSetup> PdfPrintService::pageSetupDialog(const platform::PrinterSetup &current)
+{
+    ++setupDialogs;
+    if (!setupAnswers.isEmpty())
+        return setupAnswers.dequeue();
+    return current;
+}
+
+std::unique_ptr<platform::PrintJob> PdfPrintService::printDialog(const platform::PrinterSetup &setup, const QString &)
+{
+    ++printDialogs;
+    if (cancelPrint)
+        return nullptr;
+    const QString path = QDir(directory).filePath(QStringLiteral("print-%1.pdf").arg(printed.size() + 1));
+    printed.append(path);
+    return std::make_unique<PdfJob>(path, setup, copies);
+}
+
+FakePlatform::FakePlatform(const QString &printDirectory) : printing(printDirectory)
+{
+    m_previous = platform::install({&messages, &files, &printing, &urls, &beeper, &clock});
+}
+
+FakePlatform::~FakePlatform()
+{
+    platform::install(m_previous);
+}
+
+} // namespace fakes

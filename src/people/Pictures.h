@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+class QMimeData;
+
+// Logos and photos: kept in the season file as PNG and read from any
+// picture file the coach picks or drops.
+namespace people {
+
+// The picture as PNG at the default quality; empty for a null picture.
+QByteArray toPng(const QImage &picture);
+// A stored picture; null for an empty or unreadable blob.
+QImage fromBlob(const QByteArray &blob);
+// A file opened as a picture, whatever its name says; null when it isn't one.
+QImage readPictureFile(const QString &path);
+// The picture carried by a drop: an image itself, or the first local file
+// that opens as a picture. Null when the drop holds neither.
+QImage pictureFromMime(const QMimeData *mime);
+// True when a drop could carry a picture (used to accept the drag).
+bool mayCarryPicture(const QMimeData *mime);
+
+// The generic picture of a player or coach without a photo.
+QImage genericPicture();
+
+} // namespace people

@@ -1,0 +1,217 @@
+// The team and player data printouts, printed to PDF and read back.
+
+#include "PeopleFixture.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/TestSupport.h"
+#include "people/RosterBook.h"
+#include "people/TeamBook.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+using people::MemberKind;
+using people::MemberRecord;
+
+namespace {
+
+// The sizes of the pictures placed in a PDF (needs poppler's pdfimages).
+QList<QSize> pdfImageSizes(const QString &path)
+{
+    QProcess p;
+    p.start(QStringLiteral("pdfimages"), {QStringLiteral("-list"), path});
+    p.waitForFinished(30000);
+    QList<QSize> sizes;
+    const QStringList lines = QString::fromUtf8(p.readAllStandardOutput()).split(u'\n');
+    static const QRegularExpression row(QStringLiteral(R"(^\s*\d+\s+\d+\s+(\w+)\s+(\d+)\s+(\d+))"));
+    for (const QString &line : lines) {
+        const auto m = row.match(line);
+        // Soft masks (the alpha of a picture) are listed apart; count pictures only.
+        if (m.hasMatch() && m.captured(1) == u"image")
+            sizes.append(QSize(m.captured(2).toInt(), m.captured(3).toInt()));
+    }
+    return sizes;
+}
+
+const fakes::PdfWord *findWord(const QList<fakes::PdfWord> &words, const QString &text, int nth = 0)
+{
+    for (const fakes::PdfWord &w : words) {
+        if (w.text == text && nth-- == 0)
+            return &w;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestPeoplePrint : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_out;
+
+private Q_SLOTS:
+    void teamBlocksAndPages_data()
+    {
+        QTest::addColumn<bool>("logos");
+        QTest::addColumn<int>("copies");
+        QTest::newRow("with logos") << true << 1;
+        QTest::newRow("without logos, two copies") << false << 2;
+    }
+    void teamBlocksAndPages()
+    {
+        QFETCH(bool, logos);
+        QFETCH(int, copies);
+        fakes::FakePlatform fake(m_out.path());
+        fake.printing.copies = copies;
+        PeopleFixture f;
+        f.prefs->prLogoOnReport = logos;
+        people::TeamBook book(*f.db, *f.prefs);
+        for (int i = 1; i <= 4; ++i) {
+            people::TeamRecord t;
+            t.SchoolName = QStringLiteral("School%1").arg(i);
+            t.TeamName = QStringLiteral("O'Brien's");
+            t.League = QStringLiteral("Metro");
+            t.Division = QStringLiteral("North");
+            t.SchoolAddress = QStringLiteral("%1 Elm St.").arg(i);
+            t.SchoolCity = QStringLiteral("Dublin");
+            t.SchoolState = QStringLiteral("OH");
+            t.SchoolZip = QStringLiteral("43017");
+            t.Phone = QStringLiteral("6145551234");
+            t.HomeField = QStringLiteral("Riverside");
+            t.TeamLogo = QImage(40 + i, 40, QImage::Format_RGB32);
+            t.TeamLogo.fill(QColor(40 * i, 20, 20));
+            book.save(t, false);
+        }
+        QVERIFY(book.hndlPrint(2, {}, QImage()));
+        QCOMPARE(fake.printing.printed.size(), 1);
+        const QString pdf = fake.printing.printed.first();
+        // Letter with half-inch margins holds three 216-point blocks a page.
+        QCOMPARE(fakes::pdfPageCount(pdf), 2 * copies);
+        const auto words = fakes::pdfWords(pdf);
+        const auto *first = findWord(words, QStringLiteral("School1"));
+        const auto *second = findWord(words, QStringLiteral("School2"));
+        const auto *fourth = findWord(words, QStringLiteral("School4"));
+        QVERIFY(first && second && fourth);
+        QCOMPARE(first->page, 1);
+        QCOMPARE(fourth->page, 2);
+        QCOMPARE(qRound(second->yMin - first->yMin), 216);
+        QCOMPARE(qRound(fourth->yMin), qRound(first->yMin)); // a new page starts at the top
+        QVERIFY(qAbs(first->xMin - 36) < 1.5);                // at the left margin
+        const auto *league = findWord(words, QStringLiteral("League"));
+        const auto *field = findWord(words, QStringLiteral("Field:"));
+        QCOMPARE(qRound(league->yMin - first->yMin), 16);
+        QCOMPARE(qRound(field->yMin - first->yMin), 112);
+        QVERIFY(findWord(words, QStringLiteral("O'Brien's")));
+        QVERIFY(fakes::pdfText(pdf).contains(QStringLiteral("(614) 555-1234")));
+        QCOMPARE(pdfImageSizes(pdf).size(), logos ? 4 * copies : 0);
+    }
+
+    void selectedTeamNeedsSelection()
+    {
+        fakes::FakePlatform fake(m_out.path());
+        PeopleFixture f;
+        people::TeamBook book(*f.db, *f.prefs);
+        const QString id = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        QVERIFY(!book.hndlPrint(1, {}, QImage()));
+        QCOMPARE(fake.messages.texts(), QStringList{"Please Select a Team."});
+        QCOMPARE(fake.printing.printDialogs, 0);
+
+        fake.printing.cancelPrint = true;
+        QVERIFY(!book.hndlPrint(1, id, QImage()));
+        QCOMPARE(fake.printing.printDialogs, 1);
+        QVERIFY(fake.printing.printed.isEmpty());
+    }
+
+    // The photo question: the photo, the generic picture for a player
+    // without one, or no picture at all.
+    void playerPhoto_data()
+    {
+        QTest::addColumn<bool>("hasPhoto");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QSize>("picture");
+        QTest::newRow("photo") << true << 0 << QSize(60, 70);
+        QTest::newRow("generic picture") << false << 0 << QSize(258, 300);
+        QTest::newRow("Don't Include") << true << 2 << QSize();
+    }
+    void playerPhoto()
+    {
+        QFETCH(bool, hasPhoto);
+        QFETCH(int, answer);
+        QFETCH(QSize, picture);
+        fakes::FakePlatform fake(m_out.path());
+        fake.messages.answers.enqueue(std::uint8_t(answer));
+        PeopleFixture f;
+        people::RosterBook book(*f.db);
+        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        MemberRecord p;
+        p.TeamNum = team;
+        p.First = QStringLiteral("Zoë");
+        p.Last = QStringLiteral("O'Neil");
+        p.UniNum = QStringLiteral("22");
+        p.Pos1 = QStringLiteral("SS");
+        p.HitSide = QStringLiteral("Left");
+        p.DOB = QStringLiteral("04/16/2012");
+        p.Guardian = QStringLiteral("Ana");
+        p.GuardianPhone = QStringLiteral("555-0001");
+        p.Doctor = QStringLiteral("Dr. Ng");
+        if (hasPhoto) {
+            p.picture = QImage(60, 70, QImage::Format_RGB32);
+            p.picture.fill(Qt::darkCyan);
+        }
+        const QString id = QString::number(book.add(p));
+
+        QVERIFY(!book.hndlPrint(1, team, {}));
+        QCOMPARE(fake.messages.texts(), QStringList{"Please select a Player"});
+        fake.messages.clear();
+
+        QVERIFY(book.hndlPrint(1, team, id));
+        QCOMPARE(fake.messages.shown.size(), 1);
+        QCOMPARE(fake.messages.shown[0].message, QStringLiteral("Include the Player's Photo on the printout?"));
+        QCOMPARE(fake.messages.shown[0].actionCaption, QStringLiteral("Include"));
+        QCOMPARE(fake.messages.shown[0].altCaption, QStringLiteral("Don't Include"));
+        const QString pdf = fake.printing.printed.first();
+        const QList<QSize> images = pdfImageSizes(pdf);
+        QCOMPARE(images, picture.isValid() ? QList<QSize>{picture} : QList<QSize>{});
+
+        // The three columns of the playing data stand a third of the width apart.
+        const auto words = fakes::pdfWords(pdf);
+        const auto *name = findWord(words, QStringLiteral("Zoë"));
+        const auto *data = findWord(words, QStringLiteral("DATA---"));
+        const auto *uniform = findWord(words, QStringLiteral("Uniform"));
+        const auto *pos = findWord(words, QStringLiteral("Pos"));
+        const auto *dob = findWord(words, QStringLiteral("04/16/2012"));
+        const auto *doctor = findWord(words, QStringLiteral("Ng"));
+        QVERIFY(name && data && uniform && pos && dob && doctor);
+        QCOMPARE(qRound(data->yMin - name->yMin), 128);
+        QCOMPARE(qRound(uniform->xMin - data->xMin), 180);
+        QCOMPARE(qRound(pos->xMin - data->xMin), 360);
+        QCOMPARE(qRound(dob->yMin - name->yMin), 144);
+        QCOMPARE(qRound(doctor->yMin - name->yMin), 224);
+        QVERIFY(findWord(words, QStringLiteral("#22")));
+        QVERIFY(findWord(words, QStringLiteral("O'Neil")));
+    }
+
+    void allPlayersOfTheTeam()
+    {
+        fakes::FakePlatform fake(m_out.path());
+        fake.messages.answers.enqueue(platform::MsgAlternate);
+        PeopleFixture f;
+        people::RosterBook book(*f.db);
+        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        const QString other = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
+        for (const char *last : {"Able", "Baker", "Cole"})
+            f.addPlayer(team, QStringLiteral("P"), QString::fromLatin1(last));
+        f.addPlayer(other, QStringLiteral("P"), QStringLiteral("Elsewhere"));
+        QVERIFY(book.hndlPrint(2, team, {}));
+        const QString pdf = fake.printing.printed.first();
+        // 270-point blocks: two to a 720-point page.
+        QCOMPARE(fakes::pdfPageCount(pdf), 2);
+        const QString text = fakes::pdfText(pdf);
+        QVERIFY(text.contains(QStringLiteral("Baker")) && text.contains(QStringLiteral("Cole")));
+        QVERIFY(!text.contains(QStringLiteral("Elsewhere")));
+    }
+};
+
+QTEST_MAIN(TestPeoplePrint)
+#include "tst_peopleprint.moc"

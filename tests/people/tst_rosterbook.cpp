@@ -1,0 +1,222 @@
+// The personnel rules without a window: members stored as typed, trading,
+// removing, the save question for a changed member.
+
+#include "PeopleFixture.h"
+#include "fakes/FakePlatform.h"
+#include "people/RosterBook.h"
+
+#include <QTest>
+
+using people::MemberEditState;
+using people::MemberKind;
+using people::MemberRecord;
+using people::RosterBook;
+
+class TestRosterBook : public QObject
+{
+    Q_OBJECT
+
+    static MemberRecord member(MemberKind kind, const QString &team, const QString &first, const QString &last)
+    {
+        MemberRecord m;
+        m.kind = kind;
+        m.TeamNum = team;
+        m.First = first;
+        m.Last = last;
+        return m;
+    }
+
+private Q_SLOTS:
+    void playerStoredAsTyped()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        RosterBook book(*f.db);
+        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        MemberRecord p = member(MemberKind::Player, team, QStringLiteral("José \"Pepe\""),
+                                QStringLiteral("O'Neil; Łukasiewicz\tJr"));
+        p.Address = QStringLiteral("12 \"Main\" St., Apt; 4");
+        p.City = QStringLiteral("Dublin");
+        p.State = QStringLiteral("OH");
+        p.Zip = QStringLiteral("43017");
+        p.PhoneNumber = QStringLiteral("(614) 555-1234");
+        p.CellPhone = QStringLiteral("555-9876");
+        p.Email = QStringLiteral("pepe@example.com");
+        p.UniNum = QStringLiteral("07");
+        p.Pos1 = QStringLiteral("SS");
+        p.Pos2 = QStringLiteral("C");
+        p.Pos3 = QStringLiteral("RHP");
+        p.HitSide = QStringLiteral("Switch");
+        p.ThrowSide = QStringLiteral("Left");
+        p.DOB = QStringLiteral("04/16/2012");
+        p.StudentID = QStringLiteral("S-1'2");
+        p.Guardian = QStringLiteral("Ana O'Neil");
+        p.GuardianPhone = QStringLiteral("555-0001");
+        p.EmergContact = QStringLiteral("Tío Jorge");
+        p.EmergPhone = QStringLiteral("555-0002");
+        p.Doctor = QStringLiteral("Dr. Ng");
+        p.DoctorPhone = QStringLiteral("555-0003");
+        p.MedInfo = QStringLiteral("Peanuts; bees");
+        p.PlayerNotes = QStringLiteral("Line one\nline\ttwo");
+        p.Active = false;
+        p.picture = QImage(12, 14, QImage::Format_RGB32);
+        p.picture.fill(Qt::blue);
+
+        const qint64 id = book.add(p);
+        QVERIFY(id > 0);
+        auto back = book.store().member(MemberKind::Player, QString::number(id));
+        QVERIFY(back);
+        QCOMPARE(back->First, p.First);
+        QCOMPARE(back->Last, QStringLiteral("O'Neil; Łukasiewicz Jr"));
+        QCOMPARE(back->TeamNum, team);
+        for (auto field : {&MemberRecord::Address, &MemberRecord::PhoneNumber, &MemberRecord::CellPhone,
+                           &MemberRecord::UniNum, &MemberRecord::Pos1, &MemberRecord::Pos2, &MemberRecord::Pos3,
+                           &MemberRecord::HitSide, &MemberRecord::ThrowSide, &MemberRecord::DOB,
+                           &MemberRecord::StudentID, &MemberRecord::Guardian, &MemberRecord::EmergContact,
+                           &MemberRecord::DoctorPhone, &MemberRecord::MedInfo, &MemberRecord::PlayerNotes})
+            QCOMPARE((*back).*field, p.*field);
+        QCOMPARE(back->Active, false);
+        QCOMPARE(back->picture.size(), QSize(12, 14));
+        QVERIFY(f.db->scalar(QStringLiteral("SELECT PlayerPic FROM Players")).toByteArray().startsWith("\x89PNG"));
+
+        const auto rows = book.store().list(MemberKind::Player, team);
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(rows[0].Pos1, QStringLiteral("SS"));
+        QVERIFY(fake.messages.shown.isEmpty());
+    }
+
+    void coachKeepsAssistantFlag()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        RosterBook book(*f.db);
+        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        MemberRecord c = member(MemberKind::Coach, team, QStringLiteral("Dee"), QStringLiteral("Ewing"));
+        c.Assistant = true;
+        const QString id = QString::number(book.add(c));
+        QCOMPARE(book.store().member(MemberKind::Coach, id)->Assistant, true);
+        QCOMPARE(book.store().list(MemberKind::Coach, team).size(), 1);
+        QCOMPARE(book.store().list(MemberKind::Player, team).size(), 0);
+    }
+
+    void needsFullName_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("last");
+        QTest::newRow("no first") << "" << "Reyes";
+        QTest::newRow("no last") << "Al" << " ";
+    }
+    void needsFullName()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, last);
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        RosterBook book(*f.db);
+        QCOMPARE(book.add(member(MemberKind::Player, QStringLiteral("1"), first, last)), -1);
+        QCOMPARE(fake.messages.texts(), QStringList{"Please enter a full name for this team member."});
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 0);
+    }
+
+    void tradeMovesToOtherTeam_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("player") << int(MemberKind::Player);
+        QTest::newRow("coach") << int(MemberKind::Coach);
+    }
+    void tradeMovesToOtherTeam()
+    {
+        QFETCH(int, kind);
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        RosterBook book(*f.db);
+        const QString a = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        const QString b = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
+        const auto k = MemberKind(kind);
+        const QString id = QString::number(book.add(member(k, a, QStringLiteral("Al"), QStringLiteral("Reyes"))));
+
+        MemberRecord m = *book.store().member(k, id);
+        m.City = QStringLiteral("Columbus");
+        QVERIFY(book.edit(m)); // no trade: stays
+        QCOMPARE(book.store().list(k, a).size(), 1);
+
+        QVERIFY(book.edit(m, b));
+        QCOMPARE(book.store().list(k, a).size(), 0);
+        const auto there = book.store().list(k, b);
+        QCOMPARE(there.size(), 1);
+        QCOMPARE(there[0].id, id);
+        QCOMPARE(book.store().member(k, id)->City, QStringLiteral("Columbus"));
+
+        MemberRecord gone = m;
+        gone.id = QStringLiteral("404");
+        QVERIFY(!book.edit(gone));
+        QCOMPARE(fake.messages.texts().last(), QStringLiteral("Unable to update team"));
+    }
+
+    void removeAsksFirst()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        RosterBook book(*f.db);
+        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        const QString id = f.addPlayer(team, QStringLiteral("Al"), QStringLiteral("Reyes"));
+        f.db->exec(QStringLiteral("INSERT INTO Hitting (playerID, teamID, AB) VALUES (?, ?, 3)"), {id, team});
+
+        fake.messages.answers.enqueue(platform::MsgCancel);
+        QVERIFY(!book.askAndRemove(MemberKind::Player, id, QStringLiteral("Al Reyes")));
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 1);
+        const fakes::ShownMessage &asked = fake.messages.shown.first();
+        QCOMPARE(asked.message, QStringLiteral("Are you sure you wish to remove Al Reyes from this team?"));
+        QCOMPARE(asked.explanation, QStringLiteral("This action cannot be undone"));
+        QCOMPARE(asked.actionCaption, QStringLiteral("Remove"));
+
+        QVERIFY(book.askAndRemove(MemberKind::Player, id, QStringLiteral("Al Reyes")));
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 0);
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Hitting")), 1); // season rows stay
+    }
+
+    void dirtyState()
+    {
+        MemberEditState s;
+        s.setDirty(); // nothing loaded: typing marks nothing
+        QVERIFY(!s.needsSaveQuestion());
+        s.loaded();
+        s.disableChg = true;
+        s.setDirty(); // the screen filling its own fields
+        QVERIFY(!s.needsSaveQuestion());
+        s.disableChg = false;
+        s.setDirty();
+        QVERIFY(s.needsSaveQuestion());
+        s.cleared();
+        QVERIFY(!s.needsSaveQuestion());
+    }
+
+    void askSaveDirty_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("Save") << 0 << true;
+        QTest::newRow("Cancel") << 1 << false;
+    }
+    void askSaveDirty()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, saved);
+        fakes::FakePlatform fake;
+        fake.messages.answers.enqueue(std::uint8_t(answer));
+        MemberEditState s;
+        s.loaded();
+        s.setDirty();
+        int saves = 0;
+        QCOMPARE(RosterBook::askSaveDirty(s, [&saves] { ++saves; }), saved);
+        QCOMPARE(saves, saved ? 1 : 0);
+        QVERIFY(!s.editDirty);
+        const fakes::ShownMessage &asked = fake.messages.shown.first();
+        QCOMPARE(asked.message, QStringLiteral("Would you like to save the changes to this member?"));
+        QCOMPARE(asked.explanation, QStringLiteral("If you do not save, changes will be lost"));
+        QCOMPARE(asked.actionCaption, QStringLiteral("Save"));
+    }
+};
+
+QTEST_MAIN(TestRosterBook)
+#include "tst_rosterbook.moc"

@@ -1,0 +1,223 @@
+// The team rules without a window: storing what was typed, the home team,
+// deleting a team with its players, and closing.
+
+#include "PeopleFixture.h"
+#include "fakes/FakePlatform.h"
+#include "people/Pictures.h"
+#include "people/TeamBook.h"
+
+#include <QTest>
+
+using people::TeamBook;
+using people::TeamRecord;
+
+class TestTeamBook : public QObject
+{
+    Q_OBJECT
+
+    static TeamRecord team(const QString &school, const QString &name)
+    {
+        TeamRecord t;
+        t.SchoolName = school;
+        t.TeamName = name;
+        return t;
+    }
+
+private Q_SLOTS:
+    void storesEveryFieldAsTyped()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        TeamBook book(*f.db, *f.prefs);
+        TeamRecord t = team(QStringLiteral("O'Brien's \"Prep\"; Academy"), QStringLiteral("Señores\tRojos"));
+        t.League = QStringLiteral("Tri-County, North");
+        t.Division = QStringLiteral("A; B");
+        t.SchoolAddress = QStringLiteral("1 Elm St.");
+        t.SchoolAddress1 = QStringLiteral("Suite \"B\"");
+        t.SchoolCity = QStringLiteral("Zürich");
+        t.SchoolZip = QStringLiteral("43017");
+        t.SchoolState = QStringLiteral("OH");
+        t.Phone = QStringLiteral("6145551234");
+        t.HomeField = QStringLiteral("Mc'Kinley Park'); DROP TABLE Teams;--");
+        t.Active = false;
+        t.TeamLogo = QImage(30, 20, QImage::Format_ARGB32);
+        t.TeamLogo.fill(Qt::darkGreen);
+
+        const auto saved = book.save(t, false);
+        QCOMPARE(saved.result, TeamBook::Saved::Added);
+        const auto back = book.store().team(saved.teamID);
+        QVERIFY(back);
+        QCOMPARE(back->SchoolName, t.SchoolName);
+        QCOMPARE(back->TeamName, QStringLiteral("Señores Rojos")); // the tab can't reach the game strings
+        QCOMPARE(back->League, t.League);
+        QCOMPARE(back->Division, t.Division);
+        QCOMPARE(back->SchoolAddress1, t.SchoolAddress1);
+        QCOMPARE(back->SchoolCity, t.SchoolCity);
+        QCOMPARE(back->SchoolState, t.SchoolState);
+        QCOMPARE(back->Phone, t.Phone);
+        QCOMPARE(back->HomeField, t.HomeField);
+        QCOMPARE(back->Active, false);
+        QCOMPARE(back->TeamLogo.size(), QSize(30, 20));
+        QCOMPARE(back->TeamLogo.pixelColor(5, 5), QColor(Qt::darkGreen));
+        // The logo is kept as PNG.
+        QVERIFY(f.db->scalar(QStringLiteral("SELECT TeamLogo FROM Teams")).toByteArray().startsWith("\x89PNG"));
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
+
+        // Edited, and found again by the values typed.
+        TeamRecord edited = *back;
+        edited.TeamName = QStringLiteral("O'Brien's");
+        QCOMPARE(book.save(edited, false).result, TeamBook::Saved::Edited);
+        QCOMPARE(book.store().team(saved.teamID)->TeamName, QStringLiteral("O'Brien's"));
+        QCOMPARE(book.store().distinctValues(QStringLiteral("HomeField")), QStringList{t.HomeField});
+        QCOMPARE(book.store().distinctValues(QStringLiteral("TeamName")), QStringList()); // only the offered columns
+        QVERIFY(fake.messages.shown.isEmpty());
+    }
+
+    void refusesWhatCantBeSaved()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        TeamBook book(*f.db, *f.prefs);
+        QCOMPARE(book.save(team(QStringLiteral("Central"), QStringLiteral("  ")), true).result,
+                 TeamBook::Saved::Refused);
+        QCOMPARE(fake.messages.texts(), QStringList{"Please fill in the team name field."});
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 0);
+
+        TeamRecord gone = team(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        gone.teamID = QStringLiteral("99");
+        QCOMPARE(book.save(gone, false).result, TeamBook::Saved::Failed);
+        QCOMPARE(fake.messages.texts().last(), QStringLiteral("Unable to update team"));
+        QVERIFY(f.prefs->prHomeTeam.isEmpty());
+    }
+
+    // The first home team needs no question; a different one asks, and only
+    // "Change" changes it. Choosing it doesn't dirty the preferences.
+    void homeTeamRules_data()
+    {
+        QTest::addColumn<bool>("secondByEdit");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("changed");
+        QTest::newRow("added, Change") << false << 0 << true;
+        QTest::newRow("added, Cancel") << false << 1 << false;
+        QTest::newRow("edited, Change") << true << 0 << true;
+        QTest::newRow("edited, Cancel") << true << 1 << false;
+    }
+    void homeTeamRules()
+    {
+        QFETCH(bool, secondByEdit);
+        QFETCH(int, answer);
+        QFETCH(bool, changed);
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        TeamBook book(*f.db, *f.prefs);
+
+        const QString first = book.save(team(QStringLiteral("Central"), QStringLiteral("Cougars")), true).teamID;
+        QCOMPARE(f.prefs->prHomeTeam, first);
+        QVERIFY(fake.messages.shown.isEmpty());
+
+        QString second;
+        if (secondByEdit) {
+            second = book.save(team(QStringLiteral("West"), QStringLiteral("Wolves")), false).teamID;
+            QCOMPARE(f.prefs->prHomeTeam, first);
+            TeamRecord again = *book.store().team(second);
+            fake.messages.answers.enqueue(std::uint8_t(answer));
+            book.save(again, true);
+        } else {
+            fake.messages.answers.enqueue(std::uint8_t(answer));
+            second = book.save(team(QStringLiteral("West"), QStringLiteral("Wolves")), true).teamID;
+        }
+        QCOMPARE(fake.messages.shown.size(), 1);
+        const fakes::ShownMessage &asked = fake.messages.shown.first();
+        QCOMPARE(asked.message, QStringLiteral("Make this team the default 'Home Team'?"));
+        QCOMPARE(asked.explanation,
+                 QStringLiteral("Caution: Changing home teams mid-season can render much of the data invalid."));
+        QCOMPARE(asked.actionCaption, QStringLiteral("Change"));
+        QCOMPARE(asked.altCaption, QString());
+        QCOMPARE(f.prefs->prHomeTeam, changed ? second : first);
+        QVERIFY(!f.prefs->prefsDirty);
+
+        // Saving the home team again asks nothing.
+        fake.messages.clear();
+        book.save(*book.store().team(f.prefs->prHomeTeam), true);
+        QVERIFY(fake.messages.shown.isEmpty());
+    }
+
+    void deleteTeamTakesItsPlayersOnly()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        TeamBook book(*f.db, *f.prefs);
+        const QString home = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        const QString other = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
+        f.prefs->prHomeTeam = home;
+        f.addPlayer(home, QStringLiteral("Al"), QStringLiteral("Reyes"));
+        f.addPlayer(home, QStringLiteral("Ben"), QStringLiteral("Cole"));
+        f.addPlayer(other, QStringLiteral("Cal"), QStringLiteral("Diaz"));
+        f.addCoach(home, QStringLiteral("Dee"), QStringLiteral("Ewing"));
+
+        // Cancel keeps everything.
+        fake.messages.answers.enqueue(platform::MsgCancel);
+        QVERIFY(!book.askAndDelete({home, QStringLiteral("Central"), QStringLiteral("Cougars")}));
+        QCOMPARE(fake.messages.shown.first().message, QStringLiteral("Ok to delete Central Cougars from the Teams List?"));
+        QCOMPARE(fake.messages.shown.first().explanation, QStringLiteral("The players from this team will also be deleted."));
+        QCOMPARE(fake.messages.shown.first().actionCaption, QStringLiteral("Delete"));
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 3);
+
+        QVERIFY(book.askAndDelete({home, QStringLiteral("Central"), QStringLiteral("Cougars")}));
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {home}), 0);
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {other}), 1);
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Coaches")), 1);
+        QVERIFY(f.prefs->prHomeTeam.isEmpty());
+
+        // A team left without a home team can't close the screen.
+        fake.messages.clear();
+        QVERIFY(!book.mayClose());
+        QCOMPARE(fake.messages.texts(), QStringList{"Please designate a 'Home Team'"});
+        f.prefs->prHomeTeam = other;
+        QVERIFY(book.mayClose());
+    }
+
+    void emptyListClosesWithoutHomeTeam()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        TeamBook book(*f.db, *f.prefs);
+        QVERIFY(book.mayClose());
+        QVERIFY(fake.messages.shown.isEmpty());
+    }
+
+    // When the team row can't go, its players stay too.
+    void deleteIsAllOrNothing()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        TeamBook book(*f.db, *f.prefs);
+        const QString id = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        f.prefs->prHomeTeam = id;
+        f.addPlayer(id, QStringLiteral("Al"), QStringLiteral("Reyes"));
+        QVERIFY(f.db->exec(QStringLiteral("CREATE TRIGGER keep BEFORE DELETE ON Teams "
+                                          "BEGIN SELECT RAISE(ABORT, 'kept'); END")));
+        QVERIFY(!book.deleteTeam(id));
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 1);
+        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
+        QCOMPARE(f.prefs->prHomeTeam, id);
+    }
+
+    void popupsOfferTeamsByName()
+    {
+        fakes::FakePlatform fake;
+        PeopleFixture f;
+        TeamBook book(*f.db, *f.prefs);
+        const QString w = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
+        const QString c = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        const auto choices = book.store().choices();
+        QCOMPARE(choices.size(), 2);
+        QCOMPARE(choices[0].TeamName, QStringLiteral("Cougars"));
+        QCOMPARE(choices[0].teamID, c);
+        QCOMPARE(choices[1].teamID, w);
+    }
+};
+
+QTEST_MAIN(TestTeamBook)
+#include "tst_teambook.moc"

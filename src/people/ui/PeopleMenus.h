@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class MainMenuBar;
+
+// The menu items the team and personnel screens share: printing the list,
+// the printer set-up, and help, abbreviations and preferences where those
+// windows are part of the program (disabled until they are).
+void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std::function<void()> &printList,
+                        int helpTopic);

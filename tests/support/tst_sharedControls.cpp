@@ -3,6 +3,7 @@
 
 #include "fakes/FakePlatform.h"
 #include "support/ui/iPhoneField.h"
+#include "support/ui/qlmCheckBox.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -127,6 +128,107 @@ private Q_SLOTS:
         field->clear();
         QCOMPARE(field->sFieldValue(), QString());
         QCOMPARE(dirty.count(), 0);
+    }
+
+    void checkBoxGroupOfThree()
+    {
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        QList<qlmCheckBox *> boxes;
+        QList<QSignalSpy *> spies;
+        for (const char *caption : {"Home", "Away", "Neutral"}) {
+            auto *box = new qlmCheckBox(QString::fromLatin1(caption));
+            layout->addWidget(box);
+            boxes.append(box);
+        }
+        qlmCheckBox::makeGroup(boxes);
+        boxes[0]->setValue(true);
+        window.show();
+        QSignalSpy up0(boxes[0], &qlmCheckBox::MouseUp);
+        QSignalSpy up1(boxes[1], &qlmCheckBox::MouseUp);
+        QSignalSpy up2(boxes[2], &qlmCheckBox::MouseUp);
+        QCOMPARE(boxes[1]->groupTotal(), 2);
+
+        const auto values = [&] {
+            return QList<bool>{boxes[0]->value(), boxes[1]->value(), boxes[2]->value()};
+        };
+        QTest::mouseClick(boxes[1], Qt::LeftButton);
+        QCOMPARE(values(), (QList<bool>{false, true, false}));
+        QCOMPARE(up1.count(), 1);
+        QCOMPARE(up0.count() + up2.count(), 0);
+
+        // The box that is on takes no press: nothing changes, no MouseUp.
+        QTest::mouseClick(boxes[1], Qt::LeftButton);
+        QCOMPARE(values(), (QList<bool>{false, true, false}));
+        QCOMPARE(up1.count(), 1);
+
+        // Space on the third, from the keyboard.
+        boxes[2]->setFocus();
+        QTest::keyClick(boxes[2], Qt::Key_Space);
+        QCOMPARE(values(), (QList<bool>{false, false, true}));
+        QCOMPARE(up2.count(), 1);
+        QTest::keyClick(boxes[2], Qt::Key_Space);
+        QCOMPARE(values(), (QList<bool>{false, false, true}));
+        QCOMPARE(up2.count(), 1);
+
+        // Let go outside the box: no click.
+        QTest::mousePress(boxes[0], Qt::LeftButton, {}, QPoint(5, 5));
+        QTest::mouseRelease(boxes[0], Qt::LeftButton, {}, QPoint(5, boxes[0]->height() + 40));
+        QCOMPARE(values(), (QList<bool>{false, false, true}));
+        QCOMPARE(up0.count(), 0);
+
+        // From code, the group keeps one box on, without MouseUp.
+        boxes[0]->setValue(true);
+        QCOMPARE(values(), (QList<bool>{true, false, false}));
+        QCOMPARE(up0.count(), 0);
+    }
+
+    void loneCheckBox()
+    {
+        qlmCheckBox box(QStringLiteral("Active"));
+        box.show();
+        QSignalSpy up(&box, &qlmCheckBox::MouseUp);
+        QCOMPARE(box.groupTotal(), 0);
+        QTest::mouseClick(&box, Qt::LeftButton);
+        QVERIFY(box.value());
+        QTest::mouseClick(&box, Qt::LeftButton);
+        QVERIFY(!box.value());
+        QCOMPARE(up.count(), 2);
+        // The caption stands where the layout rule puts it.
+        box.resize(120, 20);
+        QCOMPARE(box.myTextLeft(), 26);
+        QCOMPARE(box.myBaseLine(), 16.0);
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&box);
+        QVERIFY(accessible);
+        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Active"));
+        QVERIFY(!accessible->state().checked);
+    }
+
+    void checkBoxDrawsItsValue()
+    {
+        qlmCheckBox box(QStringLiteral("Assistant"));
+        box.resize(110, 20);
+        QImage on(8, 8, QImage::Format_ARGB32);
+        on.fill(Qt::red);
+        QImage off(8, 8, QImage::Format_ARGB32);
+        off.fill(Qt::blue);
+        box.setPictures(on, off);
+        QImage shot = box.grab().toImage();
+        QCOMPARE(shot.pixelColor(10, 10), QColor(Qt::blue));
+        box.setValue(true);
+        shot = box.grab().toImage();
+        QCOMPARE(shot.pixelColor(10, 10), QColor(Qt::red));
+        // The box fills the control's height, and no more.
+        QCOMPARE(shot.pixelColor(19, 19), QColor(Qt::red));
+        QVERIFY(shot.pixelColor(22, 10) != QColor(Qt::red));
+    }
+
+    void picturesAreBuiltIn()
+    {
+        qlmCheckBox box;
+        QVERIFY(!box.myValuePict().isNull());
+        QVERIFY(!box.myUnselPict().isNull());
+        QVERIFY(box.myValuePict() != box.myUnselPict());
     }
 };
 

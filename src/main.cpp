@@ -5,6 +5,8 @@
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
+#include "people/ui/personnelScrn.h"
+#include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
 
 namespace {
@@ -12,6 +14,8 @@ namespace {
 // Every window the start screen can open, by name.
 void registerScreens()
 {
+    screens::registerScreen(QStringLiteral("teamScrn"), [] { return new teamScrn; });
+    screens::registerScreen(QStringLiteral("personnelScrn"), [] { return new personnelScrn; });
 }
 
 } // namespace

@@ -1,0 +1,334 @@
+// The personnel screen driven as the coach drives it, offscreen, with every
+// dialog answered by the fakes.
+
+#include "ScreenTestSupport.h"
+#include "app/App.h"
+#include "app/globals.h"
+#include "app/ui/ScreenDirectory.h"
+#include "app/ui/TallylineApplication.h"
+#include "app/ui/startScrn1.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/TestSupport.h"
+#include "people/ui/PictureCanvas.h"
+#include "people/ui/personnelScrn.h"
+#include "people/ui/playerInfoCtr.h"
+#include "reports/ui/qlmListBox.h"
+#include "support/ui/iPhoneField.h"
+#include "support/ui/qlmCheckBox.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+using screentest::clickHalf;
+using screentest::typeInto;
+
+class TestPersonnelScrn : public QObject
+{
+    Q_OBJECT
+
+    // A season with two teams, the Cougars the home team.
+    struct Session
+    {
+        QTemporaryDir home;
+        fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
+        App app{home.filePath(QStringLiteral("data"))};
+        QString cougars, wolves;
+        Session()
+        {
+            QDir(home.path()).mkpath(QStringLiteral("prints"));
+            app.Event_Open();
+            cougars = team(QStringLiteral("Cougars"));
+            wolves = team(QStringLiteral("Wolves"));
+            gPrefs->prHomeTeam = cougars;
+        }
+        ~Session() { screentest::closeAllWindows(); }
+        static QString team(const QString &name)
+        {
+            return QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("Central")},
+                                                                           {QStringLiteral("TeamName"), name}}));
+        }
+        QString player(const QString &teamID, const QString &first, const QString &last, const QString &dob = {})
+        {
+            return QString::number(gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), teamID.toLongLong()},
+                                                                             {QStringLiteral("First"), first},
+                                                                             {QStringLiteral("Last"), last},
+                                                                             {QStringLiteral("DOB"), dob},
+                                                                             {QStringLiteral("Active"), 1}}));
+        }
+    };
+
+    static QPointer<personnelScrn> open()
+    {
+        QPointer<personnelScrn> screen = new personnelScrn;
+        screentest::showActive(screen);
+        return screen;
+    }
+
+    static int rowOf(qlmListBox *list, const QString &last)
+    {
+        for (int r = 0; r < list->rowCount(); ++r) {
+            if (list->cell(r, 1) == last)
+                return r;
+        }
+        return -1;
+    }
+
+    static QString column(const QString &column, const QString &playerID)
+    {
+        return gData->scalar(QStringLiteral("SELECT ") + column + QStringLiteral(" FROM Players WHERE playerID = ?"),
+                             {playerID})
+            .toString();
+    }
+
+private Q_SLOTS:
+    // A player typed in, found in the list, shown back as typed and edited.
+    void addAndEditPlayer()
+    {
+        Session s;
+        s.fake.clock.time = QDateTime(QDate(2026, 4, 15), QTime(10, 0));
+        auto screen = open();
+        QCOMPARE(screen->selectTeamPop->currentText(), QStringLiteral("Cougars"));
+        QCOMPARE(screen->teamIDFld->text(), s.cougars);
+        QVERIFY(screen->myPlayerCtr->isVisible());
+        QVERIFY(!screen->asstCheck->isVisible());
+
+        typeInto(screen->FNameFld, QStringLiteral("José \"Pepe\""));
+        typeInto(screen->LNameFld, QStringLiteral("O'Neil; Łukasiewicz"));
+        typeInto(screen->addr1Fld, QStringLiteral("12 \"Main\" St., Apt; 4"));
+        typeInto(screen->newPhoneFld[0], QStringLiteral("6145551234"));
+        typeInto(screen->newPhoneFld[1], QStringLiteral("5551234"));
+        QCOMPARE(screen->newPhoneFld[0]->text(), QStringLiteral("(614) 555-1234"));
+        QCOMPARE(screen->newPhoneFld[1]->text(), QStringLiteral("555-1234"));
+        playerInfoCtr *ctr = screen->myPlayerCtr;
+        typeInto(ctr->UNumFld, QStringLiteral("7"));
+        QVERIFY(screentest::choose(ctr->PositionPop[0], QStringLiteral("SS")));
+        QVERIFY(screentest::choose(ctr->batPop, QStringLiteral("Switch")));
+        ctr->DOBFld->setFocus(Qt::TabFocusReason);
+        ctr->DOBFld->home(false);
+        QTest::keyClicks(ctr->DOBFld, QStringLiteral("04162012"));
+        ctr->StudentIDFld->setFocus(Qt::TabFocusReason); // leaving the date fills the age
+        QCOMPARE(ctr->ageLabel->text(), QStringLiteral("Age: 13"));
+        ctr->plNotesFld->setPlainText(QStringLiteral("Bats\tleft; \"quick\""));
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QVERIFY(s.fake.messages.shown.isEmpty());
+
+        QCOMPARE(screen->playersList->rowCount(), 1);
+        QCOMPARE(screen->playersList->rowCells(0), (QStringList{"José \"Pepe\"", "O'Neil; Łukasiewicz", "SS"}));
+        QCOMPARE(screen->FNameFld->text(), QString()); // cleared after adding
+        const QString id = screen->playersList->rowTag(0);
+        QCOMPARE(column(QStringLiteral("PhoneNumber"), id), QStringLiteral("(614) 555-1234"));
+        QCOMPARE(column(QStringLiteral("DOB"), id), QStringLiteral("04/16/2012"));
+
+        screen->playersList->setSelectedRow(0);
+        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Edit Team Member"));
+        QCOMPARE(screen->FNameFld->text(), QStringLiteral("José \"Pepe\""));
+        QCOMPARE(screen->addr1Fld->text(), QStringLiteral("12 \"Main\" St., Apt; 4"));
+        QCOMPARE(ctr->batPop->currentText(), QStringLiteral("Switch"));
+        QCOMPARE(ctr->UNumFld->text(), QStringLiteral("7"));
+        QCOMPARE(ctr->plNotesFld->toPlainText(), QStringLiteral("Bats\tleft; \"quick\""));
+        QCOMPARE(ctr->ageLabel->text(), QStringLiteral("Age: 13"));
+        QVERIFY(!screen->editState().editDirty);
+
+        typeInto(screen->cityFld, QStringLiteral("Zürich"));
+        QVERIFY(screen->editState().editDirty);
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(column(QStringLiteral("City"), id), QStringLiteral("Zürich"));
+        QCOMPARE(column(QStringLiteral("TeamNum"), id), s.cougars);
+        QCOMPARE(screen->playersList->rowCount(), 1);
+        QVERIFY(!screen->editState().editMode);
+    }
+
+    void tradeToAnotherTeam()
+    {
+        Session s;
+        const QString id = s.player(s.cougars, QStringLiteral("Al"), QStringLiteral("Reyes"));
+        s.player(s.cougars, QStringLiteral("Ben"), QStringLiteral("Cole"));
+        auto screen = open();
+        QCOMPARE(screen->playersList->rowCount(), 2);
+        QCOMPARE(screen->tradeToPop->itemText(0), QStringLiteral("Trade To..."));
+
+        // Left on "Trade To...", a save keeps the team.
+        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Reyes")));
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(column(QStringLiteral("TeamNum"), id), s.cougars);
+
+        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Reyes")));
+        QVERIFY(screentest::choose(screen->tradeToPop, QStringLiteral("Wolves")));
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(screen->playersList->rowCount(), 1);
+        QCOMPARE(rowOf(screen->playersList, QStringLiteral("Reyes")), -1);
+        QCOMPARE(column(QStringLiteral("TeamNum"), id), s.wolves);
+
+        QVERIFY(screentest::choose(screen->selectTeamPop, QStringLiteral("Wolves")));
+        QCOMPARE(screen->teamIDFld->text(), s.wolves);
+        QCOMPARE(screen->playersList->rowCount(), 1);
+        QCOMPARE(screen->playersList->rowTag(0), id);
+    }
+
+    // Leaving a changed member asks; "Save" writes it, "Cancel" drops the
+    // change, and the member chosen next is loaded either way.
+    void dirtyQuestionOnSwitching_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("city");
+        QTest::newRow("Save") << 0 << "Columbus";
+        QTest::newRow("Cancel") << 1 << "";
+    }
+    void dirtyQuestionOnSwitching()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, city);
+        Session s;
+        const QString al = s.player(s.cougars, QStringLiteral("Al"), QStringLiteral("Reyes"));
+        s.player(s.cougars, QStringLiteral("Ben"), QStringLiteral("Cole"));
+        auto screen = open();
+
+        // Typing with nobody loaded marks nothing.
+        typeInto(screen->cityFld, QStringLiteral("Nowhere"));
+        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Reyes")));
+        QVERIFY(s.fake.messages.shown.isEmpty());
+        QCOMPARE(screen->cityFld->text(), QString());
+
+        typeInto(screen->cityFld, QStringLiteral("Columbus"));
+        s.fake.messages.answers.enqueue(std::uint8_t(answer));
+        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Cole")));
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Would you like to save the changes to this member?"});
+        QCOMPARE(column(QStringLiteral("City"), al), city);
+        QCOMPARE(screen->LNameFld->text(), QStringLiteral("Cole"));
+        QCOMPARE(screen->playersList->selectedRow(), rowOf(screen->playersList, QStringLiteral("Cole")));
+        QVERIFY(screen->editState().editMode && !screen->editState().editDirty);
+
+        // A change of the player fields counts too, and so does closing.
+        s.fake.messages.clear();
+        QVERIFY(screentest::choose(screen->myPlayerCtr->throwPop, QStringLiteral("Left")));
+        s.fake.messages.answers.enqueue(platform::MsgAction);
+        QVERIFY(screen->close());
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Would you like to save the changes to this member?"});
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT ThrowSide FROM Players WHERE Last = 'Cole'")).toString(),
+                 QStringLiteral("Left"));
+        QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
+    }
+
+    // The age counts a birthday only from its day on.
+    void ageAcrossBirthday_data()
+    {
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<QString>("age");
+        QTest::newRow("day before") << QDate(2026, 4, 15) << "Age: 13";
+        QTest::newRow("birthday") << QDate(2026, 4, 16) << "Age: 14";
+        QTest::newRow("month after") << QDate(2026, 5, 1) << "Age: 14";
+    }
+    void ageAcrossBirthday()
+    {
+        QFETCH(QDate, today);
+        QFETCH(QString, age);
+        Session s;
+        s.fake.clock.time = QDateTime(today, QTime(9, 0));
+        s.player(s.cougars, QStringLiteral("Al"), QStringLiteral("Reyes"), QStringLiteral("04/16/2012"));
+        auto screen = open();
+        screen->playersList->setSelectedRow(0);
+        QCOMPARE(screen->myPlayerCtr->ageLabel->text(), age);
+    }
+
+    void coachesAndRemoving()
+    {
+        Session s;
+        const QString al = s.player(s.cougars, QStringLiteral("Al"), QStringLiteral("Reyes"));
+        auto screen = open();
+        QTest::mouseClick(screen->SelectCoach, Qt::LeftButton);
+        QVERIFY(!screen->myPlayerCtr->isVisible());
+        QVERIFY(screen->asstCheck->isVisible());
+        typeInto(screen->FNameFld, QStringLiteral("Dee"));
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Please enter a full name for this team member."});
+        typeInto(screen->LNameFld, QStringLiteral("Ewing-O'Hara"));
+        QTest::mouseClick(screen->asstCheck, Qt::LeftButton);
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(screen->coachesList->rowCount(), 1);
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT Assistant FROM Coaches")).toInt(), 1);
+
+        // Choosing a player brings player mode back.
+        screen->playersList->setSelectedRow(0);
+        QVERIFY(screen->SelectPlayer->isChecked());
+        QVERIFY(screen->myPlayerCtr->isVisible());
+
+        s.fake.messages.clear();
+        s.fake.messages.answers.enqueue(platform::MsgAction);
+        clickHalf(screen->PlusMinusPlayers, false);
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Are you sure you wish to remove Al Reyes from this team?"});
+        QCOMPARE(screen->playersList->rowCount(), 0);
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Players WHERE playerID = ?"), {al}).toInt(), 0);
+        QCOMPARE(screen->FNameFld->text(), QString());
+    }
+
+    // A photo from the file dialog, printed with the player's data.
+    void printPlayerWithPhoto()
+    {
+        Session s;
+        s.player(s.cougars, QStringLiteral("Zoë"), QStringLiteral("Ñúñez"));
+        auto screen = open();
+        QAction *single = screen->printBtn->menu()->actions().at(1);
+        single->trigger();
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Please select a Player"});
+        s.fake.messages.clear();
+
+        screen->playersList->setSelectedRow(0);
+        s.fake.files.answers.enqueue(screentest::writePicture(s.home.filePath(QStringLiteral("zoe.png")), {86, 100}, Qt::darkCyan));
+        clickHalf(screen->PlusMinusIndivPic, true);
+        QCOMPARE(s.fake.files.calls.first().request.title, QStringLiteral("Select a Picture File to add"));
+        QVERIFY(screen->editState().editDirty); // a new photo is a change
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QVERIFY(gData->scalar(QStringLiteral("SELECT PlayerPic FROM Players")).toByteArray().startsWith("\x89PNG"));
+
+        screen->playersList->setSelectedRow(0);
+        QCOMPARE(screen->indivPicCnv->picture().size(), QSize(86, 100));
+        s.fake.messages.answers.enqueue(platform::MsgAction);
+        single->trigger();
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Include the Player's Photo on the printout?"});
+        QCOMPARE(s.fake.printing.printed.size(), 1);
+        const QString pdf = s.fake.printing.printed.first();
+        QVERIFY(fakes::pdfText(pdf).contains(QStringLiteral("Zoë Ñúñez")));
+        QCOMPARE(screentest::pdfImageSizes(pdf), QList<QSize>{QSize(86, 100)});
+
+        // The list through the list box.
+        screen->menuBar()->item(QStringLiteral("FilePrint"))->trigger();
+        QCOMPARE(s.fake.printing.printed.size(), 2);
+        QVERIFY(fakes::pdfText(s.fake.printing.printed.last()).contains(QStringLiteral("Players")));
+    }
+
+    void openedFromStartScreen()
+    {
+        Session s;
+        screens::registerScreen(QStringLiteral("personnelScrn"), [] { return new personnelScrn; });
+        startScrn1 *start = startScrn1::showStartScreen();
+        QTest::mouseClick(start->findChild<QPushButton *>(QStringLiteral("ShowPersonnelBtn")), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeMultiple);
+        personnelScrn *screen = nullptr;
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (auto *p = qobject_cast<personnelScrn *>(w))
+                screen = p;
+        }
+        QVERIFY(screen && screen->isVisible());
+        QVERIFY(screen->close());
+        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeOff);
+        screens::unregisterScreen(QStringLiteral("personnelScrn"));
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    TallylineApplication app(argc, argv);
+    TestPersonnelScrn test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_personnelScrn.moc"

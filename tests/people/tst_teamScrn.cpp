@@ -1,0 +1,332 @@
+// The team screen driven as the coach drives it, offscreen, with every
+// dialog answered by the fakes.
+
+#include "ScreenTestSupport.h"
+#include "app/App.h"
+#include "app/FileTypes.h"
+#include "app/globals.h"
+#include "app/ui/ScreenDirectory.h"
+#include "app/ui/TallylineApplication.h"
+#include "app/ui/startScrn1.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/TestSupport.h"
+#include "people/ui/MaskedPhoneField.h"
+#include "people/ui/PictureCanvas.h"
+#include "people/ui/teamScrn.h"
+#include "reports/ui/qlmListBox.h"
+#include "support/ui/qlmCheckBox.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <QUrl>
+
+using screentest::clickHalf;
+using screentest::typeInto;
+
+class TestTeamScrn : public QObject
+{
+    Q_OBJECT
+
+    struct Session
+    {
+        QTemporaryDir home;
+        fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
+        App app{home.filePath(QStringLiteral("data"))};
+        Session()
+        {
+            QDir(home.path()).mkpath(QStringLiteral("prints"));
+            app.Event_Open();
+        }
+        // Windows go before the season they show.
+        ~Session() { screentest::closeAllWindows(); }
+    };
+
+    static QPointer<teamScrn> open()
+    {
+        QPointer<teamScrn> screen = new teamScrn;
+        screentest::showActive(screen);
+        return screen;
+    }
+
+    // Types a new team and clicks the action button.
+    static void addTeam(teamScrn *s, const QString &school, const QString &team, bool home)
+    {
+        clickHalf(s->teamListPlusMInus, true);
+        typeInto(s->teamFld, team);
+        typeInto(s->schoolFld, school);
+        if (home)
+            QTest::mouseClick(s->homeTeamBox, Qt::LeftButton);
+        QCOMPARE(s->actionBtn->text(), QStringLiteral("Add Team"));
+        QTest::mouseClick(s->actionBtn, Qt::LeftButton);
+    }
+
+    static int rowOf(qlmListBox *list, const QString &team)
+    {
+        for (int r = 0; r < list->rowCount(); ++r) {
+            if (list->cell(r, 1) == team)
+                return r;
+        }
+        return -1;
+    }
+
+private Q_SLOTS:
+    // The first home team needs no question; a second one asks, and only
+    // "Change" moves the mark.
+    void homeTeams_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("moved");
+        QTest::newRow("Change") << 0 << true;
+        QTest::newRow("Cancel") << 1 << false;
+    }
+    void homeTeams()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, moved);
+        Session s;
+        auto screen = open();
+        addTeam(screen, QStringLiteral("O'Brien's \"Prep\""), QStringLiteral("Señores; Rojos"), true);
+        QVERIFY(s.fake.messages.shown.isEmpty());
+        QCOMPARE(screen->teamList->rowCount(), 1);
+        const QString first = screen->teamList->rowTag(0);
+        QCOMPARE(gPrefs->prHomeTeam, first);
+        QCOMPARE(screen->teamList->rowCells(0),
+                 (QStringList{"O'Brien's \"Prep\"", "Señores; Rojos", "X"}));
+        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Add Team")); // the form is empty again
+
+        s.fake.messages.answers.enqueue(std::uint8_t(answer));
+        addTeam(screen, QStringLiteral("West"), QStringLiteral("Wolves"), true);
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Make this team the default 'Home Team'?"});
+        const int westRow = rowOf(screen->teamList, QStringLiteral("Wolves"));
+        const QString second = screen->teamList->rowTag(westRow);
+        QCOMPARE(gPrefs->prHomeTeam, moved ? second : first);
+        QCOMPARE(screen->teamList->cell(westRow, 2), moved ? QStringLiteral("X") : QString());
+        QCOMPARE(screen->teamList->cell(rowOf(screen->teamList, QStringLiteral("Señores; Rojos")), 2),
+                 moved ? QString() : QStringLiteral("X"));
+
+        // Shown back as typed.
+        screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Señores; Rojos")));
+        QCOMPARE(screen->teamFld->text(), QStringLiteral("Señores; Rojos"));
+        QCOMPARE(screen->schoolFld->text(), QStringLiteral("O'Brien's \"Prep\""));
+        QCOMPARE(screen->homeTeamBox->value(), !moved);
+        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Edit Team"));
+        QCOMPARE(screen->teamIDFld->text(), first);
+    }
+
+    // With teams but no home team the screen stays open; once one is
+    // chosen it closes, and the start screen shows that team.
+    void closingNeedsHomeTeam()
+    {
+        Session s;
+        screens::registerScreen(QStringLiteral("teamScrn"), [] { return new teamScrn; });
+        startScrn1 *start = startScrn1::showStartScreen();
+        QTest::mouseClick(start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn")), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QPointer<teamScrn> screen;
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (auto *t = qobject_cast<teamScrn *>(w))
+                screen = t;
+        }
+        QVERIFY(screen && screen->isVisible());
+        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeMultiple);
+        screentest::showActive(screen);
+
+        addTeam(screen, QStringLiteral("O'Brien's"), QStringLiteral("Cougars"), false);
+        QTest::mouseClick(screen->cancelBtn, Qt::LeftButton);
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Please designate a 'Home Team'"});
+        QVERIFY(screen && screen->isVisible());
+
+        // A click on the home column only explains how to mark one.
+        s.fake.messages.clear();
+        const QRect cell = screen->teamList->visualRect(screen->teamList->listModel().index(0, 2));
+        QTest::mouseClick(screen->teamList->viewport(), Qt::LeftButton, {}, cell.center());
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Please select a team and designate it as the 'Home Team'"});
+        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Edit Team")); // and it selected the row
+
+        // Marked by editing: no home team yet, so no question.
+        s.fake.messages.clear();
+        QTest::mouseClick(screen->homeTeamBox, Qt::LeftButton);
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QVERIFY(s.fake.messages.shown.isEmpty());
+        QVERIFY(!gPrefs->prHomeTeam.isEmpty());
+        QVERIFY(screen->close());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!screen);
+        start = startScrn1::instance();
+        QVERIFY(start && start->isVisible());
+        QCOMPARE(start->teamNameLabel->text(), QStringLiteral("O'Brien's Cougars"));
+        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeOff);
+        screens::unregisterScreen(QStringLiteral("teamScrn"));
+    }
+
+    void emptyListCloses()
+    {
+        Session s;
+        auto screen = open();
+        QVERIFY(screen->close());
+        QVERIFY(s.fake.messages.shown.isEmpty());
+    }
+
+    void deleteTeamWithItsPlayers()
+    {
+        Session s;
+        const QString cougars = QString::number(gData->insert(
+            QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("Central")},
+                                      {QStringLiteral("TeamName"), QStringLiteral("Cougars")}}));
+        gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("West")},
+                                                {QStringLiteral("TeamName"), QStringLiteral("Wolves")}});
+        for (const char *last : {"Reyes", "Cole"})
+            gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), cougars.toLongLong()},
+                                                      {QStringLiteral("First"), QStringLiteral("A")},
+                                                      {QStringLiteral("Last"), QString::fromLatin1(last)}});
+        gPrefs->prHomeTeam = cougars;
+        auto screen = open();
+        QCOMPARE(screen->teamList->rowCount(), 2);
+        screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Cougars")));
+
+        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        clickHalf(screen->teamListPlusMInus, false);
+        QCOMPARE(screen->teamList->rowCount(), 2);
+
+        screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Cougars")));
+        clickHalf(screen->teamListPlusMInus, false);
+        QCOMPARE(s.fake.messages.texts().last(), QStringLiteral("Ok to delete Central Cougars from the Teams List?"));
+        QCOMPARE(screen->teamList->rowCount(), 1);
+        QCOMPARE(screen->teamList->cell(0, 1), QStringLiteral("Wolves"));
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Players")).toInt(), 0);
+        QVERIFY(gPrefs->prHomeTeam.isEmpty());
+        QCOMPARE(screen->teamFld->text(), QString());
+        QVERIFY(!screen->close()); // Wolves remain, and none is the home team
+    }
+
+    // The phone keeps what was typed and shows it through its mask.
+    void phoneMask_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("seven") << "5551234" << "555-1234";
+        QTest::newRow("ten") << "6145551234" << "(614) 555-1234";
+        QTest::newRow("six") << "555123" << "555123";
+    }
+    void phoneMask()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+        Session s;
+        auto screen = open();
+        typeInto(screen->teamFld, QStringLiteral("Cougars"));
+        typeInto(screen->phoneFld, typed);
+        QCOMPARE(screen->phoneFld->text(), typed); // as typed while being edited
+        screen->homeFldFld->setFocus(Qt::TabFocusReason);
+        QCOMPARE(screen->phoneFld->text(), shown);
+        screen->phoneFld->setFocus(Qt::TabFocusReason);
+        QCOMPARE(screen->phoneFld->text(), typed); // back for editing
+        screen->homeFldFld->setFocus(Qt::TabFocusReason);
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT Phone FROM Teams")).toString(), typed);
+        screen->teamList->setSelectedRow(0);
+        QCOMPARE(screen->phoneFld->text(), shown);
+    }
+
+    // Logos come from the file dialog or a drop and are kept as PNG; the
+    // printout carries them when the preferences ask for logos on reports.
+    void logoAndPrint()
+    {
+        Session s;
+        gPrefs->prLogoOnReport = true;
+        auto screen = open();
+        typeInto(screen->teamFld, QStringLiteral("Cougars"));
+        typeInto(screen->schoolFld, QStringLiteral("O'Brien's"));
+        screentest::choose(screen->StatePop, QStringLiteral("OH"));
+        typeInto(screen->cityFld, QStringLiteral("Dublin"));
+        const QString jpeg = screentest::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), {64, 48}, Qt::red);
+        s.fake.files.answers.enqueue(jpeg);
+        clickHalf(screen->PlusMinusTeamLogo, true);
+        QCOMPARE(s.fake.files.calls.size(), 1);
+        QCOMPARE(s.fake.files.calls[0].request.title, QStringLiteral("Select a Picture File to add"));
+        QCOMPARE(s.fake.files.calls[0].request.nameFilters, QStringList{FileTypes::AllPicts().nameFilter()});
+        QCOMPARE(screen->LogoCvn->picture().size(), QSize(64, 48));
+
+        // Removing shows the placeholder; a dropped file of another name brings one back.
+        clickHalf(screen->PlusMinusTeamLogo, false);
+        QVERIFY(screen->LogoCvn->picture().isNull());
+        QVERIFY(!screen->LogoCvn->shownPicture().isNull());
+        const QString odd = screentest::writePicture(s.home.filePath(QStringLiteral("crest.data")), {30, 40}, Qt::blue);
+        QFile::rename(odd, s.home.filePath(QStringLiteral("crest.dat")));
+        QMimeData mime;
+        mime.setUrls({QUrl::fromLocalFile(s.home.filePath(QStringLiteral("crest.dat")))});
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(screen->LogoCvn, &drop);
+        QCOMPARE(screen->LogoCvn->picture().size(), QSize(30, 40));
+
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        const QByteArray stored = gData->scalar(QStringLiteral("SELECT TeamLogo FROM Teams")).toByteArray();
+        QVERIFY(stored.startsWith("\x89PNG"));
+        QCOMPARE(QImage::fromData(stored).size(), QSize(30, 40));
+
+        // The selected team's data needs a selection.
+        QAction *selectedData = screen->printBtn->menu()->actions().at(1);
+        selectedData->trigger();
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Please Select a Team."});
+        screen->teamList->setSelectedRow(0);
+        selectedData->trigger();
+        QCOMPARE(s.fake.printing.printed.size(), 1);
+        const QString pdf = s.fake.printing.printed.first();
+        const QString text = fakes::pdfText(pdf);
+        QVERIFY(text.contains(QStringLiteral("O'Brien's Cougars")));
+        QVERIFY(text.contains(QStringLiteral("Dublin, OH")));
+        QCOMPARE(screentest::pdfImageSizes(pdf), QList<QSize>{QSize(30, 40)});
+
+        // The list prints through the list box, from the menu bar too.
+        QCOMPARE(screen->menuBar()->item(QStringLiteral("FilePrint"))->text(), QStringLiteral("Print Team List"));
+        screen->menuBar()->item(QStringLiteral("FilePrint"))->trigger();
+        QCOMPARE(s.fake.printing.printed.size(), 2);
+        QVERIFY(fakes::pdfText(s.fake.printing.printed.last()).contains(QStringLiteral("All Teams")));
+        // Help and abbreviations aren't part of the program yet.
+        QVERIFY(!screen->menuBar()->item(QStringLiteral("Help"))->isEnabled());
+        QVERIFY(!screen->menuBar()->item(QStringLiteral("Abbrev"))->isEnabled());
+        QVERIFY(screen->menuBar()->item(QStringLiteral("FilePrinterSetup"))->isEnabled());
+    }
+
+    // A new value of a combo box is offered once it is saved.
+    void combosOfferSavedValues()
+    {
+        Session s;
+        gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Wolves")},
+                                                {QStringLiteral("League"), QStringLiteral("Metro")}});
+        auto screen = open();
+        QCOMPARE(screen->LeagueFld->count(), 1);
+        typeInto(screen->teamFld, QStringLiteral("Cougars"));
+        typeInto(screen->LeagueFld->lineEdit(), QStringLiteral("Tri-County, North"));
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(screen->LeagueFld->count(), 2);
+        QCOMPARE(screen->LeagueFld->itemText(1), QStringLiteral("Tri-County, North"));
+        QCOMPARE(screen->LeagueFld->currentText(), QString());
+    }
+
+    void nameIsRequired()
+    {
+        Session s;
+        auto screen = open();
+        typeInto(screen->schoolFld, QStringLiteral("Central"));
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(s.fake.messages.texts(), QStringList{"Please fill in the team name field."});
+        QCOMPARE(screen->teamList->rowCount(), 0);
+        QCOMPARE(screen->schoolFld->text(), QStringLiteral("Central")); // nothing typed is lost
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    TallylineApplication app(argc, argv);
+    TestTeamScrn test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_teamScrn.moc"

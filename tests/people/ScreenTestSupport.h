@@ -49,7 +49,15 @@ inline bool showActive(QWidget *window)
 inline void typeInto(QWidget *field, const QString &text)
 {
     field->setFocus(Qt::TabFocusReason);
-    QTest::keyClicks(field, text);
+    for (const QChar c : text) {
+        if (c.unicode() < 128) {
+            QTest::keyClick(field, c.toLatin1());
+            continue;
+        }
+        // QTest's own key clicks know Latin-1 only; letters beyond come as
+        // a key event carrying the text, as an input method sends them.
+        QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
 }
 
 // Chooses a popup's row by its text, as a click in the open list does.
@@ -83,7 +91,8 @@ inline QString writePicture(const QString &path, QSize size, QColor colour)
 {
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(colour);
-    picture.save(path);
+    // The content decides the format; the name may say anything.
+    picture.save(path, path.endsWith(QStringLiteral(".jpg")) ? "JPEG" : "PNG");
     return path;
 }
 

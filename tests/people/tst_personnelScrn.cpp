@@ -4,6 +4,7 @@
 #include "ScreenTestSupport.h"
 #include "app/App.h"
 #include "app/globals.h"
+#include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/startScrn1.h"

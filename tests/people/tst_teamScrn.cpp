@@ -5,6 +5,7 @@
 #include "app/App.h"
 #include "app/FileTypes.h"
 #include "app/globals.h"
+#include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/startScrn1.h"
@@ -258,10 +259,14 @@ private Q_SLOTS:
         clickHalf(screen->PlusMinusTeamLogo, false);
         QVERIFY(screen->LogoCvn->picture().isNull());
         QVERIFY(!screen->LogoCvn->shownPicture().isNull());
-        const QString odd = screentest::writePicture(s.home.filePath(QStringLiteral("crest.data")), {30, 40}, Qt::blue);
-        QFile::rename(odd, s.home.filePath(QStringLiteral("crest.dat")));
+        screentest::writePicture(s.home.filePath(QStringLiteral("crest.dat")), {30, 40}, Qt::blue);
         QMimeData mime;
         mime.setUrls({QUrl::fromLocalFile(s.home.filePath(QStringLiteral("crest.dat")))});
+        // The drag enters first: the application hands a drop only to the
+        // widget the drag is over.
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(screen->LogoCvn, &enter);
+        QVERIFY(enter.isAccepted());
         QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(screen->LogoCvn, &drop);
         QCOMPARE(screen->LogoCvn->picture().size(), QSize(30, 40));

@@ -282,6 +282,11 @@ private Q_SLOTS:
         QCOMPARE(wait->detailLbl->text(), QStringLiteral("Setting up the game"));
         wait->close();
         QVERIFY(QApplication::overrideCursor() == nullptr);
+        // Deleted while shown, it gives the pointer back too.
+        wait->showNow();
+        QVERIFY(QApplication::overrideCursor() != nullptr);
+        delete wait;
+        QVERIFY(QApplication::overrideCursor() == nullptr);
     }
 
     void numberFieldKeys()

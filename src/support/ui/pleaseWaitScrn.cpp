@@ -23,6 +23,13 @@ pleaseWaitScrn::pleaseWaitScrn(QWidget *parent, const QString &detail)
     layout->addWidget(detailLbl, 0, Qt::AlignHCenter);
 }
 
+pleaseWaitScrn::~pleaseWaitScrn()
+{
+    // Deleted while still shown: the pointer mustn't stay busy.
+    if (m_cursorSet)
+        QApplication::restoreOverrideCursor();
+}
+
 void pleaseWaitScrn::showNow()
 {
     show();

@@ -15,6 +15,7 @@ class pleaseWaitScrn : public QDialog
 public:
     explicit pleaseWaitScrn(QWidget *parent = nullptr,
                             const QString &detail = QStringLiteral("This will only take a moment."));
+    ~pleaseWaitScrn() override;
 
     // Shows the window and paints it at once, before the caller's long step
     // keeps the event loop busy.

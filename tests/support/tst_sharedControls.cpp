@@ -135,7 +135,6 @@ private Q_SLOTS:
         QWidget window;
         auto *layout = new QVBoxLayout(&window);
         QList<qlmCheckBox *> boxes;
-        QList<QSignalSpy *> spies;
         for (const char *caption : {"Home", "Away", "Neutral"}) {
             auto *box = new qlmCheckBox(QString::fromLatin1(caption));
             layout->addWidget(box);
@@ -177,6 +176,14 @@ private Q_SLOTS:
         QCOMPARE(values(), (QList<bool>{false, false, true}));
         QCOMPARE(up0.count(), 0);
 
+        // Assistive tools see radio buttons, and can't turn off the one that is on.
+        QAccessibleInterface *third = QAccessible::queryAccessibleInterface(boxes[2]);
+        QCOMPARE(third->role(), QAccessible::RadioButton);
+        QVERIFY(third->state().checked);
+        third->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(boxes[2]->value());
+        QCOMPARE(up2.count(), 1);
+
         // From code, the group keeps one box on, without MouseUp.
         boxes[0]->setValue(true);
         QCOMPARE(values(), (QList<bool>{true, false, false}));
@@ -201,7 +208,13 @@ private Q_SLOTS:
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&box);
         QVERIFY(accessible);
         QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Active"));
+        QCOMPARE(accessible->role(), QAccessible::CheckBox);
         QVERIFY(!accessible->state().checked);
+        // An assistive tool's toggle is a click like any other.
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(box.value());
+        QVERIFY(accessible->state().checked);
+        QCOMPARE(up.count(), 3);
     }
 
     void checkBoxDrawsItsValue()

@@ -2,6 +2,7 @@
 
 #include "support/ui/SupportPictures.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -17,6 +18,49 @@ QFont captionFont(QFont font)
     return font;
 }
 
+// What assistive tools see: a check box, or a radio button in a group, with
+// its caption, its value, and a toggle action that clicks it.
+class AccessibleCheckBox : public QAccessibleWidget
+{
+public:
+    explicit AccessibleCheckBox(qlmCheckBox *box) : QAccessibleWidget(box, QAccessible::CheckBox) {}
+
+    QAccessible::Role role() const override
+    {
+        return box()->groupTotal() > 0 ? QAccessible::RadioButton : QAccessible::CheckBox;
+    }
+    QString text(QAccessible::Text t) const override
+    {
+        if (t == QAccessible::Name && box()->accessibleName().isEmpty())
+            return box()->text();
+        return QAccessibleWidget::text(t);
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State s = QAccessibleWidget::state();
+        s.checkable = true;
+        s.checked = box()->value();
+        return s;
+    }
+    QStringList actionNames() const override { return {toggleAction()}; }
+    void doAction(const QString &action) override
+    {
+        if (action == toggleAction() || action == pressAction())
+            box()->click();
+    }
+    QStringList keyBindingsForAction(const QString &) const override { return {QStringLiteral("Space")}; }
+
+private:
+    qlmCheckBox *box() const { return static_cast<qlmCheckBox *>(widget()); }
+};
+
+QAccessibleInterface *checkBoxAccessibility(const QString &className, QObject *object)
+{
+    if (className == u"qlmCheckBox" && object && object->isWidgetType())
+        return new AccessibleCheckBox(static_cast<qlmCheckBox *>(object));
+    return nullptr;
+}
+
 } // namespace
 
 qlmCheckBox::qlmCheckBox(QWidget *parent) : qlmCheckBox(QString(), parent) {}
@@ -26,6 +70,11 @@ qlmCheckBox::qlmCheckBox(const QString &text, QWidget *parent)
       m_valuePict(support::supportPicture(QStringLiteral("qlmCheckOn"))),
       m_unselPict(support::supportPicture(QStringLiteral("qlmCheckOff")))
 {
+    static const bool accessibilityInstalled = [] {
+        QAccessible::installFactory(checkBoxAccessibility);
+        return true;
+    }();
+    Q_UNUSED(accessibilityInstalled);
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);

@@ -36,6 +36,15 @@ QString shownPhone(const QString &phone)
     return formatThroughMask(phone, phoneMaskFor(phone));
 }
 
+// "City, ST 12345"; nothing at all when the three are empty, rather than
+// a lone comma.
+QString cityLine(const QString &city, const QString &state, const QString &zip)
+{
+    if (city.isEmpty() && state.isEmpty() && zip.isEmpty())
+        return {};
+    return city + QStringLiteral(", ") + state + u' ' + zip;
+}
+
 QFont printTextFont()
 {
     return platform::printFont(QFont(), 12);
@@ -56,7 +65,7 @@ QList<PrintBlock> teamDataBlocks(const QList<TeamRecord> &teams, bool withLogo, 
         b.append(textAt(0, 32, t.Division + QStringLiteral(" Division"), textWidth));
         b.append(textAt(0, 48, t.SchoolAddress, textWidth));
         b.append(textAt(0, 64, t.SchoolAddress1, textWidth));
-        b.append(textAt(0, 80, t.SchoolCity + QStringLiteral(", ") + t.SchoolState + u' ' + t.SchoolZip, textWidth));
+        b.append(textAt(0, 80, cityLine(t.SchoolCity, t.SchoolState, t.SchoolZip), textWidth));
         b.append(textAt(0, 96, shownPhone(t.Phone), textWidth));
         b.append(textAt(0, 112, QStringLiteral("Home Field: ") + t.HomeField, textWidth));
         if (withLogo)
@@ -81,7 +90,7 @@ QList<PrintBlock> playerDataBlocks(const QList<MemberRecord> &players, bool with
             b.append(pictureAt(half, 0, p.picture.isNull() ? generic : p.picture, {86, 100}));
         b.append(textAt(0, 16, p.Address, leftWidth));
         b.append(textAt(0, 32, p.Address1, leftWidth));
-        b.append(textAt(0, 48, p.City + QStringLiteral(", ") + p.State + u' ' + p.Zip, leftWidth));
+        b.append(textAt(0, 48, cityLine(p.City, p.State, p.Zip), leftWidth));
         b.append(textAt(0, 64, QStringLiteral("Phone: ") + p.PhoneNumber, leftWidth));
         b.append(textAt(0, 80, QStringLiteral("Cell: ") + p.CellPhone, leftWidth));
         b.append(textAt(0, 96, QStringLiteral("Email: ") + p.Email, leftWidth));

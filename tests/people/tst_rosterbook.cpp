@@ -7,7 +7,6 @@
 
 #include <QTest>
 
-using people::MemberEditState;
 using people::MemberKind;
 using people::MemberRecord;
 using people::RosterBook;
@@ -99,25 +98,6 @@ private Q_SLOTS:
         QCOMPARE(book.store().list(MemberKind::Player, team).size(), 0);
     }
 
-    void needsFullName_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("last");
-        QTest::newRow("no first") << "" << "Reyes";
-        QTest::newRow("no last") << "Al" << " ";
-    }
-    void needsFullName()
-    {
-        QFETCH(QString, first);
-        QFETCH(QString, last);
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        RosterBook book(*f.db);
-        QCOMPARE(book.add(member(MemberKind::Player, QStringLiteral("1"), first, last)), -1);
-        QCOMPARE(fake.messages.texts(), QStringList{"Please enter a full name for this team member."});
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 0);
-    }
-
     void tradeMovesToOtherTeam_data()
     {
         QTest::addColumn<int>("kind");
@@ -175,47 +155,6 @@ private Q_SLOTS:
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Hitting")), 1); // season rows stay
     }
 
-    void dirtyState()
-    {
-        MemberEditState s;
-        s.setDirty(); // nothing loaded: typing marks nothing
-        QVERIFY(!s.needsSaveQuestion());
-        s.loaded();
-        s.disableChg = true;
-        s.setDirty(); // the screen filling its own fields
-        QVERIFY(!s.needsSaveQuestion());
-        s.disableChg = false;
-        s.setDirty();
-        QVERIFY(s.needsSaveQuestion());
-        s.cleared();
-        QVERIFY(!s.needsSaveQuestion());
-    }
-
-    void askSaveDirty_data()
-    {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("saved");
-        QTest::newRow("Save") << 0 << true;
-        QTest::newRow("Cancel") << 1 << false;
-    }
-    void askSaveDirty()
-    {
-        QFETCH(int, answer);
-        QFETCH(bool, saved);
-        fakes::FakePlatform fake;
-        fake.messages.answers.enqueue(std::uint8_t(answer));
-        MemberEditState s;
-        s.loaded();
-        s.setDirty();
-        int saves = 0;
-        QCOMPARE(RosterBook::askSaveDirty(s, [&saves] { ++saves; }), saved);
-        QCOMPARE(saves, saved ? 1 : 0);
-        QVERIFY(!s.editDirty);
-        const fakes::ShownMessage &asked = fake.messages.shown.first();
-        QCOMPARE(asked.message, QStringLiteral("Would you like to save the changes to this member?"));
-        QCOMPARE(asked.explanation, QStringLiteral("If you do not save, changes will be lost"));
-        QCOMPARE(asked.actionCaption, QStringLiteral("Save"));
-    }
 };
 
 QTEST_MAIN(TestRosterBook)

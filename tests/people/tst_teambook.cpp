@@ -178,15 +178,6 @@ private Q_SLOTS:
         QVERIFY(book.mayClose());
     }
 
-    void emptyListClosesWithoutHomeTeam()
-    {
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        TeamBook book(*f.db, *f.prefs);
-        QVERIFY(book.mayClose());
-        QVERIFY(fake.messages.shown.isEmpty());
-    }
-
     // When the team row can't go, its players stay too.
     void deleteIsAllOrNothing()
     {
@@ -204,19 +195,6 @@ private Q_SLOTS:
         QCOMPARE(f.prefs->prHomeTeam, id);
     }
 
-    void popupsOfferTeamsByName()
-    {
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        TeamBook book(*f.db, *f.prefs);
-        const QString w = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
-        const QString c = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        const auto choices = book.store().choices();
-        QCOMPARE(choices.size(), 2);
-        QCOMPARE(choices[0].TeamName, QStringLiteral("Cougars"));
-        QCOMPARE(choices[0].teamID, c);
-        QCOMPARE(choices[1].teamID, w);
-    }
 };
 
 QTEST_MAIN(TestTeamBook)

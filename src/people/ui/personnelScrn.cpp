@@ -265,7 +265,7 @@ void personnelScrn::buildControls()
     body->addLayout(right, 5);
 
     setCentralWidget(central);
-    resize(1000, 640);
+    resize(980, 600);
 
     // Changes the coach makes mark the loaded member changed.
     for (QLineEdit *field : {FNameFld, LNameFld, addr1Fld, addr2Fld, cityFld, zipFld, emailFld})

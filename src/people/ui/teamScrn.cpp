@@ -216,7 +216,13 @@ void teamScrn::buildControls()
     teamIDFld->setObjectName(QStringLiteral("teamIDFld"));
     teamIDFld->setAccessibleName(QStringLiteral("Team number"));
     teamIDFld->setToolTip(QStringLiteral("The team's number in this season"));
-    logoSide->addWidget(teamIDFld);
+    auto *idRow = new QHBoxLayout;
+    auto *idLabel = new QLabel(QStringLiteral("Team ID:"), central);
+    idLabel->setBuddy(teamIDFld);
+    idRow->addWidget(idLabel);
+    idRow->addWidget(teamIDFld);
+    idRow->addStretch(1);
+    logoSide->addLayout(idRow);
     logoRow->addLayout(logoSide);
     logoRow->addWidget(LogoCvn);
     logoRow->addStretch(1);

@@ -12,7 +12,6 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
-
 #include <array>
 #include <functional>
 #include <utility>
@@ -78,7 +77,7 @@ public:
     int autoColStart = 0;
     int autoRowEnd = 0;
     int autoColEnd = 0;
-    AutoFillData autoFillData{};
+    AutoFillData autoFillData {};
     // When true every click is ignored (a statistics panel covers the grid).
     bool disableCellClick = false;
 

@@ -9,7 +9,6 @@
 #include <QPoint>
 #include <QRect>
 #include <QSize>
-
 #include <optional>
 
 class QPainter;
@@ -32,7 +31,10 @@ public:
     static constexpr int kRowHeight = 16;
     static constexpr int kHeaderHeight = 18;
 
-    explicit ScoreGridRenderer(const ScoreGrid &grid) : m_grid(grid) {}
+    explicit ScoreGridRenderer(const ScoreGrid &grid)
+        : m_grid(grid)
+    {
+    }
 
     QSize size() const;
     // The cell's rectangle; empty for a cell outside the rows and columns.
@@ -42,7 +44,7 @@ public:
 
     // Where the popover for a cell opens, relative to the grid's top left:
     // beside the cell, 160 across plus 43 a column, 48 down plus 16 a row.
-    static QPoint popoverOffset(int row, int col) { return {160 + col * 43, row * kRowHeight + 48}; }
+    static QPoint popoverOffset(int row, int col) { return { 160 + col * 43, row * kRowHeight + 48 }; }
 
     struct Decorations
     {

@@ -23,10 +23,10 @@ namespace {
 void loadCard(ScoreGrid &grid)
 {
     loadTeam(grid, 9);
-    fillColumn(grid, 0, {"B1/G", "KS/R", "HR/G", "GO/R", "FO/R"});
-    fillColumn(grid, 1, {"IBB/Y", "GO/R", ".", ".", ".", "BB/Y", "HBP/R", "KL/R", "B2/G"});
-    fillColumn(grid, 2, {".", ".", "B3/Y", "/X", "KS/R", "FO/R", "GO/R"});
-    fillColumn(grid, 3, {".", ".", ".", ".", ".", ".", "HR/G", "/R", "B1/G"});
+    fillColumn(grid, 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
+    fillColumn(grid, 1, { "IBB/Y", "GO/R", ".", ".", ".", "BB/Y", "HBP/R", "KL/R", "B2/G" });
+    fillColumn(grid, 2, { ".", ".", "B3/Y", "/X", "KS/R", "FO/R", "GO/R" });
+    fillColumn(grid, 3, { ".", ".", ".", ".", ".", ".", "HR/G", "/R", "B1/G" });
 }
 
 QString figures(const AutoFillData &data)
@@ -125,8 +125,8 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 4);
-        fillColumn(grid, 0, {"B1/G", "GO/R", "FO/R", "KS/R"});
-        fillColumn(grid, 1, {"B1", "GO/R"});
+        fillColumn(grid, 0, { "B1/G", "GO/R", "FO/R", "KS/R" });
+        fillColumn(grid, 1, { "B1", "GO/R" });
         QSignalSpy done(&grid, &ScoreGrid::autoFillDataReturn);
         QSignalSpy failed(&grid, &ScoreGrid::autoFillFailed);
 
@@ -136,7 +136,7 @@ private Q_SLOTS:
 
         QCOMPARE(failed.count(), 1);
         QCOMPARE(done.count(), 0);
-        QCOMPARE(env.fake.messages.texts(), QStringList{"An error occurred while retrieving the pitcher's data"});
+        QCOMPARE(env.fake.messages.texts(), QStringList { "An error occurred while retrieving the pitcher's data" });
         QCOMPARE(env.fake.messages.shown.at(0).explanation, QStringLiteral("Please fill in the data manually."));
     }
 
@@ -145,11 +145,11 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("column");
         QTest::addColumn<int>("startRow");
         QTest::addColumn<int>("end");
-        QTest::newRow("the batter who did not come up") << QStringList{"B1", "B1", ".", "."} << 0 << 2;
-        QTest::newRow("wraps to the top") << QStringList{".", "B1", "B1", "B1"} << 1 << 0;
-        QTest::newRow("a full column ends where it began") << QStringList{"B1", "B1", "B1", "B1"} << 2 << 2;
-        QTest::newRow("a disabled cell is no gap") << QStringList{"B1", "/X", ".", "B1"} << 0 << 2;
-        QTest::newRow("a result alone is a gap") << QStringList{"B1", "/R", "B1", "B1"} << 0 << 1;
+        QTest::newRow("the batter who did not come up") << QStringList { "B1", "B1", ".", "." } << 0 << 2;
+        QTest::newRow("wraps to the top") << QStringList { ".", "B1", "B1", "B1" } << 1 << 0;
+        QTest::newRow("a full column ends where it began") << QStringList { "B1", "B1", "B1", "B1" } << 2 << 2;
+        QTest::newRow("a disabled cell is no gap") << QStringList { "B1", "/X", ".", "B1" } << 0 << 2;
+        QTest::newRow("a result alone is a gap") << QStringList { "B1", "/R", "B1", "B1" } << 0 << 1;
     }
     void firstColRowEnd()
     {
@@ -169,14 +169,14 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("column");
         QTest::addColumn<int>("col");
         QTest::addColumn<int>("start");
-        QTest::newRow("after a gap") << QStringList{} << QStringList{".", ".", "B1", "GO/R"} << 1 << 2;
+        QTest::newRow("after a gap") << QStringList {} << QStringList { ".", ".", "B1", "GO/R" } << 1 << 2;
         QTest::newRow("after the top rows that wrapped")
-            << QStringList{} << QStringList{"B1", ".", "GO/R", "KS/R"} << 1 << 2;
+            << QStringList {} << QStringList { "B1", ".", "GO/R", "KS/R" } << 1 << 2;
         QTest::newRow("where the inning before stopped")
-            << QStringList{"B1", "GO/R", ".", "."} << QStringList{"B1", "B1", ".", "."} << 1 << 2;
-        QTest::newRow("first inning from the top") << QStringList{} << QStringList{"B1", "B1", ".", "."} << 0 << 0;
-        QTest::newRow("not to be found")
-            << QStringList{"B1", "GO/R", "FO/R", "KS/R"} << QStringList{"B1", "B1", ".", "."} << 1 << -1;
+            << QStringList { "B1", "GO/R", ".", "." } << QStringList { "B1", "B1", ".", "." } << 1 << 2;
+        QTest::newRow("first inning from the top") << QStringList {} << QStringList { "B1", "B1", ".", "." } << 0 << 0;
+        QTest::newRow("not to be found") << QStringList { "B1", "GO/R", "FO/R", "KS/R" }
+                                         << QStringList { "B1", "B1", ".", "." } << 1 << -1;
     }
     void lastColRowStart()
     {

@@ -30,7 +30,7 @@ QString outcomesLine(const QStringList &values)
 
 QStringList exampleHeadings()
 {
-    QStringList h = {"1", "2", "3", "3a"};
+    QStringList h = { "1", "2", "3", "3a" };
     for (int i = 4; i <= 20; ++i)
         h.append(QString::number(i));
     return h;
@@ -40,8 +40,8 @@ QStringList exampleHeadings()
 // after inning 3 was doubled; line 3 is the substitute of line 2.
 QString exampleActions()
 {
-    return QStringList{u"B1\tGO"_s + tabs(19), u"KS"_s + tabs(20), u"HR"_s + tabs(20), u"\tB2"_s + tabs(19)}
-        .join(CR);
+    return QStringList { u"B1\tGO"_s + tabs(19), u"KS"_s + tabs(20), u"HR"_s + tabs(20), u"\tB2"_s + tabs(19) }.join(
+        CR);
 }
 
 QString exampleOutcomes()
@@ -52,7 +52,7 @@ QString exampleOutcomes()
             first.append(QString());
         return outcomesLine(first + extra);
     };
-    QStringList lines = {row({"G", "R"}), row({"R"}), row({"G", "X"}), row({"X", "Y"})};
+    QStringList lines = { row({ "G", "R" }), row({ "R" }), row({ "G", "X" }), row({ "X", "Y" }) };
     while (lines.size() < 26)
         lines.append(outcomesLine({}));
     return lines.join(CR);
@@ -84,7 +84,7 @@ private Q_SLOTS:
         // Every code in every row of a full 26-row lineup.
         QStringList actionLines, outcomeLines;
         const QStringList codes = gameday::atBatCodes();
-        const QStringList bkgs = {"", "R", "G", "Y", "X"};
+        const QStringList bkgs = { "", "R", "G", "Y", "X" };
         for (int r = 0; r < 26; ++r) {
             QStringList texts, values;
             for (int c = 0; c < 20; ++c) {
@@ -182,16 +182,14 @@ private Q_SLOTS:
         const QString before = u"KL"_s + tabs(19) + CR + tabs(19) + CR + tabs(19);
         QTest::newRow("more lines than rows") << (u"B1\rB2\rB3\rHR"_s) << before << true;
         QTest::newRow("short lines") << (u"B1\r\rHR\tGO"_s)
-                                     << (u"B1"_s + tabs(19) + CR + tabs(19) + CR + u"HR\tGO"_s + tabs(18))
-                                     << false;
+                                     << (u"B1"_s + tabs(19) + CR + tabs(19) + CR + u"HR\tGO"_s + tabs(18)) << false;
         QString longLine;
         for (int i = 0; i < 40; ++i)
             longLine += (i ? T : QString()) + u"B1"_s;
-        QTest::newRow("extra fields") << longLine
-                                      << (QStringList(20, u"B1"_s).join(T) + CR + tabs(19) + CR + tabs(19))
+        QTest::newRow("extra fields") << longLine << (QStringList(20, u"B1"_s).join(T) + CR + tabs(19) + CR + tabs(19))
                                       << false;
-        QTest::newRow("unknown codes") << (u"ZZZ\tB1"_s)
-                                       << (u"ZZZ\tB1"_s + tabs(18) + CR + tabs(19) + CR + tabs(19)) << false;
+        QTest::newRow("unknown codes") << (u"ZZZ\tB1"_s) << (u"ZZZ\tB1"_s + tabs(18) + CR + tabs(19) + CR + tabs(19))
+                                       << false;
         QTest::newRow("empty") << QString() << (tabs(19) + CR + tabs(19) + CR + tabs(19)) << false;
     }
     void damagedTexts()
@@ -208,7 +206,7 @@ private Q_SLOTS:
 
         QCOMPARE(grid.getMyData(), expected);
         QCOMPARE(env.fake.messages.texts(),
-                 reported ? QStringList{"There is an error in the saved data."} : QStringList{});
+            reported ? QStringList { "There is an error in the saved data." } : QStringList {});
         if (reported) {
             QCOMPARE(env.fake.messages.shown.at(0).explanation, QStringLiteral("Please re-create the game data."));
             QCOMPARE(env.fake.messages.shown.at(0).actionCaption, QStringLiteral("OK"));
@@ -221,16 +219,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("firstLine"); // of getMyBkgArray afterwards
         QTest::addColumn<int>("runs");
 
-        QTest::newRow("unknown letters") << (u"Q\tR\tg\tGG\tG"_s) << outcomesLine({"", "R", "", "", "G"}) << 1;
+        QTest::newRow("unknown letters") << (u"Q\tR\tg\tGG\tG"_s) << outcomesLine({ "", "R", "", "", "G" }) << 1;
         QString wide;
         for (int i = 0; i < 40; ++i)
             wide += u"G\t"_s;
         QTest::newRow("extra fields") << wide << outcomesLine(QStringList(20, u"G"_s)) << 20;
         QStringList many(40, u"G"_s);
-        QTest::newRow("more lines than the array") << many.join(CR) << outcomesLine({"G"}) << 3;
-        QTest::newRow("short") << (u"G"_s) << outcomesLine({"G"}) << 1;
+        QTest::newRow("more lines than the array") << many.join(CR) << outcomesLine({ "G" }) << 3;
+        QTest::newRow("short") << (u"G"_s) << outcomesLine({ "G" }) << 1;
         QTest::newRow("empty") << QString() << outcomesLine({}) << 0;
-        QTest::newRow("line feeds") << (u"G\n\tR\r\nY"_s) << outcomesLine({"", "R"}) << 0;
+        QTest::newRow("line feeds") << (u"G\n\tR\r\nY"_s) << outcomesLine({ "", "R" }) << 0;
     }
     void damagedBackgrounds()
     {
@@ -246,6 +244,43 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), 26);
         QCOMPARE(lines.first(), firstLine);
         QCOMPARE(grid.countTotalRuns(), runs);
+        QVERIFY(env.fake.messages.shown.isEmpty());
+    }
+
+    // Headings and lineups from a damaged record can be larger than the
+    // background array: the cells outside it take codes but no colours, and
+    // nothing is written outside the array.
+    void shapesPastTheArray()
+    {
+        GridEnv env;
+        ScoreGrid grid;
+        QStringList headings;
+        for (int i = 1; i <= 30; ++i)
+            headings.append(QString::number(i));
+        grid.setColumnHeadings(headings);
+        loadTeam(grid, 28);
+        for (int r = 0; r < 27; ++r)
+            grid.setCellText(r, 25, u"B1"_s);
+        ScriptedPopover popover;
+        popover.install(grid);
+
+        popover.script({u"B1"_s});
+        grid.cellClicked(27, 25, false); // a full column past the array doubles
+        QCOMPARE(grid.columnCount(), 30);
+        QCOMPARE(grid.heading(26), u"26a"_s);
+        QCOMPARE(grid.heading(29), u"29"_s);
+
+        popover.script({u"HR"_s});
+        grid.cellClicked(27, 0, false);
+        QCOMPARE(grid.cellText(27, 0), u"HR"_s);
+        QCOMPARE(grid.cellBkg(27, 0), QString());
+        QCOMPARE(grid.countTotalRuns(), 0);
+
+        const QString texts = grid.getMyData();
+        QCOMPARE(texts.split(CR).size(), 28);
+        grid.setMyData(texts);
+        QCOMPARE(grid.getMyData(), texts);
+        QCOMPARE(grid.getMyBkgArray().split(CR).size(), 26);
         QVERIFY(env.fake.messages.shown.isEmpty());
     }
 

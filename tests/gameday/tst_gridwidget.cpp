@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
-
 #include <functional>
 
 using gameday::ScoreGridRenderer;
@@ -117,14 +116,38 @@ private Q_SLOTS:
 
         const QColor red = QColor::fromRgb(0xFF5765), green = QColor::fromRgb(0x84FF85);
         const QColor yellow = QColor::fromRgb(0xFFFA9B), grey = QColor::fromRgb(0x727272);
-        QTest::newRow("home run") << "" << "" << "batActionLB" << 0 << 3 << "HR" << "G" << green;
-        QTest::newRow("strike out looking") << "" << "" << "batActionLB" << 2 << 3 << "KL" << "R" << red;
-        QTest::newRow("single") << "" << "" << "batActionLB" << 0 << 0 << "B1" << "" << QColor(Qt::white);
-        QTest::newRow("force out") << "B1" << "" << "resultLB" << 0 << 2 << "B1" << "R" << red;
-        QTest::newRow("run") << "BB" << "" << "resultLB" << 1 << 1 << "BB" << "G" << green;
-        QTest::newRow("left on base") << "B2" << "" << "resultLB" << 1 << 2 << "B2" << "Y" << yellow;
-        QTest::newRow("disable a run") << "HR" << "G" << "" << 0 << 1 << "" << "X" << grey;
-        QTest::newRow("clear an out") << "GO" << "R" << "" << 0 << 0 << "" << "" << QColor(Qt::white);
+        QTest::newRow("home run") << ""
+                                  << ""
+                                  << "batActionLB" << 0 << 3 << "HR"
+                                  << "G" << green;
+        QTest::newRow("strike out looking") << ""
+                                            << ""
+                                            << "batActionLB" << 2 << 3 << "KL"
+                                            << "R" << red;
+        QTest::newRow("single") << ""
+                                << ""
+                                << "batActionLB" << 0 << 0 << "B1"
+                                << "" << QColor(Qt::white);
+        QTest::newRow("force out") << "B1"
+                                   << ""
+                                   << "resultLB" << 0 << 2 << "B1"
+                                   << "R" << red;
+        QTest::newRow("run") << "BB"
+                             << ""
+                             << "resultLB" << 1 << 1 << "BB"
+                             << "G" << green;
+        QTest::newRow("left on base") << "B2"
+                                      << ""
+                                      << "resultLB" << 1 << 2 << "B2"
+                                      << "Y" << yellow;
+        QTest::newRow("disable a run") << "HR"
+                                       << "G"
+                                       << "" << 0 << 1 << ""
+                                       << "X" << grey;
+        QTest::newRow("clear an out") << "GO"
+                                      << "R"
+                                      << "" << 0 << 0 << ""
+                                      << "" << QColor(Qt::white);
     }
     void pickedCodePaintsTheCell()
     {
@@ -206,7 +229,7 @@ private Q_SLOTS:
         GridEnv env;
         BBScoringLB grid;
         loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 0, {"HR/G", "B1"});
+        fillColumn(grid.grid(), 0, { "HR/G", "B1" });
         grid.show();
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         PopoverDriver driver;
@@ -226,13 +249,13 @@ private Q_SLOTS:
         GridEnv env;
         BBScoringLB grid;
         loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 3, {"GO/R", "FO/R", "KS/R"});
+        fillColumn(grid.grid(), 3, { "GO/R", "FO/R", "KS/R" });
         grid.show();
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         PopoverDriver driver;
         QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 5, 3));
         QCOMPARE(driver.opened, 0);
-        QCOMPARE(env.fake.messages.texts(), QStringList{"There are already three outs in that inning."});
+        QCOMPARE(env.fake.messages.texts(), QStringList { "There are already three outs in that inning." });
     }
 
     void keyboardDoesWhatTheMouseDoes()
@@ -248,7 +271,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&grid));
         grid.setFocus();
         QVERIFY(grid.hasFocus());
-        QCOMPARE(grid.currentCell(), (gameday::GridCell{0, 0}));
+        QCOMPARE(grid.currentCell(), (gameday::GridCell { 0, 0 }));
 
         // Down, Right, Return: the popover opens on (1, 1) with the action
         // list in focus; Down, Right, Return there picks "IBB".
@@ -288,8 +311,8 @@ private Q_SLOTS:
         GridEnv env;
         BBScoringLB grid;
         loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 0, {"FO/R", "B1/G", "B1", "GO/R", "B1", "B1", "BB", "B1"});
-        fillColumn(grid.grid(), 1, {"KS/R", "KL/R"});
+        fillColumn(grid.grid(), 0, { "FO/R", "B1/G", "B1", "GO/R", "B1", "B1", "BB", "B1" });
+        fillColumn(grid.grid(), 1, { "KS/R", "KL/R" });
         grid.show();
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         QSignalSpy added(&grid, &BBScoringLB::columnAdded);
@@ -297,7 +320,7 @@ private Q_SLOTS:
         const int width = grid.width();
 
         PopoverDriver driver;
-        driver.actions = {pickIn(u"batActionLB"_s, 0, 1), pickIn(u"batActionLB"_s, 2, 1)};
+        driver.actions = { pickIn(u"batActionLB"_s, 0, 1), pickIn(u"batActionLB"_s, 2, 1) };
         QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 8, 0)); // B2: the order went round
         QCOMPARE(added.count(), 1);
         QCOMPARE(grid.width(), width + gameday::kInsertedColumnWidth); // the grid grows by the new column
@@ -313,7 +336,7 @@ private Q_SLOTS:
         GridEnv env;
         BBScoringLB grid;
         loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 0, {"B1/G", "KS/R", "HR/G", "GO/R", "FO/R"});
+        fillColumn(grid.grid(), 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
         grid.show();
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         QSignalSpy done(&grid, &BBScoringLB::autoFillDataReturn);
@@ -328,7 +351,7 @@ private Q_SLOTS:
 
         QCOMPARE(driver.opened, 0);
         QCOMPARE(done.count(), 1);
-        QCOMPARE(done.at(0).at(0).value<gameday::AutoFillData>(), (gameday::AutoFillData{3, 4, 1, 1, 0, 0, 1, 0}));
+        QCOMPARE(done.at(0).at(0).value<gameday::AutoFillData>(), (gameday::AutoFillData { 3, 4, 1, 1, 0, 0, 1, 0 }));
         grid.grid().reinitAutoVars();
         QCOMPARE(grid.grab().toImage().pixelColor(cell.left() + 2, cell.center().y()), QColor::fromRgb(0xFF5765));
     }
@@ -344,9 +367,9 @@ private Q_SLOTS:
         grid.move(10, 10);
         gameday::ScoreGrid &g = grid.grid();
         loadTeam(g, 9);
-        fillColumn(g, 0, {"B1/G", "KS/R", "HR/G", "GO/R", "FO/R"});
-        fillColumn(g, 1, {"IBB/Y", "GO/R", ".", ".", ".", "BB/G", "HBP/R", "KL/R", "B2/G"});
-        fillColumn(g, 2, {".", ".", "B3/Y", "KS/R", "FO/R", "B1", "ROE"});
+        fillColumn(g, 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
+        fillColumn(g, 1, { "IBB/Y", "GO/R", ".", ".", ".", "BB/G", "HBP/R", "KL/R", "B2/G" });
+        fillColumn(g, 2, { ".", ".", "B3/Y", "KS/R", "FO/R", "B1", "ROE" });
         grid.resize(grid.sizeHint());
         window.resize(grid.width() + 20, grid.height() + 290);
         window.show();

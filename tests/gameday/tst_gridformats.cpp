@@ -264,13 +264,13 @@ private Q_SLOTS:
         ScriptedPopover popover;
         popover.install(grid);
 
-        popover.script({u"B1"_s});
+        popover.script({ u"B1"_s });
         grid.cellClicked(27, 25, false); // a full column past the array doubles
         QCOMPARE(grid.columnCount(), 30);
         QCOMPARE(grid.heading(26), u"26a"_s);
         QCOMPARE(grid.heading(29), u"29"_s);
 
-        popover.script({u"HR"_s});
+        popover.script({ u"HR"_s });
         grid.cellClicked(27, 0, false);
         QCOMPARE(grid.cellText(27, 0), u"HR"_s);
         QCOMPARE(grid.cellBkg(27, 0), QString());

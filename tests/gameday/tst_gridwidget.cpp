@@ -244,20 +244,6 @@ private Q_SLOTS:
         QCOMPARE(grid.grid().countTotalLOBs(), 2);
     }
 
-    void refusedInAFinishedInning()
-    {
-        GridEnv env;
-        BBScoringLB grid;
-        loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 3, { "GO/R", "FO/R", "KS/R" });
-        grid.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&grid));
-        PopoverDriver driver;
-        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 5, 3));
-        QCOMPARE(driver.opened, 0);
-        QCOMPARE(env.fake.messages.texts(), QStringList { "There are already three outs in that inning." });
-    }
-
     void keyboardDoesWhatTheMouseDoes()
     {
         GridEnv env;

@@ -616,22 +616,6 @@ private Q_SLOTS:
         QCOMPARE(grid.isColumnEmpty(0), empty);
     }
 
-    void countABs_data()
-    {
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<bool>("atBat");
-        for (const QString &code : gameday::atBatCodes()) {
-            const bool notAB = QStringList { "BB", "IBB", "SAC", "HBP", "CI" }.contains(code);
-            QTest::addRow("%s", qPrintable(code)) << code << !notAB;
-        }
-    }
-    void countABs()
-    {
-        QFETCH(QString, code);
-        QFETCH(bool, atBat);
-        QCOMPARE(ScoreGrid::countABs(code), atBat);
-    }
-
     void hittingStats()
     {
         GridEnv env;

@@ -1,6 +1,7 @@
 #include "app/App.h"
 
 #include "app/AppInfo.h"
+#include "app/FileTypes.h"
 #include "app/globals.h"
 #include "app/myDictionaries.h"
 
@@ -105,7 +106,7 @@ App::SeasonList App::seasonList() const
     const QDir folder(m_prefs->strdDataLoc);
     const QFileInfoList entries = folder.entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo &entry : entries) {
-        if (entry.suffix().compare(QStringLiteral("sqlite"), Qt::CaseInsensitive) != 0)
+        if (!FileTypes::isSeasonFile(entry.fileName()))
             continue;
         QString name = entry.fileName();
         if (name.startsWith(QStringLiteral("tlData_")))

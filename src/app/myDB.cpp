@@ -146,6 +146,12 @@ void myDB::rememberError(int code, const QString &message)
     m_lastErrorMessage = message;
 }
 
+void myDB::report(const SQLite::Exception &e)
+{
+    rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
+    DisplayDatabaseError();
+}
+
 void myDB::clearError()
 {
     rememberError(0, {});
@@ -209,8 +215,7 @@ bool myDB::exec(const QString &sql, const QVariantList &params)
         clearError();
         return true;
     } catch (const SQLite::Exception &e) {
-        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
-        DisplayDatabaseError();
+        report(e);
         return false;
     }
 }
@@ -236,8 +241,7 @@ QList<Record> myDB::select(const QString &sql, const QVariantList &params)
         }
         clearError();
     } catch (const SQLite::Exception &e) {
-        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
-        DisplayDatabaseError();
+        report(e);
         rows.clear();
     }
     return rows;
@@ -293,8 +297,7 @@ bool myDB::runInTransaction(const std::function<void()> &body)
         clearError();
         return true;
     } catch (const SQLite::Exception &e) {
-        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
-        DisplayDatabaseError();
+        report(e);
         return false;
     }
 }

@@ -11,6 +11,7 @@
 
 namespace SQLite {
 class Database;
+class Exception;
 class Statement;
 } // namespace SQLite
 
@@ -101,6 +102,7 @@ private:
     bool verifyIntegrity();
     void rememberError(int code, const QString &message);
     void clearError();
+    void report(const SQLite::Exception &e);
 
     QString m_filePath;
     int m_lastErrorCode = 0;

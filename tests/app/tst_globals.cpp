@@ -1,5 +1,6 @@
 // The shared lists and small routines every screen leans on.
 
+#include "app/FileTypes.h"
 #include "app/LocaleInfo.h"
 #include "app/globals.h"
 #include "fakes/FakePlatform.h"
@@ -173,6 +174,30 @@ private Q_SLOTS:
         QCOMPARE(bool(setup), valid);
         if (setup)
             QCOMPARE(setup->toString(), text);
+    }
+
+    void fileTypes_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("season");
+        QTest::addColumn<bool>("picture");
+        QTest::newRow("season") << QStringLiteral("tlData_2026.sqlite") << true << false;
+        QTest::newRow("season, capitals") << QStringLiteral("TLDATA_X.SQLITE") << true << false;
+        QTest::newRow("backup journal") << QStringLiteral("tlData_2026.sqlite-journal") << false << false;
+        QTest::newRow("logo") << QStringLiteral("Hawks Logo.JPEG") << false << true;
+        QTest::newRow("tiff") << QStringLiteral("team.tif") << false << true;
+        QTest::newRow("plan") << QStringLiteral("Monday.pplan") << false << false;
+    }
+    void fileTypes()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, season);
+        QFETCH(bool, picture);
+        QCOMPARE(FileTypes::isSeasonFile(file), season);
+        QCOMPARE(FileTypes::AllPicts().matches(file), picture);
+        QCOMPARE(FileTypes::PlanFile().matches(file), file.endsWith(QStringLiteral(".pplan")));
+        QVERIFY(FileTypes::pPng.nameFilter() == QStringLiteral("png (*.png)"));
+        QVERIFY(FileTypes::pAllPicts.nameFilter().startsWith(QStringLiteral("all_picts (*.gif *.jfif *.jpe *.jpeg")));
     }
 
     void localeNames()

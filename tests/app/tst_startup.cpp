@@ -8,6 +8,7 @@
 #include "app/ui/AboutScrn.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
+#include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/FakePlatform.h"
@@ -26,6 +27,21 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+// Throws from its first custom event, as a faulty handler would.
+class Thrower : public QObject
+{
+public:
+    int events = 0;
+    bool event(QEvent *e) override
+    {
+        if (e->type() != QEvent::User)
+            return QObject::event(e);
+        if (++events == 1)
+            throw std::runtime_error("the scorer dropped the pencil");
+        return true;
+    }
+};
 
 class TestStartup : public QObject
 {
@@ -276,6 +292,36 @@ private Q_SLOTS:
         QVERIFY(!guard);
     }
 
+    void dirtyPreferencesAreWrittenAtQuit()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        gPrefs->prInnings = QStringLiteral("7 Innings");
+        app.Event_Close();
+        QCOMPARE(myPrefs(home.path()).prInnings, QStringLiteral("9 Innings")); // not dirty: not written
+        gPrefs->prefsDirty = true;
+        app.Event_Close();
+        QCOMPARE(myPrefs(home.path()).prInnings, QStringLiteral("7 Innings"));
+    }
+
+    // An exception that escapes an event handler is shown and the program goes on.
+    void exceptionInAnEventHandler()
+    {
+        fakes::FakePlatform fake;
+        QVERIFY(qobject_cast<TallylineApplication *>(QCoreApplication::instance()));
+        Thrower thrower;
+        QEvent poke(QEvent::User);
+        QCoreApplication::sendEvent(&thrower, &poke);
+        QCOMPARE(fake.messages.shown.size(), 1);
+        QCOMPARE(fake.messages.shown[0].message, QStringLiteral("An unexpected error occurred."));
+        QVERIFY(fake.messages.shown[0].explanation.contains(QStringLiteral("the scorer dropped the pencil")));
+        QCoreApplication::sendEvent(&thrower, &poke);
+        QCOMPARE(thrower.events, 2);
+        QCOMPARE(fake.messages.shown.size(), 1);
+    }
+
     // The real dialog: Escape answers "cancel" (1), the buttons answer 0 and 2.
     void realMessageDialog_data()
     {
@@ -313,5 +359,10 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestStartup)
+int main(int argc, char *argv[])
+{
+    TallylineApplication app(argc, argv);
+    TestStartup test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_startup.moc"

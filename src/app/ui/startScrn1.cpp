@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
@@ -34,9 +35,13 @@ void LogoCanvas::setPicture(const QImage &picture)
 
 void LogoCanvas::paintEvent(QPaintEvent *)
 {
-    if (m_picture.isNull())
-        return;
     QPainter p(this);
+    if (m_picture.isNull()) {
+        // An empty frame keeps the layout steady until a home team has a logo.
+        p.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
+        p.drawRoundedRect(rect().adjusted(1, 1, -2, -2), 8, 8);
+        return;
+    }
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     const QSize scaled = m_picture.size().scaled(size(), Qt::KeepAspectRatio);
     const QRect target(QPoint((width() - scaled.width()) / 2, (height() - scaled.height()) / 2), scaled);
@@ -75,6 +80,9 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     SelectSeasonPop->setObjectName(QStringLiteral("SelectSeasonPop"));
     SelectSeasonPop->setAccessibleName(QStringLiteral("Season"));
     seasonLabel->setBuddy(SelectSeasonPop);
+    teamNameLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    seasonLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    left->addSpacing(12);
     left->addWidget(seasonLabel);
     left->addWidget(SelectSeasonPop);
     left->addStretch(1);
@@ -89,7 +97,16 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     left->addWidget(helpBtn, 0, Qt::AlignLeft);
     outer->addLayout(left);
 
+    auto *right = new QVBoxLayout;
+    auto *title = new QLabel(QStringLiteral("Tallyline Baseball"), central);
+    title->setObjectName(QStringLiteral("titleLabel"));
+    QFont titleFont = title->font();
+    titleFont.setPointSize(titleFont.pointSize() + 8);
+    titleFont.setBold(true);
+    title->setFont(titleFont);
+    right->addWidget(title);
     auto *grid = new QGridLayout;
+    grid->setSpacing(8);
     const struct
     {
         const char *name, *caption, *target;
@@ -113,8 +130,13 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
         grid->addWidget(button, i / 2, i % 2);
         ++i;
     }
-    outer->addLayout(grid, 1);
+    right->addLayout(grid);
+    right->addStretch(1);
+    outer->addLayout(right, 1);
+    outer->setContentsMargins(16, 12, 16, 12);
+    outer->setSpacing(20);
     setCentralWidget(central);
+    setMinimumSize(680, 400);
 
     connect(SelectSeasonPop, &QComboBox::currentIndexChanged, this, &startScrn1::seasonChosen);
 
@@ -209,6 +231,11 @@ void startScrn1::openTarget(const QString &target, bool closeStart, bool startBa
 void startScrn1::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
+    if (!m_placed) {
+        m_placed = true;
+        if (QScreen *screen = this->screen())
+            move(screen->availableGeometry().center() - frameGeometry().center() + pos());
+    }
     setPopupList();
     setLogo_Name();
     if (App::instance() && App::instance()->BUTimer)

@@ -48,6 +48,7 @@ private:
 
     MainMenuBar *m_menuBar = nullptr;
     bool m_fillingPopup = false;
+    bool m_placed = false;
 };
 
 // Paints the home team's logo scaled to its area.

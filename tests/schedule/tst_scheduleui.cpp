@@ -150,7 +150,10 @@ private Q_SLOTS:
 
         // From the keyboard: arrows walk the days, Page Down turns the page.
         whenShown<Calendar>([](Calendar *picker) {
+            picker->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(picker));
             QWidget *day4 = picker->BevelButton1.at(CalendarMonth(2026, 7).slotOfDay(4));
+            QCOMPARE(QApplication::focusWidget(), day4); // the day the picker opened on
             day4->setFocus();
             QTest::keyClick(day4, Qt::Key_Down);
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);

@@ -101,6 +101,9 @@ private Q_SLOTS:
         }
         // The day the picker was opened on has the focus.
         QCOMPARE(QApplication::focusWidget(), picker.BevelButton1.at(hiddenBefore + start.day() - 1));
+        // ... and stands out in bold, alone.
+        for (int slot = 0; slot < 37; ++slot)
+            QCOMPARE(picker.BevelButton1.at(slot)->font().bold(), slot == hiddenBefore + start.day() - 1);
         QCOMPARE(picker.StaticText1.first()->text(), QStringLiteral("Sun"));
         QCOMPARE(picker.BevelButton1.at(hiddenBefore)->accessibleName(),
                  QLocale().toString(QDate(start.year(), start.month(), 1), QLocale::LongFormat));

@@ -4,6 +4,7 @@
 #include "schedule/CalendarMonth.h"
 
 #include <QComboBox>
+#include <QFont>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -107,6 +108,7 @@ void Calendar::setStartDate(const QDate &date)
 {
     const CalendarMonth page(date);
     whichDate = page.first();
+    m_startDate = date;
     m_focusDay = date.isValid() && page.first().year() == date.year() && page.first().month() == date.month()
                      ? date.day()
                      : 1;
@@ -129,6 +131,9 @@ void Calendar::updateMonth()
         const int day = page.dayInSlot(slot);
         button->setVisible(day > 0);
         button->setText(day > 0 ? QString::number(day) : QString());
+        QFont font = button->font();
+        font.setBold(day > 0 && QDate(page.year(), page.month(), day) == m_startDate);
+        button->setFont(font);
         button->setAccessibleName(day > 0 ? locale.toString(QDate(page.year(), page.month(), day), QLocale::LongFormat)
                                           : QString());
     }

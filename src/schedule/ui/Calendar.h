@@ -57,5 +57,6 @@ private:
     void focusDay(int day);
 
     QDate m_chosen;
+    QDate m_startDate; // shown in bold while its month is on screen
     int m_focusDay = 0; // the day to focus when a month is laid out
 };

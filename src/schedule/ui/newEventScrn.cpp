@@ -167,7 +167,8 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
     connect(this, &QDialog::rejected, this, [this] { m_result.reset(); });
 
     fill();
-    eventDateFld->setFocus();
+    // The date comes first, and Space on the calendar button picks it.
+    calCnv->setFocus();
 }
 
 QComboBox *newEventScrn::timeBox(const QString &name, const QString &accessible, const QStringList &items, bool numbers)

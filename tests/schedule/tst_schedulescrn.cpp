@@ -146,6 +146,23 @@ private Q_SLOTS:
         screens::unregisterScreen(QStringLiteral("scheduleScrn"));
     }
 
+    void quittingSavesTheOrderAndClosesEverything()
+    {
+        Season season;
+        ScheduleList seed(*gData);
+        const qint64 a = seed.addNewItem(makeEvent("Game", QDate(2026, 4, 1), "Bears", season.bearsID, 1));
+        const qint64 b = seed.addNewItem(makeEvent("Practice", QDate(2026, 4, 2), "", -1, 0));
+        gData->exec("UPDATE Schedule SET position = 7");
+        auto *screen = new scheduleScrn;
+        screen->show();
+        QTest::qWait(1);
+        screen->menuBar()->item(QStringLiteral("FileQuit"))->trigger();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (QWidget *w : QApplication::topLevelWidgets())
+            QVERIFY2(!w->isVisible(), qPrintable(w->objectName()));
+        QCOMPARE(positions(), (QMap<qint64, qint64>{{a, 0}, {b, 1}}));
+    }
+
     void withoutAHomeTeamTheCoachIsTold()
     {
         Season season;
@@ -260,11 +277,19 @@ private Q_SLOTS:
         QCOMPARE(list->rowCount(), 2);
         QCOMPARE(gData->scalar("SELECT COUNT(*) FROM Games WHERE schedID = ?", {QString::number(recorded)}).toInt(), 1);
 
-        // Answering Cancel to the question deletes nothing.
+        // From the keyboard: Delete asks (Cancel keeps the event), Enter edits.
         fake.messages.answers.enqueue(platform::MsgCancel);
         list->setSelectedRow(0);
-        QTest::mouseClick(screen->deleteEvBtn, Qt::LeftButton);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(fake.messages.texts().last(), QStringLiteral("Are you sure you wish to delete this event?"));
         QCOMPARE(list->rowCount(), 2);
+        bool editorOpened = false;
+        whenShown<newEventScrn>([&editorOpened](newEventScrn *editor) {
+            editorOpened = editor->actionBtn->text() == u"Edit Event";
+            editor->reject();
+        });
+        QTest::keyClick(list, Qt::Key_Return);
+        QVERIFY(editorOpened);
     }
 
     void dragUnderAFilterThenShowAll()

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -68,7 +69,9 @@ scheduleScrn::scheduleScrn(QWidget *parent) : QMainWindow(parent), m_schedule(*g
     ScheduleListbox->setHeadings(ScheduleList::headings());
     ScheduleListbox->setColumnWidths(QStringLiteral("95,85,85,110,150,*,30"));
     ScheduleListbox->setRowsMovable(true);
-    ScheduleListbox->setToolTip(QStringLiteral("Drag a row, or press Alt+Up / Alt+Down, to change the order"));
+    ScheduleListbox->setToolTip(QStringLiteral("Enter edits the event, Delete removes it; drag a row, or press "
+                                               "Alt+Up / Alt+Down, to change the order"));
+    ScheduleListbox->installEventFilter(this);
     outer->addWidget(ScheduleListbox, 1);
 
     schedIDLabel = new QLabel(QStringLiteral("No Selection"), central);
@@ -141,6 +144,25 @@ void scheduleScrn::showEvent(QShowEvent *event)
     m_opened = true;
     // Told once the window is up, so the coach sees what the message is about.
     QTimer::singleShot(0, this, [] { ScheduleList::warnWithoutHomeTeam(); });
+}
+
+bool scheduleScrn::eventFilter(QObject *watched, QEvent *event)
+{
+    // The list's keys for the buttons beside it.
+    if (watched == ScheduleListbox && event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->modifiers() == Qt::NoModifier || key->modifiers() == Qt::KeypadModifier) {
+            if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+                hndlEditItem();
+                return true;
+            }
+            if (key->key() == Qt::Key_Delete) {
+                deleteEvent();
+                return true;
+            }
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void scheduleScrn::closeEvent(QCloseEvent *event)

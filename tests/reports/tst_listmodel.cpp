@@ -5,7 +5,6 @@
 #include "reports/ListBoxModel.h"
 
 #include <QMimeData>
-#include <QSignalSpy>
 #include <QTest>
 
 class TestListModel : public QObject
@@ -98,23 +97,6 @@ private Q_SLOTS:
         model.addRow({"1", "2", "3", "4"});
         QCOMPARE(model.columnCount(), 4);
         QCOMPARE(model.headings(), (QStringList{"A", "B", "C", ""}));
-    }
-
-    void userEditsAreSignalled()
-    {
-        ListBoxModel model;
-        model.setHeadings({"Team", "W"});
-        model.addRow({"Owls", "3"});
-        QSignalSpy edited(&model, &ListBoxModel::cellEdited);
-        // Not editable: refused.
-        QVERIFY(!model.setData(model.index(0, 1), "4"));
-        model.setColumnType(1, ListBoxModel::CellType::Editable);
-        QVERIFY(model.flags(model.index(0, 1)) & Qt::ItemIsEditable);
-        QVERIFY(model.setData(model.index(0, 1), "4"));
-        QCOMPARE(model.cell(0, 1), QStringLiteral("4"));
-        QCOMPARE(edited.size(), 1);
-        model.setCell(0, 1, "5"); // the program's own change
-        QCOMPARE(edited.size(), 1);
     }
 
     void dragCarriesItsList()

@@ -141,6 +141,12 @@ void qlmListBox::editCell(int row, int column)
     const QModelIndex index = m_model->index(row, column);
     if (!index.isValid() || !(m_model->flags(index) & Qt::ItemIsEditable))
         return;
+    // Moving on from a cell being edited (a key handler's Return, say) keeps
+    // what was typed there.
+    if (QWidget *open = m_editing.isValid() ? indexWidget(m_editing) : nullptr) {
+        commitData(open);
+        closeEditor(open, QAbstractItemDelegate::NoHint);
+    }
     setCurrentIndex(index);
     QAbstractItemView::edit(index);
 }

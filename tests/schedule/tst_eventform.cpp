@@ -1,6 +1,7 @@
-// The event editor's rules without its window: the checks of
-// setEventProperties with their messages, the time and date forms, the key
-// rule of the time boxes and the home-game box.
+// The event editor's rules without its window: what setEventProperties makes
+// of the fields (its refusals are driven through the window in
+// tst_scheduleui), the time and date forms, the key rule of the time boxes
+// and the home-game box.
 
 #include "app/globals.h"
 #include "fakes/FakePlatform.h"
@@ -34,52 +35,6 @@ class TestEventForm : public QObject
 
 private Q_SLOTS:
     void cleanup() { QLocale::setDefault(QLocale::c()); }
-
-    void refusals_data()
-    {
-        QTest::addColumn<QString>("setup");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("explanation");
-        QTest::addColumn<bool>("plain");
-        QTest::newRow("no date") << "nodate" << "Please set a date for this event" << "Click the small calendar icon."
-                                 << false;
-        QTest::newRow("unreadable date") << "baddate" << "Please reselect the date" << "" << true;
-        QTest::newRow("game without opponent") << "noopp" << "Please select an opponent for this game." << "" << true;
-        QTest::newRow("home or away not said")
-            << "nohome" << "Please indicate a Home or Away game by clicking the Check Box" << "" << true;
-    }
-    void refusals()
-    {
-        QFETCH(QString, setup);
-        QFETCH(QString, message);
-        QFETCH(QString, explanation);
-        QFETCH(bool, plain);
-        fakes::FakePlatform fake;
-        EventForm form = pickedForm(QStringLiteral("Game"));
-        form.setOppoBox(QStringLiteral("Bears"));
-        if (setup == u"nodate") {
-            form.mDate = QDate();
-            form.dateText.clear();
-        } else if (setup == u"baddate") {
-            form.mDate = QDate();
-            form.dateText = QStringLiteral("2026-02-30");
-        } else if (setup == u"noopp") {
-            form.opponentIndex = -1;
-            form.opponentText.clear();
-        }
-        eventClass result;
-        result.location = QStringLiteral("untouched");
-        const eventClass before = result;
-        QVERIFY(!form.setEventProperties(result));
-        QCOMPARE(result, before);
-        QCOMPARE(fake.messages.shown.size(), 1);
-        const fakes::ShownMessage &shown = fake.messages.shown.first();
-        QCOMPARE(shown.message, message);
-        QCOMPARE(shown.explanation, explanation);
-        QCOMPARE(shown.plain, plain);
-        if (!plain)
-            QCOMPARE(shown.actionCaption, QStringLiteral("OK"));
-    }
 
     void accepted_data()
     {

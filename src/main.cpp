@@ -6,12 +6,14 @@
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
 #include "platform/qt/QtServices.h"
+#include "schedule/ui/scheduleScrn.h"
 
 namespace {
 
 // Every window the start screen can open, by name.
 void registerScreens()
 {
+    screens::registerScreen(QStringLiteral("scheduleScrn"), [] { return new scheduleScrn; });
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
+#include "schedule/ui/scheduleScrn.h"
 
 namespace {
 
@@ -16,6 +17,7 @@ void registerScreens()
 {
     screens::registerScreen(QStringLiteral("teamScrn"), [] { return new teamScrn; });
     screens::registerScreen(QStringLiteral("personnelScrn"), [] { return new personnelScrn; });
+    screens::registerScreen(QStringLiteral("scheduleScrn"), [] { return new scheduleScrn; });
 }
 
 } // namespace

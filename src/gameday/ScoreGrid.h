@@ -1,0 +1,203 @@
+#pragma once
+
+// The rules of the at-bat grid, with no widget in them: what each cell
+// holds, what a click does to it, how outs, runs and hits are counted, the
+// stored text forms of a team's grid and the pitching auto-fill walk.
+// BBScoringLB paints one of these and forwards the mouse to it.
+
+#include "gameday/GridCodes.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <functional>
+#include <utility>
+
+namespace gameday {
+
+// Eight figures counted for a pitcher by the auto-fill walk: outs, batters
+// faced, hits, home runs, walks, intentional walks, strikeouts, hit batters.
+using AutoFillData = std::array<int, 8>;
+
+class ScoreGrid : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Asks the coach for a code for the cell at (row, col). `showAll` is
+    // true when the cell has no final background, so the lists are offered
+    // and not only the six commands. The empty string means no choice.
+    using PopoverRequest = std::function<QString(int row, int col, bool showAll)>;
+
+    explicit ScoreGrid(QObject *parent = nullptr);
+
+    // --- Rows, columns and cells -------------------------------------------
+
+    int rowCount() const { return int(m_texts.size()); }
+    int columnCount() const { return int(m_headings.size()); }
+
+    // Empties the grid of rows; the backgrounds stay until initCellBkg or
+    // setMyBkgArray, as a team is always loaded with one of them.
+    void deleteAllRows();
+    // Adds an empty row at the end; its backgrounds are left as they are.
+    void addRow();
+    // Removes a lineup row and closes the gap in the backgrounds.
+    void removeRow(int row);
+
+    // Sets the column count, keeping the texts of the columns that remain.
+    // New columns are headed by their number ("21").
+    void setColumnCount(int count);
+    // Sets the headings and with them the column count.
+    void setColumnHeadings(const QStringList &headings);
+    const QStringList &columnHeadings() const { return m_headings; }
+    QString heading(int col) const;
+    int columnWidth(int col) const;
+
+    QString cellText(int row, int col) const;
+    void setCellText(int row, int col, const QString &text);
+    // Background code of a cell; "" outside the array.
+    QString cellBkg(int row, int col) const;
+    // Sets a background code; ignored outside the array or for an unknown code.
+    void setCellBkg(int row, int col, const QString &code);
+
+    // --- Properties of the design -----------------------------------------
+
+    // Code to background code, as a click applies it. Filled by initDict.
+    QHash<QString, QString> actionDict;
+    // Row on which a replacement is being inserted or removed; -1 when none.
+    int selRow = -1;
+    // Number of live columns; columns from here to 19 start disabled.
+    int defInnings = 9;
+    // Pitching auto-fill: clicks taken, the two marks and the result.
+    int autoClickCt = 0;
+    int autoRowStart = 0;
+    int autoColStart = 0;
+    int autoRowEnd = 0;
+    int autoColEnd = 0;
+    AutoFillData autoFillData {};
+    // When true every click is ignored (a statistics panel covers the grid).
+    bool disableCellClick = false;
+
+    void initDict();
+    void setSelectedRow(int row) { selRow = row; }
+    int getSelRow() const { return selRow; }
+    void setDefInnings(int n);
+    void setClickDisabled(bool disabled) { disableCellClick = disabled; }
+
+    // --- Clicks -------------------------------------------------------------
+
+    // The object that shows the popover; the widget installs one, tests
+    // install a script.
+    void setPopoverRequest(PopoverRequest request) { m_popover = std::move(request); }
+    // A click on the cell at (row, col); `optionDown` is the state of the
+    // Option (Alt) key. Clicks outside the cells are ignored.
+    void cellClicked(int row, int col, bool optionDown);
+    // What a code, result or command returned by the popover does to the
+    // cell at (row, col), with the events it raises.
+    void applyChoice(int row, int col, const QString &choice);
+
+    // --- Disabling and enabling ---------------------------------------------
+
+    void setInactiveCells(int row, bool allCols);
+    void disableSpecificCells(int row, int firstCol, int lastCol);
+    // Clears every background to "". The array always keeps kBkgCols
+    // columns, whatever `colUbound` says, so a doubling has room to write.
+    void initCellBkg(int colUbound);
+    void enableWholeCol(int col);
+    void disableWholeCol(int col);
+    void enableWholeRow(int row);
+    void disableWholeRow(int row);
+
+    // --- Columns and replacement rows ---------------------------------------
+
+    // Doubles the inning of `col`; returns the headings joined by tabs.
+    QString insertColumn(int col, int width);
+    // Whether insertColumn(col) has room; see there for the bound.
+    bool canInsertColumn(int col) const;
+    void insertReplacementRow(int row, int orderNum);
+    void moveDownOutcomes();
+    void moveUpOutcomes(int row);
+
+    // --- Tests over the cells -----------------------------------------------
+
+    bool check4ThreeOuts(int col) const;
+    bool isColumnFull(int col) const;
+    bool isColumnEmpty(int col) const;
+    bool isRowEmpty(int row) const;
+    bool isColAlreadyDoubled(int col) const { return findExtInningCol(col) != -1; }
+    int findExtInningCol(int col) const;
+    bool check4IncompleteCells() const;
+
+    // --- Counting -----------------------------------------------------------
+
+    int countTotalRuns() const;
+    int countTotalHits() const;
+    int countTotalLOBs() const;
+    // Runs per inning 1 to 10; index 9 collects every inning from the
+    // tenth on. -1 marks an inning with no at bats.
+    std::array<int, 10> countRunsByInning() const;
+    // The row's plate appearances laid out as the hitting dictionary hitD.
+    std::array<int, 21> getHittingStats(int row) const;
+    static bool countABs(const QString &code) { return gameday::countABs(code); }
+
+    // --- Stored text forms --------------------------------------------------
+
+    QString getMyData() const;
+    void setMyData(const QString &data);
+    QString getMyBkgArray() const;
+    void setMyBkgArray(const QString &data);
+    QString getColHeadings() const { return m_headings.join(u'\t'); }
+
+    // --- Pitching auto-fill -------------------------------------------------
+
+    void reinitAutoVars();
+    void af_calcPitchingData();
+    int af_findFirstColRowEnd(int col, int startRow) const;
+    int af_findLastColRowStart(int col) const;
+
+Q_SIGNALS:
+    // All column headings joined by tabs, after a column was inserted.
+    void columnAdded(const QString &headings);
+    // A result left the inning of `col` at three outs.
+    void doCalcs(int col);
+    // A cell turned green at or after the last regulation inning.
+    void askIsWalkoff();
+    void autoFillDataReturn(const gameday::AutoFillData &data);
+    void autoFillFailed();
+    // An auto-fill mark was taken on (row, col); the widget shows it.
+    void autoMarkTaken(int row, int col);
+    // Texts, backgrounds or the shape of the grid changed.
+    void changed();
+
+private:
+    bool inRows(int row) const { return row >= 0 && row < rowCount(); }
+    bool inColumns(int col) const { return col >= 0 && col < columnCount(); }
+    static bool inBkg(int row, int col) { return row >= 0 && row < kBkgRows && col >= 0 && col < kBkgCols; }
+    // Rows of the lineup that have backgrounds.
+    int bkgRowsInUse() const { return qMin(rowCount(), kBkgRows); }
+    bool isOpenCell(int row, int col) const; // empty text, not disabled
+    void blankBkgRow(int row);
+    void renumberFrom(int col);
+    // The rightmost column, if it is an unused extra inning a doubling may
+    // give up; -1 when there is none.
+    int spareTrailingColumn(int doubledCol) const;
+    void removeColumn(int col);
+    void visitForAutoFill(int row, int col);
+    int nextRow(int row) const { return row + 1 >= rowCount() ? 0 : row + 1; }
+
+    QStringList m_headings;
+    QList<int> m_widths;
+    QList<QStringList> m_texts; // one list per lineup row, one text per column
+    std::array<std::array<QString, kBkgCols>, kBkgRows> xCellBkg;
+    PopoverRequest m_popover;
+};
+
+// Innings per game and batting slots from the preferences, with the
+// first-run values when no preferences are loaded.
+int regulationInnings();
+int lineupSlots();
+
+} // namespace gameday

@@ -1,0 +1,198 @@
+// Pitching auto-fill on the grid: the two marks, the walk from the first
+// at bat a pitcher faced to the last, in batting order and inning order,
+// and its failure.
+
+#include "GridTestSupport.h"
+
+#include <QSignalSpy>
+
+using gameday::AutoFillData;
+using gameday::ScoreGrid;
+using namespace gridtest;
+
+Q_DECLARE_METATYPE(AutoFillData)
+
+namespace {
+
+// Three innings of one team's card, nine batters:
+//  1st: batters 1-5 (single and run, K, homer, ground out, fly out)
+//  2nd: batters 6-9 then 1-2 (walk, hit batter caught stealing, K looking,
+//       double and run, intentional walk, ground out)
+//  3rd: batters 3-7 (triple left on, a disabled cell, K, fly out, ground out)
+//  4th: batter 7 homers, batter 8's runner is put out with no at bat, 9 singles
+void loadCard(ScoreGrid &grid)
+{
+    loadTeam(grid, 9);
+    fillColumn(grid, 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
+    fillColumn(grid, 1, { "IBB/Y", "GO/R", ".", ".", ".", "BB/Y", "HBP/R", "KL/R", "B2/G" });
+    fillColumn(grid, 2, { ".", ".", "B3/Y", "/X", "KS/R", "FO/R", "GO/R" });
+    fillColumn(grid, 3, { ".", ".", ".", ".", ".", ".", "HR/G", "/R", "B1/G" });
+}
+
+QString figures(const AutoFillData &data)
+{
+    QStringList parts;
+    for (int v : data)
+        parts.append(QString::number(v));
+    return parts.join(u',');
+}
+
+} // namespace
+
+class TestAutoFill : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { qRegisterMetaType<AutoFillData>(); }
+
+    void walk_data()
+    {
+        QTest::addColumn<QPoint>("first"); // (col, row) of the first mark
+        QTest::addColumn<QPoint>("last");
+        // outs, batters faced, hits, home runs, walks, intentional walks, strikeouts, hit batters
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("one cell") << QPoint(0, 0) << QPoint(0, 0) << "0,1,1,0,0,0,0,0";
+        QTest::newRow("span in one inning") << QPoint(0, 1) << QPoint(0, 3) << "2,3,1,1,0,0,1,0";
+        QTest::newRow("into the next inning") << QPoint(0, 0) << QPoint(1, 1) << "6,11,3,1,1,1,2,1";
+        QTest::newRow("second mark above the first wraps") << QPoint(1, 5) << QPoint(1, 1) << "3,6,1,0,1,1,1,1";
+        QTest::newRow("ending on the last row") << QPoint(1, 5) << QPoint(1, 8) << "2,4,1,0,1,0,1,1";
+        QTest::newRow("a disabled cell counts nothing") << QPoint(2, 2) << QPoint(2, 6) << "3,4,1,0,0,0,1,0";
+        QTest::newRow("an out on an empty cell") << QPoint(3, 6) << QPoint(3, 8) << "1,2,2,1,0,0,0,0";
+        QTest::newRow("an inning in between counts whole") << QPoint(0, 0) << QPoint(2, 4) << "7,13,4,1,1,1,3,1";
+        QTest::newRow("marks given last first") << QPoint(1, 1) << QPoint(0, 0) << "6,11,3,1,1,1,2,1";
+    }
+    void walk()
+    {
+        QFETCH(QPoint, first);
+        QFETCH(QPoint, last);
+        QFETCH(QString, expected);
+
+        GridEnv env;
+        ScoreGrid grid;
+        loadCard(grid);
+        ScriptedPopover popover;
+        popover.install(grid);
+        QSignalSpy done(&grid, &ScoreGrid::autoFillDataReturn);
+        QSignalSpy failed(&grid, &ScoreGrid::autoFillFailed);
+        QSignalSpy marks(&grid, &ScoreGrid::autoMarkTaken);
+
+        gIsAutoFillMode = true;
+        grid.cellClicked(first.y(), first.x(), false);
+        QCOMPARE(grid.autoClickCt, 1);
+        QCOMPARE(done.count(), 0);
+        grid.cellClicked(last.y(), last.x(), false);
+
+        QCOMPARE(marks.count(), 2);
+        QCOMPARE(done.count(), 1);
+        QCOMPARE(failed.count(), 0);
+        QCOMPARE(figures(done.at(0).at(0).value<AutoFillData>()), expected);
+        QCOMPARE(figures(grid.autoFillData), expected);
+        QVERIFY(popover.showAll.isEmpty()); // marks never open the popover
+        QVERIFY(env.fake.messages.shown.isEmpty());
+    }
+
+    void clickCountingAndReset()
+    {
+        GridEnv env;
+        ScoreGrid grid;
+        loadCard(grid);
+        gIsAutoFillMode = true;
+        grid.setClickDisabled(true);
+        grid.cellClicked(0, 0, false);
+        QCOMPARE(grid.autoClickCt, 0); // a covered grid takes no marks either
+
+        grid.setClickDisabled(false);
+        grid.cellClicked(2, 0, false);
+        QCOMPARE(std::make_pair(grid.autoRowStart, grid.autoColStart), std::make_pair(2, 0));
+        grid.cellClicked(4, 0, false);
+        QCOMPARE(std::make_pair(grid.autoRowEnd, grid.autoColEnd), std::make_pair(4, 0));
+        QCOMPARE(env.fake.beeper.beeps, 0);
+        grid.cellClicked(5, 0, false);
+        QCOMPARE(grid.autoClickCt, 3);
+        QCOMPARE(env.fake.beeper.beeps, 1);
+        QCOMPARE(figures(grid.autoFillData), QStringLiteral("2,3,1,1,0,0,0,0"));
+
+        grid.reinitAutoVars();
+        QCOMPARE(grid.autoClickCt, 0);
+        QVERIFY(!gIsAutoFillMode);
+        QCOMPARE(figures(grid.autoFillData), QStringLiteral("0,0,0,0,0,0,0,0"));
+    }
+
+    void spanNotFound()
+    {
+        GridEnv env;
+        ScoreGrid grid;
+        loadTeam(grid, 4);
+        fillColumn(grid, 0, { "B1/G", "GO/R", "FO/R", "KS/R" });
+        fillColumn(grid, 1, { "B1", "GO/R" });
+        QSignalSpy done(&grid, &ScoreGrid::autoFillDataReturn);
+        QSignalSpy failed(&grid, &ScoreGrid::autoFillFailed);
+
+        gIsAutoFillMode = true;
+        grid.cellClicked(0, 0, false);
+        grid.cellClicked(1, 1, false);
+
+        QCOMPARE(failed.count(), 1);
+        QCOMPARE(done.count(), 0);
+        QCOMPARE(env.fake.messages.texts(), QStringList { "An error occurred while retrieving the pitcher's data" });
+        QCOMPARE(env.fake.messages.shown.at(0).explanation, QStringLiteral("Please fill in the data manually."));
+    }
+
+    void firstColRowEnd_data()
+    {
+        QTest::addColumn<QStringList>("column");
+        QTest::addColumn<int>("startRow");
+        QTest::addColumn<int>("end");
+        QTest::newRow("the batter who did not come up") << QStringList { "B1", "B1", ".", "." } << 0 << 2;
+        QTest::newRow("wraps to the top") << QStringList { ".", "B1", "B1", "B1" } << 1 << 0;
+        QTest::newRow("a full column ends where it began") << QStringList { "B1", "B1", "B1", "B1" } << 2 << 2;
+        QTest::newRow("a disabled cell is no gap") << QStringList { "B1", "/X", ".", "B1" } << 0 << 2;
+        QTest::newRow("a result alone is a gap") << QStringList { "B1", "/R", "B1", "B1" } << 0 << 1;
+    }
+    void firstColRowEnd()
+    {
+        QFETCH(QStringList, column);
+        QFETCH(int, startRow);
+        QFETCH(int, end);
+        GridEnv env;
+        ScoreGrid grid;
+        loadTeam(grid, 4);
+        fillColumn(grid, 2, column);
+        QCOMPARE(grid.af_findFirstColRowEnd(2, startRow), end);
+    }
+
+    void lastColRowStart_data()
+    {
+        QTest::addColumn<QStringList>("before");
+        QTest::addColumn<QStringList>("column");
+        QTest::addColumn<int>("col");
+        QTest::addColumn<int>("start");
+        QTest::newRow("after a gap") << QStringList {} << QStringList { ".", ".", "B1", "GO/R" } << 1 << 2;
+        QTest::newRow("after the top rows that wrapped")
+            << QStringList {} << QStringList { "B1", ".", "GO/R", "KS/R" } << 1 << 2;
+        QTest::newRow("where the inning before stopped")
+            << QStringList { "B1", "GO/R", ".", "." } << QStringList { "B1", "B1", ".", "." } << 1 << 2;
+        QTest::newRow("first inning from the top") << QStringList {} << QStringList { "B1", "B1", ".", "." } << 0 << 0;
+        QTest::newRow("not to be found") << QStringList { "B1", "GO/R", "FO/R", "KS/R" }
+                                         << QStringList { "B1", "B1", ".", "." } << 1 << -1;
+    }
+    void lastColRowStart()
+    {
+        QFETCH(QStringList, before);
+        QFETCH(QStringList, column);
+        QFETCH(int, col);
+        QFETCH(int, start);
+        GridEnv env;
+        ScoreGrid grid;
+        loadTeam(grid, 4);
+        if (col > 0)
+            fillColumn(grid, col - 1, before);
+        fillColumn(grid, col, column);
+        QCOMPARE(grid.af_findLastColRowStart(col), start);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAutoFill)
+#include "tst_autofill.moc"

@@ -1,0 +1,386 @@
+// The grid on screen: real clicks on a BBScoringLB open a real battingPOP
+// beside the cell, a code picked there paints the cell in its colour, a
+// click outside changes nothing, Alt stands for Option, and the keyboard
+// does what the mouse does.
+
+#include "GridTestSupport.h"
+#include "gameday/ui/BBScoringLB.h"
+#include "gameday/ui/PopoverCodeList.h"
+#include "gameday/ui/battingPOP.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
+#include <functional>
+
+using gameday::ScoreGridRenderer;
+using namespace gridtest;
+using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(gameday::AutoFillData)
+
+namespace {
+
+// Runs one scripted action on each battingPOP as it opens. A popover that
+// opens with no action left is closed and counted, so a test never hangs on
+// a window nobody expected.
+class PopoverDriver : public QObject
+{
+public:
+    using Action = std::function<void(battingPOP *)>;
+
+    PopoverDriver() { qApp->installEventFilter(this); }
+    ~PopoverDriver() override { qApp->removeEventFilter(this); }
+
+    QList<Action> actions;
+    int opened = 0;
+    int unexpected = 0;
+    QPoint lastPos;
+    bool lastListsVisible = false;
+    int lastHeight = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *pop = qobject_cast<battingPOP *>(watched);
+        if (pop && event->type() == QEvent::Show) {
+            ++opened;
+            lastPos = pop->pos();
+            lastListsVisible = pop->batActionLB->isVisibleTo(pop);
+            lastHeight = pop->height();
+            QPointer<battingPOP> guard(pop);
+            Action action = actions.isEmpty() ? Action() : actions.takeFirst();
+            QTimer::singleShot(0, this, [this, guard, action] {
+                if (!guard)
+                    return;
+                if (action) {
+                    action(guard);
+                } else {
+                    ++unexpected;
+                    guard->close();
+                }
+            });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+PopoverDriver::Action pickIn(const QString &list, int row, int col)
+{
+    return [list, row, col](battingPOP *pop) {
+        auto *lb = pop->findChild<PopoverCodeList *>(list);
+        QVERIFY(lb && lb->isVisible());
+        QTest::mouseClick(lb, Qt::LeftButton, {}, lb->cellRect(row, col).center());
+    };
+}
+
+PopoverDriver::Action pressButton(int index)
+{
+    return [index](battingPOP *pop) { QTest::mouseClick(pop->actionBtn[index], Qt::LeftButton); };
+}
+
+QColor paintedColour(BBScoringLB &grid, int row, int col)
+{
+    const QImage image = grid.grab().toImage();
+    const QRect cell = grid.renderer().cellRect(row, col);
+    return image.pixelColor(cell.topLeft() + QPoint(3, 3)); // clear of the code's letters
+}
+
+QPoint cellCentre(const BBScoringLB &grid, int row, int col)
+{
+    return grid.renderer().cellRect(row, col).center();
+}
+
+} // namespace
+
+class TestGridWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { qRegisterMetaType<gameday::AutoFillData>(); }
+
+    void pickedCodePaintsTheCell_data()
+    {
+        QTest::addColumn<QString>("startText");
+        QTest::addColumn<QString>("startBkg");
+        QTest::addColumn<QString>("list"); // a list's name, or "" for a button
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("col");
+        QTest::addColumn<QString>("expText");
+        QTest::addColumn<QString>("expBkg");
+        QTest::addColumn<QColor>("colour");
+
+        const QColor red = QColor::fromRgb(0xFF5765), green = QColor::fromRgb(0x84FF85);
+        const QColor yellow = QColor::fromRgb(0xFFFA9B), grey = QColor::fromRgb(0x727272);
+        QTest::newRow("home run") << ""
+                                  << ""
+                                  << "batActionLB" << 0 << 3 << "HR"
+                                  << "G" << green;
+        QTest::newRow("strike out looking") << ""
+                                            << ""
+                                            << "batActionLB" << 2 << 3 << "KL"
+                                            << "R" << red;
+        QTest::newRow("single") << ""
+                                << ""
+                                << "batActionLB" << 0 << 0 << "B1"
+                                << "" << QColor(Qt::white);
+        QTest::newRow("force out") << "B1"
+                                   << ""
+                                   << "resultLB" << 0 << 2 << "B1"
+                                   << "R" << red;
+        QTest::newRow("run") << "BB"
+                             << ""
+                             << "resultLB" << 1 << 1 << "BB"
+                             << "G" << green;
+        QTest::newRow("left on base") << "B2"
+                                      << ""
+                                      << "resultLB" << 1 << 2 << "B2"
+                                      << "Y" << yellow;
+        QTest::newRow("disable a run") << "HR"
+                                       << "G"
+                                       << "" << 0 << 1 << ""
+                                       << "X" << grey;
+        QTest::newRow("clear an out") << "GO"
+                                      << "R"
+                                      << "" << 0 << 0 << ""
+                                      << "" << QColor(Qt::white);
+    }
+    void pickedCodePaintsTheCell()
+    {
+        QFETCH(QString, startText);
+        QFETCH(QString, startBkg);
+        QFETCH(QString, list);
+        QFETCH(int, row);
+        QFETCH(int, col);
+        QFETCH(QString, expText);
+        QFETCH(QString, expBkg);
+        QFETCH(QColor, colour);
+
+        GridEnv env;
+        BBScoringLB grid;
+        loadTeam(grid.grid(), 9);
+        grid.grid().setCellText(1, 2, startText);
+        grid.grid().setCellBkg(1, 2, startBkg);
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+
+        PopoverDriver driver;
+        driver.actions.append(list.isEmpty() ? pressButton(row * 2 + col) : pickIn(list, row, col));
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 1, 2));
+
+        QCOMPARE(driver.opened, 1);
+        QCOMPARE(driver.unexpected, 0);
+        // Beside the cell, and with the lists only on a cell with no final background.
+        QCOMPARE(driver.lastPos, grid.mapToGlobal(ScoreGridRenderer::popoverOffset(1, 2)));
+        QCOMPARE(driver.lastListsVisible, startBkg.isEmpty());
+        QCOMPARE(driver.lastHeight == 88, !startBkg.isEmpty());
+        QCOMPARE(grid.grid().cellText(1, 2), expText);
+        QCOMPARE(grid.grid().cellBkg(1, 2), expBkg);
+        QCOMPARE(paintedColour(grid, 1, 2), colour);
+        QVERIFY(!grid.findChild<battingPOP *>());
+    }
+
+    void clickOutsideChangesNothing()
+    {
+        GridEnv env;
+        BBScoringLB grid;
+        loadTeam(grid.grid(), 9);
+        grid.grid().setCellText(4, 4, QStringLiteral("B1"));
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        const QString before = grid.grid().getMyData() + grid.grid().getMyBkgArray();
+
+        PopoverDriver driver;
+        driver.actions.append([&grid](battingPOP *pop) {
+            QVERIFY(pop->isVisible());
+            // Another cell of the grid, outside the popover, clicked through
+            // the window system as a real click is.
+            QTest::mouseClick(grid.windowHandle(), Qt::LeftButton, {}, cellCentre(grid, 0, 0));
+        });
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 4, 4));
+        QCoreApplication::processEvents();
+
+        QCOMPARE(driver.opened, 1); // the closing click did not open another
+        QCOMPARE(driver.unexpected, 0);
+        QCOMPARE(grid.grid().getMyData() + grid.grid().getMyBkgArray(), before);
+        QCOMPARE(paintedColour(grid, 4, 4), QColor(Qt::white));
+    }
+
+    void escapeClosesThePopover()
+    {
+        GridEnv env;
+        BBScoringLB grid;
+        loadTeam(grid.grid(), 3);
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        PopoverDriver driver;
+        driver.actions.append([](battingPOP *pop) { QTest::keyClick(pop, Qt::Key_Escape); });
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 0, 0));
+        QCOMPARE(driver.opened, 1);
+        QCOMPARE(grid.grid().cellText(0, 0), QString());
+    }
+
+    void altClickLeavesOnBase()
+    {
+        GridEnv env;
+        BBScoringLB grid;
+        loadTeam(grid.grid(), 9);
+        fillColumn(grid.grid(), 0, { "HR/G", "B1" });
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        PopoverDriver driver;
+
+        QTest::mouseClick(&grid, Qt::LeftButton, Qt::AltModifier, cellCentre(grid, 0, 0));
+        QTest::mouseClick(&grid, Qt::LeftButton, Qt::AltModifier, cellCentre(grid, 1, 0));
+
+        QCOMPARE(driver.opened, 0);
+        QCOMPARE(paintedColour(grid, 0, 0), QColor::fromRgb(0xFFFA9B));
+        QCOMPARE(paintedColour(grid, 1, 0), QColor::fromRgb(0xFFFA9B));
+        QCOMPARE(grid.grid().countTotalRuns(), 0);
+        QCOMPARE(grid.grid().countTotalLOBs(), 2);
+    }
+
+    void keyboardDoesWhatTheMouseDoes()
+    {
+        GridEnv env;
+        BBScoringLB grid;
+        loadTeam(grid.grid(), 9);
+        grid.grid().setCellText(2, 1, QStringLiteral("GO"));
+        grid.grid().setCellBkg(2, 1, QStringLiteral("R"));
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        grid.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&grid));
+        grid.setFocus();
+        QVERIFY(grid.hasFocus());
+        QCOMPARE(grid.currentCell(), (gameday::GridCell { 0, 0 }));
+
+        // Down, Right, Return: the popover opens on (1, 1) with the action
+        // list in focus; Down, Right, Return there picks "IBB".
+        PopoverDriver driver;
+        driver.actions.append([](battingPOP *pop) {
+            QCOMPARE(pop->focusWidget(), static_cast<QWidget *>(pop->batActionLB));
+            QTest::keyClick(pop->batActionLB, Qt::Key_Down);
+            QTest::keyClick(pop->batActionLB, Qt::Key_Right);
+            QTest::keyClick(pop->batActionLB, Qt::Key_Return);
+        });
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QTest::keyClick(&grid, Qt::Key_Right);
+        QTest::keyClick(&grid, Qt::Key_Return);
+        QCOMPARE(grid.grid().cellText(1, 1), QStringLiteral("IBB"));
+
+        // On an out only the buttons are there; Space on the first clears it.
+        driver.actions.append([](battingPOP *pop) {
+            QCOMPARE(pop->focusWidget(), static_cast<QWidget *>(pop->actionBtn[0]));
+            QTest::keyClick(pop->actionBtn[0], Qt::Key_Space);
+        });
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QTest::keyClick(&grid, Qt::Key_Space);
+        QCOMPARE(grid.grid().cellText(2, 1), QString());
+        QCOMPARE(grid.grid().cellBkg(2, 1), QString());
+
+        // Alt+Return is the Option-click.
+        grid.setCurrentCell(1, 1);
+        QTest::keyClick(&grid, Qt::Key_Return, Qt::AltModifier);
+        QCOMPARE(grid.grid().cellBkg(1, 1), QStringLiteral("Y"));
+        QCOMPARE(driver.opened, 2);
+        QCOMPARE(driver.unexpected, 0);
+        QVERIFY(!grid.accessibleName().isEmpty());
+    }
+
+    void eventsReachTheOwner()
+    {
+        GridEnv env;
+        BBScoringLB grid;
+        loadTeam(grid.grid(), 9);
+        fillColumn(grid.grid(), 0, { "FO/R", "B1/G", "B1", "GO/R", "B1", "B1", "BB", "B1" });
+        fillColumn(grid.grid(), 1, { "KS/R", "KL/R" });
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        QSignalSpy added(&grid, &BBScoringLB::columnAdded);
+        QSignalSpy calcs(&grid, &BBScoringLB::doCalcs);
+        const int width = grid.width();
+
+        PopoverDriver driver;
+        driver.actions = { pickIn(u"batActionLB"_s, 0, 1), pickIn(u"batActionLB"_s, 2, 1) };
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 8, 0)); // B2: the order went round
+        QCOMPARE(added.count(), 1);
+        QCOMPARE(grid.width(), width + gameday::kInsertedColumnWidth); // the grid grows by the new column
+        QCOMPARE(grid.grid().heading(1), QStringLiteral("1a"));
+
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 2, 2)); // GO: third out of inning 2
+        QCOMPARE(calcs.count(), 1);
+        QCOMPARE(calcs.at(0).at(0).toInt(), 2);
+    }
+
+    void autoFillMarksAndResult()
+    {
+        GridEnv env;
+        BBScoringLB grid;
+        loadTeam(grid.grid(), 9);
+        fillColumn(grid.grid(), 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        QSignalSpy done(&grid, &BBScoringLB::autoFillDataReturn);
+        PopoverDriver driver;
+
+        gIsAutoFillMode = true;
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 1, 0));
+        // The first mark is outlined in blue while the coach looks for the second.
+        const QRect cell = grid.renderer().cellRect(1, 0);
+        QCOMPARE(grid.grab().toImage().pixelColor(cell.left() + 2, cell.center().y()), QColor::fromRgb(0x1F5FD0));
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 4, 0));
+
+        QCOMPARE(driver.opened, 0);
+        QCOMPARE(done.count(), 1);
+        QCOMPARE(done.at(0).at(0).value<gameday::AutoFillData>(), (gameday::AutoFillData { 3, 4, 1, 1, 0, 0, 1, 0 }));
+        grid.grid().reinitAutoVars();
+        QCOMPARE(grid.grab().toImage().pixelColor(cell.left() + 2, cell.center().y()), QColor::fromRgb(0xFF5765));
+    }
+
+    // The picture in the documentation: a few innings and the popover open.
+    // Written to $TL_SCREENSHOT_DIR when that is set.
+    void screenshot()
+    {
+        GridEnv env;
+        QWidget window;
+        window.setAutoFillBackground(true);
+        BBScoringLB grid(&window);
+        grid.move(10, 10);
+        gameday::ScoreGrid &g = grid.grid();
+        loadTeam(g, 9);
+        fillColumn(g, 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
+        fillColumn(g, 1, { "IBB/Y", "GO/R", ".", ".", ".", "BB/G", "HBP/R", "KL/R", "B2/G" });
+        fillColumn(g, 2, { ".", ".", "B3/Y", "KS/R", "FO/R", "B1", "ROE" });
+        grid.resize(grid.sizeHint());
+        window.resize(grid.width() + 20, grid.height() + 290);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        QImage shot;
+        PopoverDriver driver;
+        driver.actions.append([&](battingPOP *pop) {
+            shot = window.grab().toImage();
+            QPainter painter(&shot);
+            painter.drawPixmap(pop->pos() - window.mapToGlobal(QPoint(0, 0)), pop->grab());
+            painter.setPen(QColor::fromRgb(0x808080));
+            painter.drawRect(QRect(pop->pos() - window.mapToGlobal(QPoint(0, 0)), pop->size()).adjusted(0, 0, -1, -1));
+            pop->close();
+        });
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 7, 2));
+        QVERIFY(!shot.isNull());
+        const QPoint popAt = grid.mapTo(&window, ScoreGridRenderer::popoverOffset(7, 2));
+        QCOMPARE(shot.pixelColor(popAt + QPoint(12, 24)), QColor::fromRgb(0xEEE8BD)); // the action list
+
+        const QString dir = qEnvironmentVariable("TL_SCREENSHOT_DIR");
+        if (!dir.isEmpty())
+            QVERIFY(shot.save(QDir(dir).filePath(QStringLiteral("scorecard-grid.png"))));
+    }
+};
+
+QTEST_MAIN(TestGridWidget)
+#include "tst_gridwidget.moc"

@@ -1,0 +1,357 @@
+// The schedule's windows, driven as a coach would: the date picker, the
+// event editor and the schedule list with its printout and export.
+
+#include "ScheduleTestSupport.h"
+#include "schedule/CalendarMonth.h"
+#include "schedule/EventDates.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/ui/Calendar.h"
+#include "schedule/ui/newEventScrn.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+
+using scheduletest::Season;
+using scheduletest::whenShown;
+
+namespace {
+
+QStringList visibleDays(const Calendar &picker)
+{
+    QStringList days;
+    for (QPushButton *b : picker.BevelButton1)
+        days.append(b->isVisible() ? b->text() : QString());
+    return days;
+}
+
+void leave(QWidget *field)
+{
+    // Moving the focus on is what "leaving the field" is.
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Tab);
+}
+
+void typeInto(QComboBox *box, const QString &text)
+{
+    box->setFocus();
+    box->lineEdit()->selectAll();
+    QTest::keyClick(box, Qt::Key_Backspace);
+    QTest::keyClicks(box, text);
+}
+
+// Picks `day` of the month the picker opens on, through the calendar icon.
+void pickDay(newEventScrn *editor, int year, int month, int day)
+{
+    whenShown<Calendar>([=](Calendar *picker) {
+        picker->PopupYear->setCurrentIndex(year - 2000);
+        picker->PopupMonth->setCurrentIndex(month - 1);
+        QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(year, month).slotOfDay(day)), Qt::LeftButton);
+    });
+    QTest::mouseClick(editor->calCnv, Qt::LeftButton);
+    // The offscreen platform doesn't hand activation back when a modal
+    // window closes, as a desktop does.
+    editor->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(editor));
+}
+
+} // namespace
+
+class TestScheduleUi : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+
+    // ---- the date picker ----
+
+    void pickerLaysOutMonths_data()
+    {
+        QTest::addColumn<QDate>("start");
+        QTest::addColumn<int>("hiddenBefore");
+        QTest::addColumn<int>("days");
+        QTest::newRow("February 2000") << QDate(2000, 2, 17) << 2 << 29;
+        QTest::newRow("31 days from a Saturday") << QDate(2031, 3, 9) << 6 << 31;
+        QTest::newRow("February 2027") << QDate(2027, 2, 1) << 1 << 28;
+    }
+    void pickerLaysOutMonths()
+    {
+        QFETCH(QDate, start);
+        QFETCH(int, hiddenBefore);
+        QFETCH(int, days);
+        Season season;
+        Calendar picker;
+        picker.setStartDate(start);
+        picker.show();
+        picker.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&picker));
+        QCOMPARE(picker.whichDate, QDate(start.year(), start.month(), 1));
+        QCOMPARE(picker.PopupMonth->currentIndex(), start.month() - 1);
+        QCOMPARE(picker.PopupYear->currentText(), QString::number(start.year()));
+        QCOMPARE(picker.BevelButton1.size(), 37);
+        const QStringList shown = visibleDays(picker);
+        for (int slot = 0; slot < 37; ++slot) {
+            const int day = slot - hiddenBefore + 1;
+            QCOMPARE(shown.at(slot), day >= 1 && day <= days ? QString::number(day) : QString());
+        }
+        // The day the picker was opened on has the focus.
+        QCOMPARE(QApplication::focusWidget(), picker.BevelButton1.at(hiddenBefore + start.day() - 1));
+        // ... and stands out in bold, alone.
+        for (int slot = 0; slot < 37; ++slot)
+            QCOMPARE(picker.BevelButton1.at(slot)->font().bold(), slot == hiddenBefore + start.day() - 1);
+        QCOMPARE(picker.StaticText1.first()->text(), QStringLiteral("Sun"));
+        QCOMPARE(picker.BevelButton1.at(hiddenBefore)->accessibleName(),
+                 QLocale().toString(QDate(start.year(), start.month(), 1), QLocale::LongFormat));
+    }
+
+    void pickerSteps()
+    {
+        Season season;
+        Calendar picker;
+        picker.setStartDate(QDate(2026, 12, 5));
+        picker.show();
+        QTest::mouseClick(picker.PushButton1, Qt::LeftButton);
+        QCOMPARE(picker.whichDate, QDate(2027, 1, 1));
+        QCOMPARE(picker.PopupYear->currentText(), QStringLiteral("2027"));
+        QTest::mouseClick(picker.PushButton2, Qt::LeftButton);
+        QTest::mouseClick(picker.PushButton2, Qt::LeftButton);
+        QCOMPARE(picker.whichDate, QDate(2026, 11, 1));
+
+        // The popups move the page by themselves.
+        picker.PopupYear->setCurrentIndex(39);
+        picker.PopupMonth->setCurrentIndex(11);
+        QCOMPARE(picker.whichDate, QDate(2039, 12, 1));
+        QVERIFY(!picker.PushButton1->isEnabled());
+        picker.PushButton1->click(); // nothing past December 2039
+        QCOMPARE(picker.whichDate, QDate(2039, 12, 1));
+
+        picker.PopupYear->setCurrentIndex(0);
+        picker.PopupMonth->setCurrentIndex(0);
+        QCOMPARE(picker.whichDate, QDate(2000, 1, 1));
+        QVERIFY(!picker.PushButton2->isEnabled());
+        picker.PushButton2->click();
+        QCOMPARE(picker.whichDate, QDate(2000, 1, 1));
+        QCOMPARE(visibleDays(picker).at(36), QStringLiteral("31")); // January 2000 starts on a Saturday
+
+        // "This Month" goes to the clock's month (the fake clock says April 2026).
+        QTest::mouseClick(picker.PushButton3, Qt::LeftButton);
+        QCOMPARE(picker.whichDate, QDate(2026, 4, 1));
+    }
+
+    void pickerGivesTheClickedDayOrNothing()
+    {
+        Season season;
+        whenShown<Calendar>([](Calendar *picker) {
+            QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(2026, 7).slotOfDay(23)), Qt::LeftButton);
+        });
+        QCOMPARE(Calendar::GetDate(nullptr, QDate(2026, 7, 4)), std::optional<QDate>(QDate(2026, 7, 23)));
+
+        // From the keyboard: arrows walk the days, Page Down turns the page.
+        whenShown<Calendar>([](Calendar *picker) {
+            picker->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(picker));
+            QWidget *day4 = picker->BevelButton1.at(CalendarMonth(2026, 7).slotOfDay(4));
+            QCOMPARE(QApplication::focusWidget(), day4); // the day the picker opened on
+            day4->setFocus();
+            QTest::keyClick(day4, Qt::Key_Down);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        });
+        QCOMPARE(Calendar::GetDate(nullptr, QDate(2026, 7, 4)), std::optional<QDate>(QDate(2026, 8, 12)));
+
+        // Closing the window (close box or Escape) gives nothing back.
+        whenShown<Calendar>([](Calendar *picker) { picker->close(); });
+        QCOMPARE(Calendar::GetDate(nullptr, QDate(2026, 7, 4)), std::nullopt);
+        whenShown<Calendar>([](Calendar *picker) { QTest::keyClick(picker, Qt::Key_Escape); });
+        QCOMPARE(Calendar::GetDate(nullptr, QDate(2026, 7, 4)), std::nullopt);
+    }
+
+    // ---- the event editor ----
+
+    void composingAGame()
+    {
+        Season season;
+        auto &fake = season.fake;
+        newEventScrn editor;
+        editor.show();
+        editor.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        QCOMPARE(editor.actionBtn->text(), QStringLiteral("Add Event"));
+        QCOMPARE(editor.opponentBox->count(), 3);
+        QCOMPARE(editor.opponentBox->itemText(2), QStringLiteral("N/A"));
+        QCOMPARE(editor.opponentBox->itemData(2).toString(), QStringLiteral("-1"));
+        QCOMPARE(editor.locationBox->count(), 2);
+        QVERIFY(!editor.homeCheck->isEnabled());
+        QCOMPARE(editor.homeCheck->checkState(), Qt::PartiallyChecked);
+
+        // 1. No date yet.
+        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QCOMPARE(fake.messages.texts(), QStringList{"Please set a date for this event"});
+        QCOMPARE(fake.messages.shown.last().explanation, QStringLiteral("Click the small calendar icon."));
+        QVERIFY(editor.isVisible());
+
+        pickDay(&editor, 2026, 5, 9);
+        QCOMPARE(editor.eventDateFld->text(), QStringLiteral("Saturday, May 9, 2026"));
+
+        // "game" becomes a Game on leaving the box, and only then asks home or away.
+        typeInto(editor.eventTypeBox, QStringLiteral("game"));
+        QVERIFY(!editor.homeCheck->isEnabled());
+        leave(editor.eventTypeBox);
+        QCOMPARE(editor.eventTypeBox->currentText(), QStringLiteral("Game"));
+        QVERIFY(editor.homeCheck->isEnabled());
+
+        // 7. A game needs an opponent.
+        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QCOMPARE(fake.messages.texts().last(), QStringLiteral("Please select an opponent for this game."));
+        editor.opponentBox->setFocus();
+        QTest::keyClick(editor.opponentBox, Qt::Key_B); // the popup's keyboard search finds "Bears"
+        QCOMPARE(editor.opponentBox->currentText(), QStringLiteral("Bears"));
+
+        // 10. Home or away must be said.
+        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QCOMPARE(fake.messages.texts().last(),
+                 QStringLiteral("Please indicate a Home or Away game by clicking the Check Box"));
+        QCOMPARE(fake.messages.shown.size(), 3);
+        QVERIFY(fake.messages.shown.last().plain);
+
+        // The home field makes it a home game; any other field an away one.
+        typeInto(editor.locationBox, QStringLiteral("Riverside"));
+        QCOMPARE(editor.homeCheck->checkState(), Qt::Unchecked);
+        editor.locationBox->setCurrentIndex(editor.locationBox->findText(QStringLiteral("O'Malley's Field")));
+        QCOMPARE(editor.homeCheck->checkState(), Qt::Checked);
+
+        // Times: the boxes take digits only; an hour alone gets ":00", and
+        // minutes without an hour are no time.
+        typeInto(editor.gameHour, QStringLiteral("7pm"));
+        QCOMPARE(editor.gameHour->currentText(), QStringLiteral("7"));
+        QCOMPARE(fake.beeper.beeps, 2);
+        typeInto(editor.gameAMPM, QStringLiteral("pm"));
+        leave(editor.gameAMPM);
+        QCOMPARE(editor.gameAMPM->currentText(), QStringLiteral("PM"));
+        typeInto(editor.busMinute, QStringLiteral("30"));
+
+        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QCOMPARE(fake.messages.shown.size(), 3);
+        QVERIFY(!editor.isVisible());
+        QVERIFY(editor.result());
+        const eventClass &game = *editor.result();
+        QCOMPARE(game.mDate, QDate(2026, 5, 9));
+        QCOMPARE(game.eventType, QStringLiteral("Game"));
+        QCOMPARE(game.opponent, QStringLiteral("Bears"));
+        QCOMPARE(game.oppID, QString::number(season.bearsID));
+        QCOMPARE(game.location, QStringLiteral("O'Malley's Field"));
+        QCOMPARE(int(game.isHome), 1);
+        QCOMPARE(game.startTime, QStringLiteral("7:00 PM"));
+        QCOMPARE(game.busTime, QStringLiteral("---"));
+    }
+
+    void composingAPracticeAndAMeeting_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("location");
+        QTest::newRow("practice") << "Practice" << "north gym";
+        QTest::newRow("meeting") << "Meeting" << "library room 4";
+    }
+    void composingAPracticeAndAMeeting()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, location);
+        Season season;
+        whenShown<newEventScrn>([&](newEventScrn *editor) {
+            pickDay(editor, 2026, 6, 1);
+            editor->eventTypeBox->setCurrentIndex(editor->eventTypeBox->findText(type));
+            QVERIFY(!editor->homeCheck->isEnabled());
+            typeInto(editor->locationBox, location);
+            leave(editor->locationBox);
+            typeInto(editor->busHour, QStringLiteral("5"));
+            editor->busMinute->setCurrentIndex(editor->busMinute->findText(QStringLiteral("45")));
+            editor->busAMPM->setCurrentIndex(0);
+            QTest::keyClick(editor->actionBtn, Qt::Key_Space);
+        });
+        const auto event = newEventScrn::getNewEvent(nullptr);
+        QVERIFY(event);
+        QCOMPARE(event->eventType, type);
+        QCOMPARE(event->opponent, QString());
+        QCOMPARE(event->oppID, QStringLiteral("-1"));
+        QCOMPARE(int(event->isHome), 0);
+        QCOMPARE(event->busTime, QStringLiteral("5:45 AM"));
+        QCOMPARE(event->startTime, QStringLiteral("---"));
+        QCOMPARE(event->location, EventForm::titleCase(location));
+        QVERIFY(season.fake.messages.shown.isEmpty());
+    }
+
+    void cancelGivesNothing()
+    {
+        Season season;
+        whenShown<newEventScrn>([](newEventScrn *editor) {
+            pickDay(editor, 2026, 6, 1);
+            editor->eventTypeBox->setEditText(QStringLiteral("Meeting"));
+            QTest::mouseClick(editor->cancelBtn, Qt::LeftButton);
+        });
+        QCOMPARE(newEventScrn::getNewEvent(nullptr), std::nullopt);
+        // Escape cancels as well.
+        whenShown<newEventScrn>([](newEventScrn *editor) {
+            pickDay(editor, 2026, 6, 1);
+            editor->eventTypeBox->setEditText(QStringLiteral("Meeting"));
+            QTest::keyClick(editor, Qt::Key_Escape);
+        });
+        QCOMPARE(newEventScrn::getNewEvent(nullptr), std::nullopt);
+        QCOMPARE(gData->scalar("SELECT COUNT(*) FROM Schedule").toInt(), 0);
+    }
+
+    void editingFillsTheEditor()
+    {
+        Season season;
+        ScheduleStore store(*gData);
+        eventClass game;
+        game.mDate = QDate(2026, 4, 18);
+        game.busTime = QStringLiteral("3:15 PM");
+        game.startTime = QStringLiteral("---");
+        game.eventType = QStringLiteral("Game");
+        game.opponent = QStringLiteral("Bears");
+        game.oppID = QString::number(season.bearsID);
+        game.location = QStringLiteral("Riverside");
+        game.isHome = 2;
+        const qint64 id = store.insert(game);
+
+        newEventScrn editor;
+        QVERIFY(editor.loadEvent(id));
+        QCOMPARE(editor.actionBtn->text(), QStringLiteral("Edit Event"));
+        QCOMPARE(editor.eventDateFld->text(), QStringLiteral("Saturday, April 18, 2026"));
+        QCOMPARE(editor.busHour->currentText(), QStringLiteral("3"));
+        QCOMPARE(editor.busMinute->currentText(), QStringLiteral("15"));
+        QCOMPARE(editor.busAMPM->currentText(), QStringLiteral("PM"));
+        QCOMPARE(editor.gameHour->currentText(), QString());
+        QCOMPARE(editor.opponentBox->currentText(), QStringLiteral("Bears"));
+        QVERIFY(editor.homeCheck->isEnabled());
+        QCOMPARE(editor.homeCheck->checkState(), Qt::Unchecked);
+        // Saved unchanged, it is the same event.
+        QVERIFY(editor.setEventProperties());
+        QCOMPARE(*editor.result(), game);
+
+        // An opponent that is gone shows as "N/A"; an unreadable date must be picked again.
+        gData->exec("UPDATE Schedule SET SchedDate = '18.4.26', Opponent = 'Owls' WHERE eventID = ?", {id});
+        newEventScrn old;
+        QVERIFY(old.loadEvent(id));
+        QCOMPARE(old.opponentBox->currentText(), QStringLiteral("N/A"));
+        QCOMPARE(old.eventDateFld->text(), QStringLiteral("18.4.26"));
+        QVERIFY(!old.setEventProperties());
+        QCOMPARE(season.fake.messages.texts(), QStringList{"Please reselect the date"});
+        QVERIFY(season.fake.messages.shown.first().plain);
+        old.setPickedDate(QDate(2026, 4, 19));
+        QVERIFY(old.setEventProperties());
+        QCOMPARE(old.result()->mDate, QDate(2026, 4, 19));
+        QCOMPARE(old.result()->oppID, QStringLiteral("-1"));
+
+        QCOMPARE(newEventScrn::getEditEvent(nullptr, id + 99), std::nullopt);
+    }
+};
+
+QTEST_MAIN(TestScheduleUi)
+#include "tst_scheduleui.moc"

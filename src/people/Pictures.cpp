@@ -1,8 +1,13 @@
 #include "people/Pictures.h"
 
+#include "app/FileTypes.h"
+#include "app/globals.h"
+#include "platform/Services.h"
+
 #include <QBuffer>
 #include <QImageReader>
 #include <QMimeData>
+#include <QStandardPaths>
 #include <QUrl>
 
 namespace people {
@@ -74,6 +79,21 @@ bool mayCarryPicture(const QMimeData *mime)
 QImage genericPicture()
 {
     static const QImage picture(QStringLiteral(":/people/generic_person.png"));
+    return picture;
+}
+
+QImage askForPictureFile()
+{
+    platform::FileRequest request;
+    request.title = QStringLiteral("Select a Picture File to add");
+    request.initialDir = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    request.nameFilters = {FileTypes::AllPicts().nameFilter()};
+    const QString path = platform::files().openFile(request);
+    if (path.isEmpty())
+        return {};
+    const QImage picture = readPictureFile(path);
+    if (picture.isNull())
+        gMsgBox(QStringLiteral("That file could not be opened as a picture."));
     return picture;
 }
 

@@ -22,6 +22,10 @@ QImage pictureFromMime(const QMimeData *mime);
 // True when a drop could carry a picture (used to accept the drag).
 bool mayCarryPicture(const QMimeData *mime);
 
+// Asks the coach for a picture file and opens it. Null when the dialog is
+// cancelled, or when the file isn't a picture (the coach is told so).
+QImage askForPictureFile();
+
 // The generic picture of a player or coach without a photo.
 QImage genericPicture();
 

@@ -1,6 +1,5 @@
 #include "people/ui/personnelScrn.h"
 
-#include "app/FileTypes.h"
 #include "app/globals.h"
 #include "app/myPrefs.h"
 #include "app/ui/MainMenuBar.h"
@@ -26,7 +25,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStandardPaths>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -628,18 +626,9 @@ void personnelScrn::removeSelected(MemberKind kind)
 
 void personnelScrn::addPhoto()
 {
-    platform::FileRequest request;
-    request.title = QStringLiteral("Select a Picture File to add");
-    request.initialDir = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    request.nameFilters = {FileTypes::AllPicts().nameFilter()};
-    const QString path = platform::files().openFile(request);
-    if (path.isEmpty())
+    const QImage picture = people::askForPictureFile();
+    if (picture.isNull())
         return;
-    const QImage picture = people::readPictureFile(path);
-    if (picture.isNull()) {
-        gMsgBox(QStringLiteral("That file could not be opened as a picture."));
-        return;
-    }
     indivPicCnv->setPicture(picture);
     setDirty();
 }

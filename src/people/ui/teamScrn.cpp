@@ -1,6 +1,5 @@
 #include "people/ui/teamScrn.h"
 
-#include "app/FileTypes.h"
 #include "app/globals.h"
 #include "app/myPrefs.h"
 #include "app/ui/MainMenuBar.h"
@@ -24,7 +23,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -434,18 +432,9 @@ void teamScrn::deleteSelectedTeam()
 
 void teamScrn::addLogo()
 {
-    platform::FileRequest request;
-    request.title = QStringLiteral("Select a Picture File to add");
-    request.initialDir = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    request.nameFilters = {FileTypes::AllPicts().nameFilter()};
-    const QString path = platform::files().openFile(request);
-    if (path.isEmpty())
+    const QImage picture = people::askForPictureFile();
+    if (picture.isNull())
         return;
-    const QImage picture = people::readPictureFile(path);
-    if (picture.isNull()) {
-        gMsgBox(QStringLiteral("That file could not be opened as a picture."));
-        return;
-    }
     LogoCvn->setPicture(picture);
 }
 

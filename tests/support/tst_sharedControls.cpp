@@ -170,11 +170,13 @@ private Q_SLOTS:
         QCOMPARE(values(), (QList<bool>{false, false, true}));
         QCOMPARE(up2.count(), 1);
 
-        // Let go outside the box: no click.
+        // A press the box took flips it on release, even when let go outside.
         QTest::mousePress(boxes[0], Qt::LeftButton, {}, QPoint(5, 5));
         QTest::mouseRelease(boxes[0], Qt::LeftButton, {}, QPoint(5, boxes[0]->height() + 40));
+        QCOMPARE(values(), (QList<bool>{true, false, false}));
+        QCOMPARE(up0.count(), 1);
+        QTest::mouseClick(boxes[2], Qt::LeftButton);
         QCOMPARE(values(), (QList<bool>{false, false, true}));
-        QCOMPARE(up0.count(), 0);
 
         // Assistive tools see radio buttons, and can't turn off the one that is on.
         QAccessibleInterface *third = QAccessible::queryAccessibleInterface(boxes[2]);
@@ -182,12 +184,12 @@ private Q_SLOTS:
         QVERIFY(third->state().checked);
         third->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(boxes[2]->value());
-        QCOMPARE(up2.count(), 1);
+        QCOMPARE(up2.count(), 2);
 
         // From code, the group keeps one box on, without MouseUp.
         boxes[0]->setValue(true);
         QCOMPARE(values(), (QList<bool>{true, false, false}));
-        QCOMPARE(up0.count(), 0);
+        QCOMPARE(up0.count(), 1);
     }
 
     void loneCheckBox()

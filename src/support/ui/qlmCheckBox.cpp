@@ -220,3 +220,9 @@ void qlmCheckBox::paintEvent(QPaintEvent *)
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &p, this);
     }
 }
+
+bool qlmCheckBox::hitButton(const QPoint &) const
+{
+    // A press the box took is a click when it is let go, inside or not.
+    return true;
+}

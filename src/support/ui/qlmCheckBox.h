@@ -11,8 +11,9 @@
 // does nothing, and a click on another turns it on and the rest off.
 //
 // Mouse and keyboard (Space) both work, as for any button; `MouseUp` follows
-// every click that was taken, after the values have changed. A press that is
-// let go outside the box is no click.
+// every click that was taken, after the values have changed. Like the
+// program's other drawn controls, a box answers the release of a press it
+// took wherever the pointer is by then.
 class qlmCheckBox : public QAbstractButton
 {
     Q_OBJECT
@@ -58,6 +59,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void nextCheckState() override;
+    bool hitButton(const QPoint &pos) const override;
 
 private:
     bool takesPress() const;

@@ -1,13 +1,20 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
 class MainMenuBar;
+class QToolButton;
+class QWidget;
 
 // The menu items the team and personnel screens share: printing the list,
 // the printer set-up, and help, abbreviations and preferences where those
 // windows are part of the program (disabled until they are).
 void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std::function<void()> &printList,
                         int helpTopic);
+
+// The "Print" button beside a list, whose popup offers `rows`; choosing row
+// i calls print(i).
+QToolButton *makePrintButton(QWidget *parent, const QStringList &rows, const std::function<void(int)> &print);

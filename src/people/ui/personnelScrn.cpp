@@ -140,19 +140,10 @@ void personnelScrn::buildControls()
     PlusMinusCoaches->setAccessibleName(QStringLiteral("New or remove coach"));
     PlusMinusCoaches->setHalfNames(QStringLiteral("New coach"), QStringLiteral("Remove the selected coach"));
 
-    printBtn = new QToolButton(central);
-    printBtn->setObjectName(QStringLiteral("printBtn"));
-    printBtn->setText(QStringLiteral("Print"));
-    printBtn->setAccessibleName(QStringLiteral("Print"));
-    printBtn->setFocusPolicy(Qt::StrongFocus);
-    printBtn->setPopupMode(QToolButton::InstantPopup);
-    auto *printMenu = new QMenu(printBtn);
-    printMenu->setObjectName(QStringLiteral("printMenu"));
-    const QString printRows[] = {QStringLiteral("Player List"), QStringLiteral("Single Player Data"),
-                                 QStringLiteral("All Players' Data")};
-    for (int kind = 0; kind < 3; ++kind)
-        connect(printMenu->addAction(printRows[kind]), &QAction::triggered, this, [this, kind] { hndlPrint(kind); });
-    printBtn->setMenu(printMenu);
+    printBtn = makePrintButton(central,
+                               {QStringLiteral("Player List"), QStringLiteral("Single Player Data"),
+                                QStringLiteral("All Players' Data")},
+                               [this](int kind) { hndlPrint(kind); });
 
     left->addWidget(buddyLabel(QStringLiteral("Pla&yers:"), playersList, central));
     left->addWidget(playersList, 3);

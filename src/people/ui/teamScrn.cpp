@@ -110,21 +110,10 @@ void teamScrn::buildControls()
     teamListPlusMInus->setAccessibleName(QStringLiteral("New or delete team"));
     teamListPlusMInus->setHalfNames(QStringLiteral("New team"), QStringLiteral("Delete the selected team"));
 
-    printBtn = new QToolButton(central);
-    printBtn->setObjectName(QStringLiteral("printBtn"));
-    printBtn->setText(QStringLiteral("Print"));
-    printBtn->setAccessibleName(QStringLiteral("Print"));
-    printBtn->setFocusPolicy(Qt::StrongFocus);
-    printBtn->setPopupMode(QToolButton::InstantPopup);
-    auto *printMenu = new QMenu(printBtn);
-    printMenu->setObjectName(QStringLiteral("printMenu"));
-    const QString printRows[] = {QStringLiteral("Team List"), QStringLiteral("Selected Team's Data"),
-                                 QStringLiteral("All Teams' Data")};
-    for (int kind = 0; kind < 3; ++kind) {
-        QAction *row = printMenu->addAction(printRows[kind]);
-        connect(row, &QAction::triggered, this, [this, kind] { hndlPrint(kind); });
-    }
-    printBtn->setMenu(printMenu);
+    printBtn = makePrintButton(central,
+                               {QStringLiteral("Team List"), QStringLiteral("Selected Team's Data"),
+                                QStringLiteral("All Teams' Data")},
+                               [this](int kind) { hndlPrint(kind); });
 
     auto *listButtons = new QHBoxLayout;
     listButtons->addWidget(teamListPlusMInus);

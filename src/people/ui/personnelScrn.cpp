@@ -555,23 +555,21 @@ void personnelScrn::actionBtn_Action()
 
 void personnelScrn::addPlayer()
 {
-    if (teamIDFld->text().isEmpty()) {
-        gMsgBox(QStringLiteral("Please add a team on the team screen first."));
-        return;
-    }
-    if (m_book->add(memberFromFields(MemberKind::Player)) < 0)
-        return;
-    fillLists();
-    clearScrn();
+    addMember(MemberKind::Player);
 }
 
 void personnelScrn::addCoach()
+{
+    addMember(MemberKind::Coach);
+}
+
+void personnelScrn::addMember(MemberKind kind)
 {
     if (teamIDFld->text().isEmpty()) {
         gMsgBox(QStringLiteral("Please add a team on the team screen first."));
         return;
     }
-    if (m_book->add(memberFromFields(MemberKind::Coach)) < 0)
+    if (m_book->add(memberFromFields(kind)) < 0)
         return;
     fillLists();
     clearScrn();
@@ -579,23 +577,22 @@ void personnelScrn::addCoach()
 
 void personnelScrn::editPlayer()
 {
-    MemberRecord m = memberFromFields(MemberKind::Player);
+    editMember(MemberKind::Player);
+}
+
+void personnelScrn::editCoach()
+{
+    editMember(MemberKind::Coach);
+}
+
+void personnelScrn::editMember(MemberKind kind)
+{
+    MemberRecord m = memberFromFields(kind);
     m.id = m_loadedID;
     const QString tradeTo = tradeToPop->currentIndex() > 0 ? tradeToPop->currentData().toString() : QString();
     if (!m_book->edit(m, tradeTo))
         return;
     // A traded member leaves this team's list here.
-    fillLists();
-    clearScrn();
-}
-
-void personnelScrn::editCoach()
-{
-    MemberRecord m = memberFromFields(MemberKind::Coach);
-    m.id = m_loadedID;
-    const QString tradeTo = tradeToPop->currentIndex() > 0 ? tradeToPop->currentData().toString() : QString();
-    if (!m_book->edit(m, tradeTo))
-        return;
     fillLists();
     clearScrn();
 }

@@ -93,6 +93,8 @@ private:
     void listSelectionChanged(people::MemberKind kind);
     void actionBtn_Action();
     void removeSelected(people::MemberKind kind);
+    void addMember(people::MemberKind kind);
+    void editMember(people::MemberKind kind);
     void addPhoto();
     void saveLoadedMember();
     people::MemberRecord memberFromFields(people::MemberKind kind) const;

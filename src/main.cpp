@@ -15,9 +15,9 @@ namespace {
 // Every window the start screen can open, by name.
 void registerScreens()
 {
-    screens::registerScreen(QStringLiteral("teamScrn"), [] { return new teamScrn; });
-    screens::registerScreen(QStringLiteral("personnelScrn"), [] { return new personnelScrn; });
-    screens::registerScreen(QStringLiteral("scheduleScrn"), [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
+    screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
+    screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
 }
 
 } // namespace

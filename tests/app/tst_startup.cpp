@@ -7,6 +7,7 @@
 #include "app/myDictionaries.h"
 #include "app/ui/AboutScrn.h"
 #include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenBase.h"
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
@@ -166,9 +167,8 @@ private Q_SLOTS:
         App app(home.path());
         QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
         QPointer<QWidget> opened;
-        screens::registerScreen(QStringLiteral("teamScrn"), [&opened] {
-            auto *w = new QWidget;
-            w->setObjectName(QStringLiteral("teamScrn"));
+        screens::registerScreen(ScreenId::teamScrn, [&opened] {
+            auto *w = new ScreenBase(ScreenId::teamScrn, QStringLiteral("Teams"), {.backupTimer = true});
             opened = w;
             return w;
         });
@@ -185,7 +185,7 @@ private Q_SLOTS:
         start = startScrn1::showStartScreen();
         QCOMPARE(app.BUTimer->mode(), myTimerClass::ModeOff);
         QCOMPARE(app.BUTimer->mCount, 3); // minutes add up across visits
-        screens::unregisterScreen(QStringLiteral("teamScrn"));
+        screens::unregisterScreen(ScreenId::teamScrn);
     }
 
     void seasonPopup()

@@ -309,7 +309,7 @@ private Q_SLOTS:
     void openedFromStartScreen()
     {
         Session s;
-        screens::registerScreen(QStringLiteral("personnelScrn"), [] { return new personnelScrn; });
+        screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
         startScrn1 *start = startScrn1::showStartScreen();
         QTest::mouseClick(start->findChild<QPushButton *>(QStringLiteral("ShowPersonnelBtn")), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -322,7 +322,7 @@ private Q_SLOTS:
         QVERIFY(screen && screen->isVisible());
         QVERIFY(screen->close());
         QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeOff);
-        screens::unregisterScreen(QStringLiteral("personnelScrn"));
+        screens::unregisterScreen(ScreenId::personnelScrn);
     }
 };
 

@@ -126,7 +126,7 @@ private Q_SLOTS:
     void closingNeedsHomeTeam()
     {
         Session s;
-        screens::registerScreen(QStringLiteral("teamScrn"), [] { return new teamScrn; });
+        screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
         startScrn1 *start = startScrn1::showStartScreen();
         QTest::mouseClick(start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn")), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QVERIFY(start && start->isVisible());
         QCOMPARE(start->teamNameLabel->text(), QStringLiteral("O'Brien's Cougars"));
         QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeOff);
-        screens::unregisterScreen(QStringLiteral("teamScrn"));
+        screens::unregisterScreen(ScreenId::teamScrn);
     }
 
     void emptyListCloses()

@@ -119,7 +119,7 @@ private Q_SLOTS:
     void opensFromTheStartScreenAndComesBack()
     {
         Season season;
-        screens::registerScreen(QStringLiteral("scheduleScrn"), [] { return new scheduleScrn; });
+        screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
         startScrn1 *start = startScrn1::showStartScreen();
         auto *button = start->findChild<QPushButton *>(QStringLiteral("ShowSchedules"));
         QVERIFY(button->isEnabled());
@@ -143,7 +143,7 @@ private Q_SLOTS:
         screen->close();
         QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
         QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeOff);
-        screens::unregisterScreen(QStringLiteral("scheduleScrn"));
+        screens::unregisterScreen(ScreenId::scheduleScrn);
     }
 
     void quittingSavesTheOrderAndClosesEverything()

@@ -2,37 +2,66 @@
 
 #include <QHash>
 
+QString screenName(ScreenId id)
+{
+    switch (id) {
+    case ScreenId::teamScrn: return QStringLiteral("teamScrn");
+    case ScreenId::personnelScrn: return QStringLiteral("personnelScrn");
+    case ScreenId::scheduleScrn: return QStringLiteral("scheduleScrn");
+    case ScreenId::gameDayScrn: return QStringLiteral("gameDayScrn");
+    case ScreenId::practicePlanScrn: return QStringLiteral("practicePlanScrn");
+    case ScreenId::InventoryScrn: return QStringLiteral("InventoryScrn");
+    case ScreenId::eventsCalendarScrn: return QStringLiteral("eventsCalendarScrn");
+    case ScreenId::contactInfoScrn: return QStringLiteral("contactInfoScrn");
+    case ScreenId::reportIntroScrn: return QStringLiteral("reportIntroScrn");
+    case ScreenId::standingsScrn: return QStringLiteral("standingsScrn");
+    case ScreenId::formsScrn: return QStringLiteral("formsScrn");
+    case ScreenId::prefScrn: return QStringLiteral("prefScrn");
+    case ScreenId::TransferDataScrn: return QStringLiteral("TransferDataScrn");
+    case ScreenId::backUpDlog: return QStringLiteral("backUpDlog");
+    case ScreenId::updateDlog: return QStringLiteral("updateDlog");
+    case ScreenId::helpScrn2: return QStringLiteral("helpScrn2");
+    case ScreenId::HelpAbbrevScrn: return QStringLiteral("HelpAbbrevScrn");
+    }
+    return {};
+}
+
 namespace screens {
 
 namespace {
-QHash<QString, Factory> &directory()
+QHash<ScreenId, Factory> &directory()
 {
-    static QHash<QString, Factory> factories;
+    static QHash<ScreenId, Factory> factories;
     return factories;
 }
 } // namespace
 
-void registerScreen(const QString &name, Factory factory)
+void registerScreen(ScreenId id, Factory factory)
 {
-    directory().insert(name, std::move(factory));
+    directory().insert(id, std::move(factory));
 }
 
-void unregisterScreen(const QString &name)
+void registerScreen(ScreenId id, std::function<QWidget *()> factory)
 {
-    directory().remove(name);
+    registerScreen(id, Factory([make = std::move(factory)](const QVariant &) { return make(); }));
 }
 
-bool has(const QString &name)
+void unregisterScreen(ScreenId id)
 {
-    return directory().contains(name);
+    directory().remove(id);
 }
 
-QWidget *create(const QString &name)
+bool has(ScreenId id)
 {
-    const auto it = directory().constFind(name);
+    return directory().contains(id);
+}
+
+QWidget *create(ScreenId id, const QVariant &argument)
+{
+    const auto it = directory().constFind(id);
     if (it == directory().constEnd())
         return nullptr;
-    QWidget *w = (*it)();
+    QWidget *w = (*it)(argument);
     if (w)
         w->setAttribute(Qt::WA_DeleteOnClose);
     return w;

@@ -1,25 +1,30 @@
 #pragma once
 
-#include <QString>
+#include "app/ui/ScreenId.h"
+
+#include <QVariant>
 #include <QWidget>
 
 #include <functional>
 
-// Where the start screen finds the windows it opens. Each subsystem's
-// window is registered by name ("teamScrn", "scheduleScrn", ...) by the
-// program's entry point, so the start screen needn't link every subsystem
-// and the subsystems can come back to the start screen without a loop in
-// the libraries. A button or menu item whose window isn't registered is
-// disabled.
+// Where a window finds the windows it opens. Each subsystem's window is
+// registered under its ScreenId by the program's entry point, so the start
+// screen needn't link every subsystem and the subsystems can come back to
+// the start screen without a loop in the libraries. A button or menu item
+// whose window isn't registered is disabled.
 namespace screens {
 
-using Factory = std::function<QWidget *()>;
+// Makes the window; `argument` is what the opener passes (an event id, a
+// help topic), or an invalid QVariant.
+using Factory = std::function<QWidget *(const QVariant &argument)>;
 
-void registerScreen(const QString &name, Factory factory);
-void unregisterScreen(const QString &name);
-bool has(const QString &name);
-// A new window of that name, or nullptr when none is registered. The caller
+void registerScreen(ScreenId id, Factory factory);
+// For windows that take no argument.
+void registerScreen(ScreenId id, std::function<QWidget *()> factory);
+void unregisterScreen(ScreenId id);
+bool has(ScreenId id);
+// A new window of that id, or nullptr when none is registered. The caller
 // shows it; windows delete themselves on close.
-QWidget *create(const QString &name);
+QWidget *create(ScreenId id, const QVariant &argument = {});
 
 } // namespace screens

@@ -92,8 +92,8 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     helpBtn->setAccessibleName(QStringLiteral("Help"));
     helpBtn->setToolTip(QStringLiteral("Help for this screen"));
     helpBtn->setFixedWidth(32);
-    helpBtn->setEnabled(screens::has(QStringLiteral("helpScrn2")));
-    connect(helpBtn, &QPushButton::clicked, this, [this] { openTarget(QStringLiteral("helpScrn2"), false, false); });
+    helpBtn->setEnabled(screens::has(ScreenId::helpScrn2));
+    connect(helpBtn, &QPushButton::clicked, this, [this] { openTarget(ScreenId::helpScrn2, false); });
     left->addWidget(helpBtn, 0, Qt::AlignLeft);
     outer->addLayout(left);
 
@@ -109,24 +109,24 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     grid->setSpacing(8);
     const struct
     {
-        const char *name, *caption, *target;
+        const char *name, *caption;
+        ScreenId target;
     } buttons[] = {
-        {"teamScrnBtn", "Create/Edit Team Data", "teamScrn"},
-        {"ShowPersonnelBtn", "Create/Edit Players, Coaches", "personnelScrn"},
-        {"ShowSchedules", "Games/Practices etc.", "scheduleScrn"},
-        {"inventoryBtn", "Inventory", "InventoryScrn"},
-        {"OpenCalendar", "Event Calendar", "eventsCalendarScrn"},
-        {"ShowContacts", "Quick Contact View", "contactInfoScrn"},
-        {"reportBtn", "View Reports", "reportIntroScrn"},
-        {"ShowPlayerCards", "Current Standings", "standingsScrn"},
-        {"formsBtn", "Forms - Extras", "formsScrn"},
-        {"prefBtn", "Preferences", "prefScrn"},
-        {"newSeasonBtn", "New Season Screen", "TransferDataScrn"},
+        {"teamScrnBtn", "Create/Edit Team Data", ScreenId::teamScrn},
+        {"ShowPersonnelBtn", "Create/Edit Players, Coaches", ScreenId::personnelScrn},
+        {"ShowSchedules", "Games/Practices etc.", ScreenId::scheduleScrn},
+        {"inventoryBtn", "Inventory", ScreenId::InventoryScrn},
+        {"OpenCalendar", "Event Calendar", ScreenId::eventsCalendarScrn},
+        {"ShowContacts", "Quick Contact View", ScreenId::contactInfoScrn},
+        {"reportBtn", "View Reports", ScreenId::reportIntroScrn},
+        {"ShowPlayerCards", "Current Standings", ScreenId::standingsScrn},
+        {"formsBtn", "Forms - Extras", ScreenId::formsScrn},
+        {"prefBtn", "Preferences", ScreenId::prefScrn},
+        {"newSeasonBtn", "New Season Screen", ScreenId::TransferDataScrn},
     };
     int i = 0;
     for (const auto &b : buttons) {
-        QPushButton *button = addTargetButton(QString::fromLatin1(b.name), QString::fromLatin1(b.caption),
-                                              QString::fromLatin1(b.target));
+        QPushButton *button = addTargetButton(QString::fromLatin1(b.name), QString::fromLatin1(b.caption), b.target);
         grid->addWidget(button, i / 2, i % 2);
         ++i;
     }
@@ -146,22 +146,23 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     });
     const struct
     {
-        const char *item, *target;
+        const char *item;
+        ScreenId target;
         bool closeStart;
     } menuTargets[] = {
-        {"FileBackup", "backUpDlog", false},
-        {"HelpUpdateCheck", "updateDlog", false},
-        {"Abbrev", "HelpAbbrevScrn", false},
-        {"Help", "helpScrn2", false},
-        {"HelpPrefs", "prefScrn", true},
+        {"FileBackup", ScreenId::backUpDlog, false},
+        {"HelpUpdateCheck", ScreenId::updateDlog, false},
+        {"Abbrev", ScreenId::HelpAbbrevScrn, false},
+        {"Help", ScreenId::helpScrn2, false},
+        {"HelpPrefs", ScreenId::prefScrn, true},
     };
     for (const auto &m : menuTargets) {
-        const QString target = QString::fromLatin1(m.target);
+        const ScreenId target = m.target;
         if (!screens::has(target))
             continue;
         const bool closeStart = m.closeStart;
         m_menuBar->installHandler(QString::fromLatin1(m.item), [this, target, closeStart] {
-            openTarget(target, closeStart, false);
+            openTarget(target, closeStart);
             return true;
         });
     }
@@ -184,7 +185,7 @@ startScrn1 *startScrn1::showStartScreen()
     return g_startScreen;
 }
 
-QPushButton *startScrn1::addTargetButton(const QString &objectName, const QString &caption, const QString &target)
+QPushButton *startScrn1::addTargetButton(const QString &objectName, const QString &caption, ScreenId target)
 {
     auto *button = new QPushButton(caption, centralWidget() ? centralWidget() : this);
     button->setObjectName(objectName);
@@ -192,13 +193,10 @@ QPushButton *startScrn1::addTargetButton(const QString &objectName, const QStrin
     button->setMinimumHeight(36);
     // A screen that isn't part of the program yet can't be opened.
     button->setEnabled(screens::has(target));
-    static const QStringList backupScreens = {QStringLiteral("teamScrn"), QStringLiteral("scheduleScrn"),
-                                              QStringLiteral("InventoryScrn"), QStringLiteral("personnelScrn")};
-    static const QStringList besideScreens = {QStringLiteral("eventsCalendarScrn"), QStringLiteral("contactInfoScrn"),
-                                              QStringLiteral("standingsScrn")};
-    const bool closeStart = !besideScreens.contains(target);
-    const bool timer = backupScreens.contains(target);
-    if (target == u"TransferDataScrn") {
+    // These open beside the start screen; the others take its place.
+    const bool closeStart = target != ScreenId::eventsCalendarScrn && target != ScreenId::contactInfoScrn
+                            && target != ScreenId::standingsScrn;
+    if (target == ScreenId::TransferDataScrn) {
         connect(button, &QPushButton::clicked, this, [this, target] {
             if (QWidget *sheet = screens::create(target)) {
                 sheet->setParent(this, sheet->windowFlags() | Qt::Sheet);
@@ -208,19 +206,16 @@ QPushButton *startScrn1::addTargetButton(const QString &objectName, const QStrin
             }
         });
     } else {
-        connect(button, &QPushButton::clicked, this,
-                [this, target, closeStart, timer] { openTarget(target, closeStart, timer); });
+        connect(button, &QPushButton::clicked, this, [this, target, closeStart] { openTarget(target, closeStart); });
     }
     return button;
 }
 
-void startScrn1::openTarget(const QString &target, bool closeStart, bool startBackupTimer)
+void startScrn1::openTarget(ScreenId target, bool closeStart)
 {
     QWidget *screen = screens::create(target);
     if (!screen)
         return;
-    if (startBackupTimer && App::instance() && App::instance()->BUTimer)
-        App::instance()->BUTimer->setMode(myTimerClass::ModeMultiple);
     // The target shows before the start screen closes: the program quits
     // when its last window closes.
     screen->show();

@@ -4,6 +4,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include "app/ui/ScreenId.h"
+
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -41,8 +43,8 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    QPushButton *addTargetButton(const QString &objectName, const QString &caption, const QString &target);
-    void openTarget(const QString &target, bool closeStart, bool startBackupTimer);
+    QPushButton *addTargetButton(const QString &objectName, const QString &caption, ScreenId target);
+    void openTarget(ScreenId target, bool closeStart);
     void seasonChosen(int row);
     void showAbout();
 

@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenBase.h"
 #include "app/ui/ScreenDirectory.h"
 
 #include <QAction>
@@ -25,23 +26,27 @@ void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std:
     });
     const struct
     {
-        const char *item, *screen;
+        const char *item;
+        ScreenId screen;
         int topic;
-    } others[] = {{"Help", "helpScrn2", helpTopic}, {"Abbrev", "HelpAbbrevScrn", 0}, {"HelpPrefs", "prefScrn", 0}};
+    } others[] = {{"Help", ScreenId::helpScrn2, helpTopic},
+                  {"Abbrev", ScreenId::HelpAbbrevScrn, 0},
+                  {"HelpPrefs", ScreenId::prefScrn, 0}};
     for (const auto &o : others) {
-        const QString screen = QString::fromLatin1(o.screen);
+        const ScreenId screen = o.screen;
         if (!screens::has(screen))
             continue;
         const int topic = o.topic;
         menus->installHandler(QString::fromLatin1(o.item), [screen, topic] {
-            if (QWidget *w = screens::create(screen)) {
-                // The window reads these when it opens: the help topic to
-                // show, and that closing it doesn't bring back the start screen.
-                if (topic > 0)
-                    w->setProperty("helpTopic", topic);
-                w->setProperty("returnToStart", false);
-                w->show();
-            }
+            // The help window takes its topic as the argument.
+            QWidget *w = screens::create(screen, topic > 0 ? QVariant(topic) : QVariant());
+            if (!w)
+                return true;
+            // Opened over this screen: closing it comes back here, not to
+            // the start screen.
+            if (auto *opened = qobject_cast<ScreenBase *>(w))
+                opened->setReturnToStart(false);
+            w->show();
             return true;
         });
     }

@@ -66,13 +66,9 @@ void filling(people::MemberEditState &state, F body)
 } // namespace
 
 personnelScrn::personnelScrn(QWidget *parent)
-    : QMainWindow(parent), m_book(std::make_unique<people::RosterBook>(*gData))
+    : ScreenBase(ScreenId::personnelScrn, QStringLiteral("Players and Coaches"), {.backupTimer = true}, parent),
+      m_book(std::make_unique<people::RosterBook>(*gData))
 {
-    setObjectName(QStringLiteral("personnelScrn"));
-    setWindowTitle(QStringLiteral("Players and Coaches"));
-    setAttribute(Qt::WA_DeleteOnClose);
-    m_menuBar = new MainMenuBar(this);
-    setMenuBar(m_menuBar);
     buildControls();
     installMenuHandlers();
 
@@ -305,7 +301,7 @@ void personnelScrn::buildControls()
 
 void personnelScrn::installMenuHandlers()
 {
-    installPeopleMenus(m_menuBar, QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
+    installPeopleMenus(menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
 }
 
 void personnelScrn::fillTeamPopups()
@@ -632,11 +628,9 @@ void personnelScrn::hndlPrint(int kind)
     m_book->hndlPrint(kind, teamIDFld->text(), kind == 1 ? selected : QString());
 }
 
-void personnelScrn::closeEvent(QCloseEvent *event)
+bool personnelScrn::mayClose()
 {
     if (m_state.needsSaveQuestion())
         askSaveDirty();
-    event->accept();
-    QMainWindow::closeEvent(event);
-    startScrn1::showStartScreen();
+    return true;
 }

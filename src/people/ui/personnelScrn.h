@@ -2,7 +2,7 @@
 
 #include "people/RosterBook.h"
 
-#include <QMainWindow>
+#include "app/ui/ScreenBase.h"
 
 #include <memory>
 
@@ -25,7 +25,7 @@ class qlmListBox;
 // member can be added, edited, traded to another team and removed; leaving
 // a changed member asks whether to save it. The rules live in
 // people::RosterBook.
-class personnelScrn : public QMainWindow
+class personnelScrn : public ScreenBase
 {
     Q_OBJECT
 
@@ -51,7 +51,7 @@ public:
     bool isPlayerMode() const;
     const people::MemberEditState &editState() const { return m_state; }
     people::RosterBook &book() { return *m_book; }
-    MainMenuBar *menuBar() const { return m_menuBar; }
+    MainMenuBar *menuBar() const { return menus(); }
 
     QRadioButton *SelectPlayer = nullptr;
     QRadioButton *SelectCoach = nullptr;
@@ -82,7 +82,7 @@ public:
     playerInfoCtr *myPlayerCtr = nullptr;
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
+    bool mayClose() override;
 
 private:
     void buildControls();
@@ -104,7 +104,6 @@ private:
 
     std::unique_ptr<people::RosterBook> m_book;
     people::MemberEditState m_state;
-    MainMenuBar *m_menuBar = nullptr;
     // The member on show: which table and which row.
     people::MemberKind m_loadedKind = people::MemberKind::Player;
     QString m_loadedID;

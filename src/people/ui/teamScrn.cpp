@@ -69,13 +69,9 @@ void setComboText(QComboBox *box, const QString &text)
 } // namespace
 
 teamScrn::teamScrn(QWidget *parent)
-    : QMainWindow(parent), m_book(std::make_unique<people::TeamBook>(*gData, *gPrefs))
+    : ScreenBase(ScreenId::teamScrn, QStringLiteral("Teams"), {.backupTimer = true}, parent),
+      m_book(std::make_unique<people::TeamBook>(*gData, *gPrefs))
 {
-    setObjectName(QStringLiteral("teamScrn"));
-    setWindowTitle(QStringLiteral("Teams"));
-    setAttribute(Qt::WA_DeleteOnClose);
-    m_menuBar = new MainMenuBar(this);
-    setMenuBar(m_menuBar);
     buildControls();
     installMenuHandlers();
 
@@ -265,7 +261,7 @@ void teamScrn::buildControls()
 
 void teamScrn::installMenuHandlers()
 {
-    installPeopleMenus(m_menuBar, QStringLiteral("Print Team List"), [this] { hndlPrint(0); }, 2);
+    installPeopleMenus(menus(), QStringLiteral("Print Team List"), [this] { hndlPrint(0); }, 2);
 }
 
 void teamScrn::loadTeamList()
@@ -436,14 +432,7 @@ void teamScrn::hndlPrint(int kind)
     m_book->hndlPrint(kind, kind == 1 ? teamIDFld->text() : QString(), placeholderLogo());
 }
 
-void teamScrn::closeEvent(QCloseEvent *event)
+bool teamScrn::mayClose()
 {
-    if (!m_book->mayClose()) {
-        event->ignore();
-        return;
-    }
-    event->accept();
-    QMainWindow::closeEvent(event);
-    // The start screen reads the home team afresh when it shows.
-    startScrn1::showStartScreen();
+    return m_book->mayClose();
 }

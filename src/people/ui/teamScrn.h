@@ -3,7 +3,7 @@
 #include "people/TeamBook.h"
 
 #include <QImage>
-#include <QMainWindow>
+#include "app/ui/ScreenBase.h"
 
 #include <memory>
 
@@ -24,7 +24,7 @@ class qlmListBox;
 // left, the selected team's fields on the right; the rules live in
 // people::TeamBook. Opened from the start screen, which it shows again when
 // it closes, and it won't close while there are teams but no home team.
-class teamScrn : public QMainWindow
+class teamScrn : public ScreenBase
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ public:
     void hndlPrint(int kind);
 
     people::TeamBook &book() { return *m_book; }
-    MainMenuBar *menuBar() const { return m_menuBar; }
+    MainMenuBar *menuBar() const { return menus(); }
 
     qlmListBox *teamList = nullptr;
     qlmLabel *ListTitle = nullptr;
@@ -67,7 +67,7 @@ public:
     QToolButton *printBtn = nullptr;
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
+    bool mayClose() override;
 
 private:
     void buildControls();
@@ -80,6 +80,5 @@ private:
     people::TeamRecord teamFromFields() const;
 
     std::unique_ptr<people::TeamBook> m_book;
-    MainMenuBar *m_menuBar = nullptr;
     bool m_clearing = false;
 };

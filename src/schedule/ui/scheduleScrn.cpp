@@ -30,15 +30,12 @@ QPushButton *makeButton(QWidget *parent, const QString &name, const QString &cap
 
 } // namespace
 
-scheduleScrn::scheduleScrn(QWidget *parent) : QMainWindow(parent), m_schedule(*gData)
+scheduleScrn::scheduleScrn(QWidget *parent)
+    : ScreenBase(ScreenId::scheduleScrn, QStringLiteral("Games, Practices and Other Events"), {.backupTimer = true},
+                 parent),
+      m_schedule(*gData)
 {
-    setObjectName(QStringLiteral("scheduleScrn"));
-    setWindowTitle(QStringLiteral("Games, Practices and Other Events"));
-    setAttribute(Qt::WA_DeleteOnClose);
     resize(900, 560);
-
-    m_menuBar = new MainMenuBar(this);
-    setMenuBar(m_menuBar);
 
     auto *central = new QWidget(this);
     auto *outer = new QVBoxLayout(central);
@@ -100,7 +97,7 @@ scheduleScrn::scheduleScrn(QWidget *parent) : QMainWindow(parent), m_schedule(*g
     deleteEvBtn->setEnabled(false);
     enterDataBtn->setEnabled(false);
     // The events calendar opens from here once it is part of the program.
-    viewCalendarBtn->setEnabled(screens::has(QStringLiteral("eventsCalendarScrn")));
+    viewCalendarBtn->setEnabled(screens::has(ScreenId::eventsCalendarScrn));
 
     connect(filterPop, &QComboBox::currentTextChanged, this, &scheduleScrn::loadScheduleLB);
     connect(ScheduleListbox, &qlmListBox::rowSelectionChanged, this, &scheduleScrn::selectionChanged);
@@ -112,19 +109,19 @@ scheduleScrn::scheduleScrn(QWidget *parent) : QMainWindow(parent), m_schedule(*g
     connect(printBtn, &QPushButton::clicked, this, &scheduleScrn::doPrintSchedule);
     connect(exportBtn, &QPushButton::clicked, this, &scheduleScrn::exportSchedule);
     connect(viewCalendarBtn, &QPushButton::clicked, this, [] {
-        if (QWidget *calendar = screens::create(QStringLiteral("eventsCalendarScrn")))
+        if (QWidget *calendar = screens::create(ScreenId::eventsCalendarScrn))
             calendar->show();
     });
 
-    m_menuBar->installHandler(QStringLiteral("FilePrint"), [this] {
+    menus()->installHandler(QStringLiteral("FilePrint"), [this] {
         doPrintSchedule();
         return true;
     });
-    m_menuBar->installHandler(QStringLiteral("FileExport"), [this] {
+    menus()->installHandler(QStringLiteral("FileExport"), [this] {
         exportSchedule();
         return true;
     });
-    m_menuBar->installHandler(QStringLiteral("FilePrinterSetup"), [] {
+    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
         std::optional<platform::PrinterSetup> setup;
         gGetPrinterSetup(setup, true);
         return true;
@@ -138,7 +135,7 @@ scheduleScrn::~scheduleScrn() = default;
 
 void scheduleScrn::showEvent(QShowEvent *event)
 {
-    QMainWindow::showEvent(event);
+    ScreenBase::showEvent(event);
     if (m_opened)
         return;
     m_opened = true;
@@ -162,15 +159,13 @@ bool scheduleScrn::eventFilter(QObject *watched, QEvent *event)
             }
         }
     }
-    return QMainWindow::eventFilter(watched, event);
+    return ScreenBase::eventFilter(watched, event);
 }
 
-void scheduleScrn::closeEvent(QCloseEvent *event)
+bool scheduleScrn::mayClose()
 {
     saveLBandPos();
-    QMainWindow::closeEvent(event);
-    if (event->isAccepted())
-        startScrn1::showStartScreen();
+    return true;
 }
 
 qint64 scheduleScrn::selectedID() const

@@ -2,7 +2,7 @@
 
 #include "schedule/ScheduleList.h"
 
-#include <QMainWindow>
+#include "app/ui/ScreenBase.h"
 
 class QComboBox;
 class QLabel;
@@ -15,7 +15,7 @@ class qlmListBox;
 // New, edit and delete go through the event editor and ScheduleList; rows
 // are dragged into order; the list prints and exports itself. Closing it
 // writes the order and brings the start screen back.
-class scheduleScrn : public QMainWindow
+class scheduleScrn : public ScreenBase
 {
     Q_OBJECT
 
@@ -44,11 +44,11 @@ public:
     QPushButton *exportBtn = nullptr;
     QPushButton *viewCalendarBtn = nullptr;
     QLabel *schedIDLabel = nullptr;
-    MainMenuBar *menuBar() const { return m_menuBar; }
+    MainMenuBar *menuBar() const { return menus(); }
 
 protected:
     void showEvent(QShowEvent *event) override;
-    void closeEvent(QCloseEvent *event) override;
+    bool mayClose() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -60,6 +60,5 @@ private:
     qint64 selectedID() const;
 
     ScheduleList m_schedule;
-    MainMenuBar *m_menuBar = nullptr;
     bool m_opened = false;
 };

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+// Every window the program can open from another one. A window is opened
+// by its id through the screen directory, never by a class name, so the
+// subsystems don't link each other's windows.
+enum class ScreenId {
+    teamScrn,
+    personnelScrn,
+    scheduleScrn,
+    gameDayScrn,        // argument: the event id of the game
+    practicePlanScrn,   // argument: the event id of the practice
+    InventoryScrn,
+    eventsCalendarScrn,
+    contactInfoScrn,
+    reportIntroScrn,
+    standingsScrn,
+    formsScrn,
+    prefScrn,
+    TransferDataScrn,
+    backUpDlog,
+    updateDlog,
+    helpScrn2,          // argument: the topic number, or none for the index
+    HelpAbbrevScrn,
+};
+
+// The window's objectName: the name the program's design gives it.
+QString screenName(ScreenId id);

@@ -13,6 +13,7 @@ QString screenName(ScreenId id)
     case ScreenId::InventoryScrn: return QStringLiteral("InventoryScrn");
     case ScreenId::eventsCalendarScrn: return QStringLiteral("eventsCalendarScrn");
     case ScreenId::contactInfoScrn: return QStringLiteral("contactInfoScrn");
+    case ScreenId::emailInfoScrn: return QStringLiteral("emailInfoScrn");
     case ScreenId::reportIntroScrn: return QStringLiteral("reportIntroScrn");
     case ScreenId::standingsScrn: return QStringLiteral("standingsScrn");
     case ScreenId::formsScrn: return QStringLiteral("formsScrn");

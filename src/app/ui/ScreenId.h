@@ -14,6 +14,7 @@ enum class ScreenId {
     InventoryScrn,
     eventsCalendarScrn,
     contactInfoScrn,
+    emailInfoScrn,      // the mail settings
     reportIntroScrn,
     standingsScrn,
     formsScrn,

@@ -1,0 +1,200 @@
+// The month calendar without a window: the 42 days of a month's grid, turning
+// the month, and where events land in the cells and the "More" strips.
+
+#include "fakes/FakePlatform.h"
+#include "schedule/MonthEventsCalendar.h"
+
+#include <QLocale>
+#include <QTest>
+
+namespace {
+
+// 7 cells of 100 across and 6 of 70 down under the 55 of the header.
+const QSize kSize(701, 476);
+
+mcEventDataClass eventOf(const QString &span, int id)
+{
+    const QStringList ends = span.split(u'|');
+    mcEventDataClass event;
+    event.startDate = QDateTime::fromString(ends.at(0), Qt::ISODate);
+    event.endDate = QDateTime::fromString(ends.value(1, ends.at(0)), Qt::ISODate);
+    event.subject = QStringLiteral("Event %1").arg(id);
+    event.EventID = id;
+    return event;
+}
+
+} // namespace
+
+class TestMonthEvents : public QObject
+{
+    Q_OBJECT
+
+    fakes::FakePlatform m_fake; // today is 15 April 2026
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+
+    void gridOfMonth_data()
+    {
+        QTest::addColumn<int>("year");
+        QTest::addColumn<int>("month");
+        QTest::addColumn<QDate>("firstCell");
+        QTest::addColumn<int>("length");
+        // The 1st on a Sunday: the grid shows the whole week before.
+        QTest::newRow("February 2026, Sunday 1st") << 2026 << 2 << QDate(2026, 1, 25) << 28;
+        QTest::newRow("August 2026, Saturday 1st") << 2026 << 8 << QDate(2026, 7, 26) << 31;
+        // Divisible by 100 but not by 400: no 29th.
+        QTest::newRow("February 1900") << 1900 << 2 << QDate(1900, 1, 28) << 28;
+        QTest::newRow("February 2000") << 2000 << 2 << QDate(2000, 1, 30) << 29;
+        QTest::newRow("February 2024") << 2024 << 2 << QDate(2024, 1, 28) << 29;
+        QTest::newRow("December 2026") << 2026 << 12 << QDate(2026, 11, 29) << 31;
+    }
+    void gridOfMonth()
+    {
+        QFETCH(int, year);
+        QFETCH(int, month);
+        QFETCH(QDate, firstCell);
+        QFETCH(int, length);
+        MonthCalendar calendar;
+        calendar.ShowMonth(year, month);
+        QCOMPARE(MonthCalendar::daysInMonth(month, year), length);
+        QCOMPARE(calendar.showingStartDate(), QDate(year, month, 1));
+        QCOMPARE(calendar.showingEndDate(), QDate(year, month, length));
+        int inMonth = 0;
+        for (int i = 0; i < MonthCalendar::kCells; ++i) {
+            const MonthCalendar::Cell &cell = calendar.cells()[std::size_t(i)];
+            QCOMPARE(cell.date, firstCell.addDays(i));
+            QCOMPARE(cell.date.dayOfWeek() % 7 + 1, cell.column); // column 1 is Sunday
+            QCOMPARE(cell.row, i / 7 + 1);
+            inMonth += cell.thisMonth ? 1 : 0;
+        }
+        QCOMPARE(inMonth, length);
+        QVERIFY(!calendar.cells()[0].thisMonth);
+    }
+
+    void showMonth_data()
+    {
+        QTest::addColumn<QDate>("selected");
+        QTest::addColumn<int>("year");
+        QTest::addColumn<int>("month");
+        QTest::addColumn<QDate>("expected");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("31 January to February") << QDate(2026, 1, 31) << 2026 << 2 << QDate(2026, 2, 28) << "February 2026";
+        QTest::newRow("31 January to a leap February") << QDate(2000, 1, 31) << 2000 << 2 << QDate(2000, 2, 29) << "February 2000";
+        QTest::newRow("28 February to March") << QDate(2026, 2, 28) << 2026 << 3 << QDate(2026, 3, 28) << "March 2026";
+        QTest::newRow("year 0") << QDate(2026, 1, 31) << 0 << 5 << QDate(2026, 1, 31) << "January 2026";
+        QTest::newRow("month 0") << QDate(2026, 1, 31) << 2017 << 0 << QDate(2026, 1, 31) << "January 2026";
+    }
+    void showMonth()
+    {
+        QFETCH(QDate, selected);
+        QFETCH(int, year);
+        QFETCH(int, month);
+        QFETCH(QDate, expected);
+        QFETCH(QString, title);
+        MonthCalendar calendar;
+        calendar.ShowDate(selected);
+        calendar.ShowMonth(year, month);
+        QCOMPARE(calendar.dateSelected(), expected);
+        QCOMPARE(calendar.MonthToShow(), expected.month());
+        QCOMPARE(calendar.title(), title);
+        QCOMPARE(calendar.showingStartDate(), QDate(expected.year(), expected.month(), 1));
+    }
+
+    // Each record as "MM-DD +offset #event", the offset from the cell's top,
+    // or "MM-DD more n" for a strip standing for n events.
+    void eventsInCells_data()
+    {
+        QTest::addColumn<QStringList>("events");
+        QTest::addColumn<int>("month");
+        QTest::addColumn<QStringList>("records");
+        QTest::newRow("one event")
+            << QStringList{"2026-04-15T19:30"} << 4 << QStringList{"04-15 +15 #0"};
+        // A 70-high cell holds bars at +15, +29 and +43; +57 passes the limit of +47.
+        QTest::newRow("fourth in a cell")
+            << QStringList(4, "2026-04-15T19:30") << 4
+            << QStringList{"04-15 +15 #0", "04-15 +29 #1", "04-15 +43 #2", "04-15 more 1"};
+        QTest::newRow("three overflowing")
+            << QStringList(6, "2026-04-15T19:30") << 4
+            << QStringList{"04-15 +15 #0", "04-15 +29 #1", "04-15 +43 #2", "04-15 more 3", "04-15 more 3",
+                           "04-15 more 3"};
+        QTest::newRow("across months, first month")
+            << QStringList{"2026-03-28T09:00|2026-04-03T09:00"} << 3
+            << QStringList{"03-28 +15 #0", "03-29 +15 #0", "03-30 +15 #0", "03-31 +15 #0", "04-01 +15 #0",
+                           "04-02 +15 #0", "04-03 +15 #0"};
+        // April's grid begins on 29 March.
+        QTest::newRow("across months, second month")
+            << QStringList{"2026-03-28T09:00|2026-04-03T09:00"} << 4
+            << QStringList{"03-29 +15 #0", "03-30 +15 #0", "03-31 +15 #0", "04-01 +15 #0", "04-02 +15 #0",
+                           "04-03 +15 #0"};
+        QTest::newRow("over a whole month") << QStringList{"2026-03-28T09:00|2026-05-03T09:00"} << 4 << QStringList{};
+        QTest::newRow("only in grey days") << QStringList{"2026-03-30T09:00|2026-03-31T09:00"} << 4 << QStringList{};
+        // The first day counts though its cell begins before the start time.
+        QTest::newRow("evening to morning")
+            << QStringList{"2026-04-15T20:00|2026-04-16T08:00"} << 4 << QStringList{"04-15 +15 #0", "04-16 +15 #0"};
+        QTest::newRow("stacked per cell")
+            << QStringList{"2026-04-14T09:00|2026-04-16T09:00", "2026-04-15T18:00"} << 4
+            << QStringList{"04-14 +15 #0", "04-15 +15 #0", "04-16 +15 #0", "04-15 +29 #1"};
+    }
+    void eventsInCells()
+    {
+        QFETCH(QStringList, events);
+        QFETCH(int, month);
+        QFETCH(QStringList, records);
+        MonthEventsCalendar calendar;
+        calendar.setSize(kSize);
+        QCOMPARE(calendar.UnitV(), 70.0);
+        calendar.ShowMonth(2026, month);
+        for (int i = 0; i < events.size(); ++i)
+            calendar.addEvent(eventOf(events.at(i), i + 100));
+
+        QStringList shown;
+        for (const mcDisplayDataClass &r : calendar.displayData()) {
+            const QRectF cell = calendar.cellRect(int(r.eventDateID));
+            const QString day = QDate::fromString(r.eventDate, Qt::ISODate).toString(QStringLiteral("MM-dd"));
+            QCOMPARE(calendar.cells()[std::size_t(r.eventDateID)].date.toString(Qt::ISODate), r.eventDate);
+            if (r.moreBox) {
+                // The last 10 pixels of the cell, across its width.
+                QCOMPARE(QRectF(r.x1, r.y1, r.x2 - r.x1, r.y2 - r.y1), QRectF(cell.left(), cell.bottom() - 10, 100, 10));
+                shown.append(QStringLiteral("%1 more %2").arg(day).arg(calendar.overflowed(int(r.eventDateID))));
+            } else {
+                QCOMPARE(r.x1, cell.left() + 3);
+                QCOMPARE(r.x2 - r.x1, 95.0);
+                QCOMPARE(r.y2 - r.y1, 12.0);
+                QCOMPARE(r.gUID, QString::number(r.eventID + 100));
+                shown.append(QStringLiteral("%1 +%2 #%3").arg(day).arg(r.y1 - cell.top()).arg(r.eventID));
+            }
+        }
+        QCOMPARE(shown, records);
+    }
+
+    void eventsByKey()
+    {
+        MonthEventsCalendar calendar;
+        mcEventDataClass event = eventOf(QStringLiteral("2026-04-15T10:00"), 17);
+        QCOMPARE(calendar.addEvent(event), QStringLiteral("17"));
+        event.subject = QStringLiteral("first");
+        QCOMPARE(calendar.addEvent(event, QStringLiteral("k")), QStringLiteral("k"));
+        event.subject = QStringLiteral("second");
+        calendar.addEvent(event, QStringLiteral("k"));
+
+        // Two events under one key: the first answers.
+        calendar.selectEvent(QStringLiteral("k"));
+        QCOMPARE(calendar.selectedEvent(), 1);
+        calendar.selectEvent(QStringLiteral("none"));
+        QCOMPARE(calendar.selectedEvent(), 1);
+        event.subject = QStringLiteral("edited");
+        event.gUID.clear();
+        calendar.EditEvent(event, QStringLiteral("k"));
+        QCOMPARE(calendar.eventData().at(1).subject, QStringLiteral("edited"));
+        QCOMPARE(calendar.eventData().at(1).gUID, QStringLiteral("k"));
+        QCOMPARE(calendar.selectedEvent(), 1);
+        calendar.deleteEvent(QStringLiteral("k"));
+        QCOMPARE(calendar.selectedEvent(), -1);
+        QCOMPARE(calendar.eventData().size(), 2);
+        QCOMPARE(calendar.eventData().at(1).subject, QStringLiteral("second"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMonthEvents)
+#include "tst_monthevents.moc"

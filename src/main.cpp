@@ -8,6 +8,7 @@
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
+#include "schedule/ui/eventsCalendarScrn.h"
 #include "schedule/ui/scheduleScrn.h"
 
 namespace {
@@ -18,6 +19,7 @@ void registerScreens()
     screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
     screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::eventsCalendarScrn, [] { return new eventsCalendarScrn; });
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 #include "schedule/ScheduleStore.h"
 
 #include <QPainter>
-
 #include <algorithm>
 
 namespace EventsCalendar {
@@ -52,7 +51,7 @@ QString infoText(const mcEventDataClass &event)
 }
 
 void printOneCopy(QPainter &painter, const platform::PrinterSetup &setup, const MonthEventsCalendar &calendar,
-                  const QString &teamName, const QDate &today, const QFont &font)
+    const QString &teamName, const QDate &today, const QFont &font)
 {
     const double x = setup.left();
     double y = setup.top() + 36;

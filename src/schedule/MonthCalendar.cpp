@@ -6,7 +6,6 @@
 #include <QFontMetricsF>
 #include <QLocale>
 #include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
@@ -53,9 +52,18 @@ QDate MonthCalendar::today()
 int MonthCalendar::daysInMonth(int month, int year)
 {
     switch (month) {
-    case 1: case 3: case 5: case 7: case 8: case 10: case 12:
+    case 1:
+    case 3:
+    case 5:
+    case 7:
+    case 8:
+    case 10:
+    case 12:
         return 31;
-    case 4: case 6: case 9: case 11:
+    case 4:
+    case 6:
+    case 9:
+    case 11:
         return 30;
     case 2:
         return (year % 4 == 0 && (year % 400 == 0 || year % 100 != 0)) ? 29 : 28;
@@ -171,7 +179,7 @@ QString MonthCalendar::title() const
 {
     const QLocale locale;
     return locale.standaloneMonthName(m_dateSelected.month(), QLocale::LongFormat) + u' '
-           + QString::number(m_dateSelected.year());
+        + QString::number(m_dateSelected.year());
 }
 
 std::optional<int> MonthCalendar::pressDate(const QPointF &point)
@@ -222,8 +230,8 @@ void MonthCalendar::paintHeader(QPainter &painter, const QFont &font) const
     painter.setFont(dayFont);
     painter.setPen(ColorTextDayName);
     for (int column = 1; column <= numberOfCol; ++column) {
-        const QString name = locale.standaloneDayName(qtDayOfColumn(column),
-                                                      abbreviate ? QLocale::ShortFormat : QLocale::LongFormat);
+        const QString name
+            = locale.standaloneDayName(qtDayOfColumn(column), abbreviate ? QLocale::ShortFormat : QLocale::LongFormat);
         const double x = UnitH() * (column - 1) + UnitH() / 2 - metrics.horizontalAdvance(name) / 2;
         painter.drawText(QPointF(x, heightOfHeader - 2 * metrics.height() / 3 + 4), name);
     }
@@ -255,9 +263,9 @@ void MonthCalendar::paintGrid(QPainter &painter, const QFont &font) const
         }
         const QString number = QString::number(cell.date.day());
         painter.setPen(text);
-        painter.drawText(QPointF(left + unitH - (metrics.horizontalAdvance(number) + 3),
-                                 cellTop + 2 * metrics.height() / 3 + 3),
-                         number);
+        painter.drawText(
+            QPointF(left + unitH - (metrics.horizontalAdvance(number) + 3), cellTop + 2 * metrics.height() / 3 + 3),
+            number);
     }
 
     painter.setPen(QPen(ColorLine, 0));

@@ -7,7 +7,6 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
-
 #include <array>
 #include <optional>
 
@@ -36,7 +35,7 @@ public:
     {
         QDate date;
         int column = 0; // 1 (Sunday) to 7 (Saturday)
-        int row = 0;    // 1 to 6
+        int row = 0; // 1 to 6
         bool thisMonth = false;
         bool weekend = false;
     };

@@ -296,7 +296,7 @@ void MonthEventsCalendar::paint(QPainter &painter, const QFont &font) const
         painter.setFont(stripFont);
         painter.setPen(Qt::white);
         painter.drawText(QPointF(record.x1 + 5, record.y1 + 9),
-                         QStringLiteral("More (%1)...").arg(shown.overflowed[std::size_t(record.eventDateID)]));
+            QStringLiteral("More (%1)...").arg(shown.overflowed[std::size_t(record.eventDateID)]));
     }
     painter.restore();
 }

@@ -21,8 +21,8 @@ using scheduletest::Season;
 
 namespace {
 
-void addEvent(const QString &type, const QDate &date, const QString &start, const QString &opponent,
-              const QString &location)
+void addEvent(
+    const QString &type, const QDate &date, const QString &start, const QString &opponent, const QString &location)
 {
     eventClass event;
     event.mDate = date;
@@ -53,20 +53,15 @@ eventsCalendarScrn *openScreen()
     return screen;
 }
 
-QString record(const char *name, const QString &what)
-{
-    return QString::fromLatin1(name) + u' ' + what;
-}
-
 // Every signal of the calendar as "name argument", in order.
 QStringList *listen(MonthEventsCalendar &c)
 {
     auto *heard = new QStringList;
     const auto day = [heard](const char *name) {
-        return [heard, name](const QDate &d) { heard->append(record(name, d.toString(Qt::ISODate))); };
+        return [=](const QDate &d) { heard->append(QString::fromLatin1(name) + u' ' + d.toString(Qt::ISODate)); };
     };
     const auto ev = [heard](const char *name) {
-        return [heard, name](const mcEventDataClass &e) { heard->append(record(name, e.subject)); };
+        return [=](const mcEventDataClass &e) { heard->append(QString::fromLatin1(name) + u' ' + e.subject); };
     };
     QObject::connect(&c, &MonthCalendar::dateClicked, &c, day("dateClicked"));
     QObject::connect(&c, &MonthEventsCalendar::eventClicked, &c, ev("eventClicked"));
@@ -109,6 +104,15 @@ QPoint pointOf(const MonthEventsCalendar &c, const QString &target)
     qFatal("nothing painted at %s", qPrintable(target));
 }
 
+eventsCalendarScrn *openCalendar()
+{
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (auto *screen = qobject_cast<eventsCalendarScrn *>(w); screen && screen->isVisible())
+            return screen;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 class TestEventsCalendar : public QObject
@@ -128,12 +132,8 @@ private Q_SLOTS:
         QTest::mouseClick(button, Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
-        auto *screen = qobject_cast<eventsCalendarScrn *>(QApplication::activeWindow());
-        if (!screen) {
-            for (QWidget *w : QApplication::topLevelWidgets())
-                screen = screen ? screen : qobject_cast<eventsCalendarScrn *>(w);
-        }
-        QVERIFY(screen && screen->isVisible());
+        auto *screen = openCalendar();
+        QVERIFY(screen);
         // No events: today's month, nothing painted.
         const MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
         QCOMPARE(calendar.title(), QStringLiteral("April 2026"));
@@ -145,95 +145,85 @@ private Q_SLOTS:
         schedule->show();
         QVERIFY(schedule->viewCalendarBtn->isEnabled());
         QTest::mouseClick(schedule->viewCalendarBtn, Qt::LeftButton);
-        int open = 0;
-        for (QWidget *w : QApplication::topLevelWidgets())
-            open += qobject_cast<eventsCalendarScrn *>(w) && w->isVisible() ? 1 : 0;
-        QCOMPARE(open, 1);
+        QVERIFY(openCalendar());
         screens::unregisterScreen(ScreenId::eventsCalendarScrn);
     }
 
+    // What the calendar tells after each script, as "signal argument" joined
+    // by ", "; the line under the calendar; the month on show.
     void pressesAndKeys_data()
     {
         QTest::addColumn<QStringList>("script");
-        QTest::addColumn<QStringList>("heard");
+        QTest::addColumn<QString>("heard");
         QTest::addColumn<QString>("info");
         QTest::addColumn<QString>("title");
-
         const QString game = QStringLiteral("7:30 Game @ Riverside with Bears");
-        QTest::newRow("click on a bar")
-            << QStringList{"click bar15.0"} << QStringList{"dateClicked 2026-04-15", "eventClicked 7:30 Game"} << game
-            << "April 2026";
+        const QString apr15 = QStringLiteral("Wednesday, April 15, 2026");
+        const QString apr20 = QStringLiteral("Monday, April 20, 2026");
+        const QString apr22 = QStringLiteral("Wednesday, April 22, 2026");
+        const QString april = QStringLiteral("April 2026");
+        QTest::newRow("click on a bar") << QStringList { "click bar15.0" }
+                                        << "dateClicked 2026-04-15, eventClicked 7:30 Game" << game << april;
         // An opponent of one character isn't shown; "---" starts at 0:00.
         QTest::newRow("click on the second bar")
-            << QStringList{"click bar15.1"} << QStringList{"dateClicked 2026-04-15", "eventClicked 0:00 Practice"}
-            << "0:00 Practice @ O'Malley's Field" << "April 2026";
+            << QStringList { "click bar15.1" } << "dateClicked 2026-04-15, eventClicked 0:00 Practice"
+            << "0:00 Practice @ O'Malley's Field" << april;
         QTest::newRow("double click on a bar")
-            << QStringList{"dclick bar15.0"}
-            << QStringList{"dateClicked 2026-04-15", "eventClicked 7:30 Game", "dateClicked 2026-04-15",
-                           "eventDoubleClicked 7:30 Game"}
-            << "Wednesday, April 15, 2026" << "April 2026";
+            << QStringList { "dclick bar15.0" }
+            << "dateClicked 2026-04-15, eventClicked 7:30 Game, dateClicked 2026-04-15, eventDoubleClicked 7:30 Game"
+            << apr15 << april;
         QTest::newRow("right click on a bar")
-            << QStringList{"right bar15.0"} << QStringList{"dateClicked 2026-04-15", "rightClickOnEvent 7:30 Game"}
-            << "Wednesday, April 15, 2026" << "April 2026";
+            << QStringList { "right bar15.0" } << "dateClicked 2026-04-15, rightClickOnEvent 7:30 Game" << apr15
+            << april;
         // Two events behind one strip: told once.
         QTest::newRow("click on a strip")
-            << QStringList{"click more20"} << QStringList{"dateClicked 2026-04-20", "moreClicked 2026-04-20"}
-            << "Monday, April 20, 2026" << "April 2026";
+            << QStringList { "click more20" } << "dateClicked 2026-04-20, moreClicked 2026-04-20" << apr20 << april;
         QTest::newRow("double click on a strip")
-            << QStringList{"dclick more20"}
-            << QStringList{"dateClicked 2026-04-20", "moreClicked 2026-04-20", "dateClicked 2026-04-20",
-                           "moreDoubleClicked 2026-04-20"}
-            << "Monday, April 20, 2026" << "April 2026";
+            << QStringList { "dclick more20" }
+            << "dateClicked 2026-04-20, moreClicked 2026-04-20, dateClicked 2026-04-20, moreDoubleClicked 2026-04-20"
+            << apr20 << april;
         QTest::newRow("right click on a strip")
-            << QStringList{"right more20"} << QStringList{"dateClicked 2026-04-20", "rightClickOnMore 2026-04-20"}
-            << "Monday, April 20, 2026" << "April 2026";
+            << QStringList { "right more20" } << "dateClicked 2026-04-20, rightClickOnMore 2026-04-20" << apr20
+            << april;
         QTest::newRow("click on an empty day")
-            << QStringList{"click day22"} << QStringList{"dateClicked 2026-04-22", "noEventSelected"}
-            << "Wednesday, April 22, 2026" << "April 2026";
+            << QStringList { "click day22" } << "dateClicked 2026-04-22, noEventSelected" << apr22 << april;
         QTest::newRow("double click on an empty day")
-            << QStringList{"dclick day22"}
-            << QStringList{"dateClicked 2026-04-22", "noEventSelected", "dateClicked 2026-04-22", "noEventSelected",
-                           "doubleClickedOnDate 2026-04-22"}
-            << "Wednesday, April 22, 2026" << "April 2026";
+            << QStringList { "dclick day22" }
+            << "dateClicked 2026-04-22, noEventSelected, dateClicked 2026-04-22, noEventSelected, "
+               "doubleClickedOnDate 2026-04-22"
+            << apr22 << april;
         QTest::newRow("right click on a day")
-            << QStringList{"right day22"}
-            << QStringList{"dateClicked 2026-04-22", "rightClickOnDate 2026-04-22", "noEventSelected"}
-            << "Wednesday, April 22, 2026" << "April 2026";
-        // A click on the bar after a click on the day isn't a double click.
-        QTest::newRow("day, then a bar")
-            << QStringList{"click day22", "click bar15.0"}
-            << QStringList{"dateClicked 2026-04-22", "noEventSelected", "dateClicked 2026-04-15",
-                           "eventClicked 7:30 Game"}
-            << game << "April 2026";
+            << QStringList { "right day22" } << "dateClicked 2026-04-22, rightClickOnDate 2026-04-22, noEventSelected"
+            << apr22 << april;
         QTest::newRow("grey day turns the month")
-            << QStringList{"click day-1"} << QStringList{"dateClicked 2026-05-01", "noEventSelected"}
-            << "Friday, May 1, 2026" << "May 2026";
-        QTest::newRow("last pixel column") << QStringList{"click edge"} << QStringList{} << "" << "April 2026";
-        QTest::newRow("below the last row") << QStringList{"click below"} << QStringList{} << "" << "April 2026";
-        QTest::newRow("Return on a day")
-            << QStringList{"click day22", "key Return"}
-            << QStringList{"dateClicked 2026-04-22", "noEventSelected", "returnKeyOnDate 2026-04-22"}
-            << "Wednesday, April 22, 2026" << "April 2026";
+            << QStringList { "click day-1" } << "dateClicked 2026-05-01, noEventSelected"
+            << "Friday, May 1, 2026"
+            << "May 2026";
+        QTest::newRow("last pixel column") << QStringList { "click edge" } << ""
+                                           << "" << april;
+        QTest::newRow("below the last row") << QStringList { "click below" } << ""
+                                            << "" << april;
+        // Return closes the window too.
+        QTest::newRow("Return on a day") << QStringList { "click day22", "key Return" }
+                                         << "dateClicked 2026-04-22, noEventSelected, returnKeyOnDate 2026-04-22"
+                                         << ""
+                                         << "";
         QTest::newRow("Return on an event")
-            << QStringList{"click bar15.0", "key Return"}
-            << QStringList{"dateClicked 2026-04-15", "eventClicked 7:30 Game", "returnKeyOnEvent 7:30 Game"} << game
-            << "April 2026";
+            << QStringList { "click bar15.0", "key Return" }
+            << "dateClicked 2026-04-15, eventClicked 7:30 Game, returnKeyOnEvent 7:30 Game"
+            << ""
+            << "";
         // Today is the 15th.
         QTest::newRow("arrows and Space")
-            << QStringList{"key Right", "key Left", "key Space", "key Space", "key Space"}
-            << QStringList{"dateClicked 2026-04-16", "noEventSelected", "dateClicked 2026-04-15", "noEventSelected",
-                           "eventClicked 7:30 Game", "eventClicked 0:00 Practice", "eventClicked 7:30 Game"}
-            << game << "April 2026";
-        QTest::newRow("down into May")
-            << QStringList{"key Down", "key Down", "key Down"}
-            << QStringList{"dateClicked 2026-04-22", "noEventSelected", "dateClicked 2026-04-29", "noEventSelected",
-                           "dateClicked 2026-05-06", "noEventSelected"}
-            << "Wednesday, May 6, 2026" << "May 2026";
+            << QStringList { "key Right", "key Left", "key Space", "key Space", "key Space" }
+            << "dateClicked 2026-04-16, noEventSelected, dateClicked 2026-04-15, noEventSelected, "
+               "eventClicked 7:30 Game, eventClicked 0:00 Practice, eventClicked 7:30 Game"
+            << game << april;
     }
     void pressesAndKeys()
     {
         QFETCH(QStringList, script);
-        QFETCH(QStringList, heard);
+        QFETCH(QString, heard);
         QFETCH(QString, info);
         QFETCH(QString, title);
         Season season;
@@ -251,8 +241,7 @@ private Q_SLOTS:
                 const Qt::Key key = target == u"Return" ? Qt::Key_Return
                     : target == u"Space"                ? Qt::Key_Space
                     : target == u"Right"                ? Qt::Key_Right
-                    : target == u"Left"                 ? Qt::Key_Left
-                                                        : Qt::Key_Down;
+                                                        : Qt::Key_Left;
                 QTest::keyClick(view, key);
                 continue;
             }
@@ -263,16 +252,13 @@ private Q_SLOTS:
                 QTest::mouseRelease(view, Qt::LeftButton, {}, at);
             }
         }
-        QCOMPARE(*got, heard);
-        QCOMPARE(calendar.title(), title);
-        if (script.contains(QStringLiteral("key Return"))) {
-            // Return closes the window too.
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QVERIFY(!screen);
-            return;
+        QCOMPARE(got->join(QStringLiteral(", ")), heard);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(bool(screen), !title.isEmpty());
+        if (screen) {
+            QCOMPARE(calendar.title(), title);
+            QCOMPARE(screen->infoLabel->text(), info);
         }
-        QCOMPARE(screen->infoLabel->text(), info);
-        QVERIFY(screen->isVisible());
     }
 
     void turningTheMonths()
@@ -281,15 +267,11 @@ private Q_SLOTS:
         auto *screen = openScreen();
         MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
         calendar.ShowDate(QDate(2026, 1, 31));
-        QTest::mouseClick(screen->nextBtn, Qt::LeftButton);
-        QCOMPARE(calendar.dateSelected(), QDate(2026, 2, 28));
-        QCOMPARE(calendar.title(), QStringLiteral("February 2026"));
-        QTest::mouseClick(screen->prevBtn, Qt::LeftButton);
         QTest::mouseClick(screen->prevBtn, Qt::LeftButton);
         QCOMPARE(calendar.title(), QStringLiteral("December 2025"));
-        for (int i = 0; i < 2; ++i)
-            QTest::mouseClick(screen->nextBtn, Qt::LeftButton);
-        QCOMPARE(calendar.title(), QStringLiteral("February 2026"));
+        QTest::mouseClick(screen->nextBtn, Qt::LeftButton);
+        QTest::mouseClick(screen->nextBtn, Qt::LeftButton);
+        QCOMPARE(calendar.dateSelected(), QDate(2026, 2, 28));
         QTest::keyClick(screen->eventCalendar1, Qt::Key_PageUp);
         QCOMPARE(calendar.title(), QStringLiteral("January 2026"));
     }
@@ -309,8 +291,8 @@ private Q_SLOTS:
         const QString pdf = season.fake.printing.printed.first();
         QCOMPARE(fakes::pdfPageCount(pdf), 2);
         const QString text = fakes::pdfText(pdf);
-        for (const char *line : {"Schedule for: O'Brien's Nine", "Printed On: Wednesday, April 15, 2026", "April 2026",
-                                 "7:30 Game", "0:00 Practice", "More (2)...", "Sunday"})
+        for (const char *line : { "Schedule for: O'Brien's Nine", "Printed On: Wednesday, April 15, 2026", "April 2026",
+                 "7:30 Game", "0:00 Practice", "More (2)...", "Sunday" })
             QVERIFY2(text.contains(QString::fromUtf8(line)), line);
 
         // The heading, then the calendar below it, all within the page.

@@ -4,7 +4,9 @@
 #include "fakes/FakePlatform.h"
 #include "schedule/MonthEventsCalendar.h"
 
+#include <QImage>
 #include <QLocale>
+#include <QPainter>
 #include <QTest>
 
 namespace {
@@ -163,6 +165,52 @@ private Q_SLOTS:
         QCOMPARE(shown, records);
     }
 
+    // What a day looks like at the foot of its cell, or on its first bar.
+    void paintedDays_data()
+    {
+        QTest::addColumn<QDate>("shown"); // shown by ShowDate, if valid
+        QTest::addColumn<bool>("selectEvent");
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<bool>("onBar");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("today") << QDate() << false << QDate(2026, 4, 15) << false << QColor(237, 243, 250);
+        QTest::newRow("another day") << QDate() << false << QDate(2026, 4, 16) << false << QColor(Qt::white);
+        QTest::newRow("selection wash") << QDate(2026, 4, 22) << false << QDate(2026, 4, 22) << false
+                                        << QColor(236, 236, 236);
+        // 22 March stood where 26 April stands.
+        QTest::newRow("wash of another month")
+            << QDate(2026, 3, 22) << false << QDate(2026, 4, 26) << false << QColor(Qt::white);
+        QTest::newRow("bar") << QDate() << false << QDate(2026, 4, 15) << true << QColor(237, 243, 250);
+        QTest::newRow("selected bar") << QDate() << true << QDate(2026, 4, 15) << true << QColor(200, 0, 0);
+    }
+    void paintedDays()
+    {
+        QFETCH(QDate, shown);
+        QFETCH(bool, selectEvent);
+        QFETCH(QDate, day);
+        QFETCH(bool, onBar);
+        QFETCH(QColor, colour);
+        MonthEventsCalendar calendar;
+        calendar.setSize(kSize);
+        calendar.addEvent(eventOf(QStringLiteral("2026-04-15T19:30"), 1));
+        calendar.ShowDate(shown);
+        calendar.ShowMonth(2026, 4);
+        if (selectEvent)
+            calendar.selectEvent(QStringLiteral("1"));
+        QImage image(kSize, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        calendar.paint(painter, QFont());
+        painter.end();
+        const QRectF cell = calendar.cellRect(calendar.indexOf(day));
+        // The bar's far end, past its text.
+        const QPointF at = onBar ? cell.topLeft() + QPointF(90, 17) : cell.bottomLeft() + QPointF(5, -5);
+        const QColor got = image.pixelColor(at.toPoint());
+        QVERIFY2(
+            qAbs(got.red() - colour.red()) + qAbs(got.green() - colour.green()) + qAbs(got.blue() - colour.blue()) <= 6,
+            qPrintable(got.name()));
+    }
+
     // The owner's keys: a blank key is the EventID; with two events under
     // one key, the first answers.
     void eventsByKey()
@@ -184,5 +232,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMonthEvents)
+QTEST_MAIN(TestMonthEvents)
 #include "tst_monthevents.moc"

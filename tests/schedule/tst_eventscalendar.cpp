@@ -182,9 +182,6 @@ private Q_SLOTS:
             << QStringList { "dclick more20" }
             << "dateClicked 2026-04-20, moreClicked 2026-04-20, dateClicked 2026-04-20, moreDoubleClicked 2026-04-20"
             << apr20 << april;
-        QTest::newRow("right click on a strip")
-            << QStringList { "right more20" } << "dateClicked 2026-04-20, rightClickOnMore 2026-04-20" << apr20
-            << april;
         QTest::newRow("click on an empty day")
             << QStringList { "click day22" } << "dateClicked 2026-04-22, noEventSelected" << apr22 << april;
         QTest::newRow("double click on an empty day")

@@ -72,35 +72,6 @@ private Q_SLOTS:
         QVERIFY(!calendar.cells()[0].thisMonth);
     }
 
-    void showMonth_data()
-    {
-        QTest::addColumn<QDate>("selected");
-        QTest::addColumn<int>("year");
-        QTest::addColumn<int>("month");
-        QTest::addColumn<QDate>("expected");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("31 January to a leap February")
-            << QDate(2000, 1, 31) << 2000 << 2 << QDate(2000, 2, 29) << "February 2000";
-        QTest::newRow("28 February to March") << QDate(2026, 2, 28) << 2026 << 3 << QDate(2026, 3, 28) << "March 2026";
-        QTest::newRow("year 0") << QDate(2026, 1, 31) << 0 << 5 << QDate(2026, 1, 31) << "January 2026";
-        QTest::newRow("month 0") << QDate(2026, 1, 31) << 2017 << 0 << QDate(2026, 1, 31) << "January 2026";
-    }
-    void showMonth()
-    {
-        QFETCH(QDate, selected);
-        QFETCH(int, year);
-        QFETCH(int, month);
-        QFETCH(QDate, expected);
-        QFETCH(QString, title);
-        MonthCalendar calendar;
-        calendar.ShowDate(selected);
-        calendar.ShowMonth(year, month);
-        QCOMPARE(calendar.dateSelected(), expected);
-        QCOMPARE(calendar.MonthToShow(), expected.month());
-        QCOMPARE(calendar.title(), title);
-        QCOMPARE(calendar.showingStartDate(), QDate(expected.year(), expected.month(), 1));
-    }
-
     // Each record as "MM-DD +offset #event", the offset from the cell's top,
     // or "MM-DD more n" for a strip standing for n events.
     void eventsInCells_data()
@@ -174,7 +145,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("onBar");
         QTest::addColumn<QColor>("colour");
         QTest::newRow("today") << QDate() << false << QDate(2026, 4, 15) << false << QColor(237, 243, 250);
-        QTest::newRow("another day") << QDate() << false << QDate(2026, 4, 16) << false << QColor(Qt::white);
         QTest::newRow("selection wash") << QDate(2026, 4, 22) << false << QDate(2026, 4, 22) << false
                                         << QColor(236, 236, 236);
         // 22 March stood where 26 April stands.

@@ -8,6 +8,8 @@
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
+#include "support/ui/expReporterScrn.h"
+#include "support/ui/updateDlog.h"
 #include "schedule/ui/scheduleScrn.h"
 
 namespace {
@@ -18,6 +20,7 @@ void registerScreens()
     screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
     screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::updateDlog, [] { return new updateDlog; });
 }
 
 } // namespace
@@ -30,6 +33,7 @@ int main(int argc, char *argv[])
     platform::ScopedServices installed(desktop.services());
 
     registerScreens();
+    TallylineApplication::setUnhandledHandler(&expReporterScrn::showFor);
 
     App app;
     if (app.Event_Open() != App::OpenResult::Ok)

@@ -260,18 +260,42 @@ QString frameFromSymbol(const QString &symbol)
     return shortName + QStringLiteral("%%") + codes;
 }
 
+namespace {
+
+QStringList framesOf(void *const *addresses, int count, int skip)
+{
+    QStringList frames;
+    char **symbols = backtrace_symbols(addresses, count);
+    if (!symbols)
+        return frames;
+    for (int i = skip; i < count; ++i)
+        frames.append(frameFromSymbol(QString::fromLocal8Bit(symbols[i])));
+    std::free(symbols);
+    return frames;
+}
+
+// Raw addresses only while throwing: naming them is left for the report.
+thread_local void *t_throwStack[64];
+thread_local int t_throwDepth = 0;
+
+} // namespace
+
 QStringList currentFrames()
 {
     void *addresses[64];
     const int count = backtrace(addresses, 64);
-    char **symbols = backtrace_symbols(addresses, count);
-    QStringList frames;
-    if (!symbols)
-        return frames;
-    for (int i = 1; i < count; ++i)
-        frames.append(frameFromSymbol(QString::fromLocal8Bit(symbols[i])));
-    std::free(symbols);
-    return frames;
+    return framesOf(addresses, count, 1);
+}
+
+void recordThrow()
+{
+    t_throwDepth = backtrace(t_throwStack, 64);
+}
+
+QStringList framesOfLastThrow()
+{
+    // Without this function's caller in the throw trace and recordThrow.
+    return framesOf(t_throwStack, t_throwDepth, 2);
 }
 
 } // namespace StackCleaner

@@ -31,6 +31,13 @@ QString frameFromSymbol(const QString &symbol);
 // function itself.
 QStringList currentFrames();
 
+// Notes the stack of an exception being thrown; called on every throw when
+// the program is linked with the throw trace (support/ThrowTrace.cpp).
+void recordThrow();
+// The stack where the last exception on this thread was thrown, in the
+// frame form; empty when throws aren't traced.
+QStringList framesOfLastThrow();
+
 } // namespace StackCleaner
 
 // The kind of an error, by the name the report gives it, or empty.

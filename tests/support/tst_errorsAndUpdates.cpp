@@ -11,11 +11,12 @@ namespace probe {
 struct Roster
 {
     // Kept out of line so that the frame names this routine.
-    __attribute__((noinline)) QStringList framesFrom(const QString &team, int games);
+    __attribute__((noinline)) void trade(QString &team, int games);
 };
-QStringList Roster::framesFrom(const QString &team, int games)
+void Roster::trade(QString &team, int games)
 {
-    return StackCleaner::currentFrames();
+    if (games > 0)
+        throw std::out_of_range("no such player");
 }
 } // namespace probe
 
@@ -67,12 +68,21 @@ private Q_SLOTS:
         QCOMPARE(StackCleaner::ParseParams(codes), types);
     }
 
-    void ownFramesReadable()
+    void whereAnErrorWasThrown()
     {
         probe::Roster roster;
-        const QStringList lines = StackCleaner::CleanStack(roster.framesFrom(QStringLiteral("x"), 1));
-        QVERIFY2(!lines.isEmpty(), "no frame of this program was read");
-        QVERIFY2(lines.contains(QStringLiteral("Sub Roster.framesFrom( string, int32 )")), qPrintable(lines.join(u'\n')));
+        QString team = QStringLiteral("Hawks");
+        std::exception_ptr error;
+        try {
+            roster.trade(team, 3);
+        } catch (...) {
+            error = std::current_exception();
+        }
+        QCOMPARE(TypeOfException(error), QStringLiteral("OutOfBoundsException"));
+        const QStringList lines = StackCleaner::CleanStack(StackCleaner::framesOfLastThrow());
+        // The routine that threw comes first, named as the report names it.
+        QVERIFY2(!lines.isEmpty() && lines.first() == u"Sub Roster.trade( byref string, int32 )",
+                 qPrintable(lines.join(u'\n')));
     }
 
     void exceptionKinds()

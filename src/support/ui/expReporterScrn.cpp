@@ -4,6 +4,9 @@
 #include "app/globals.h"
 #include "app/ui/Form.h"
 #include "platform/Services.h"
+#include "support/StackCleaner.h"
+
+#include <QApplication>
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -75,6 +78,17 @@ expReporterScrn::expReporterScrn(const QString &text, QWidget *parent) : QDialog
         Q_EMIT quitRequested();
         accept();
     });
+}
+
+void expReporterScrn::showFor(const std::exception_ptr &error)
+{
+    const QString text = reportText(TypeOfException(error), StackCleaner::CleanStack(StackCleaner::framesOfLastThrow()));
+    expReporterScrn report(text, QApplication::activeWindow());
+    bool quit = false;
+    connect(&report, &expReporterScrn::quitRequested, &report, [&quit] { quit = true; });
+    report.exec();
+    if (quit)
+        QCoreApplication::exit(0);
 }
 
 QString expReporterScrn::reportText(const QString &kind, const QStringList &stackLines)

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include <exception>
+
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -17,6 +19,9 @@ public:
     // `text` is "Error: <kind>" and the readable stack, a line each.
     explicit expReporterScrn(const QString &text, QWidget *parent = nullptr);
 
+    // Shows the report of `error` modally; ends the program when the coach
+    // chooses to quit. The program's handler of errors no code caught.
+    static void showFor(const std::exception_ptr &error);
     // The whole report for an error: its kind and its stack's readable lines.
     static QString reportText(const QString &kind, const QStringList &stackLines);
     // The mail that "Report..." sends: to the maker, the version and

@@ -150,8 +150,10 @@ void HtmlText::Render(const QString &html)
     for (const char *tag : {"<ul>", "</ul>", "</lh>", "<dl>", "</dt>", "</dd>"})
         s.replace(QString::fromLatin1(tag), QString(kCR), kAnyCase);
     for (int n = 1; n <= 3; ++n) {
-        for (const QString &tag : {u"<h"_qs + QString::number(n), u"</h"_qs + QString::number(n)})
-            s.replace(tag, kCR + tag, kAnyCase);
+        const QString open = QStringLiteral("<h") + QString::number(n);
+        const QString close = QStringLiteral("</h") + QString::number(n);
+        s.replace(open, kCR + open, kAnyCase);
+        s.replace(close, kCR + close, kAnyCase);
     }
     s = RemoveExcessSpace(s);
     // After the blanks were reduced, so that the bullet keeps its indent.
@@ -200,7 +202,11 @@ void HtmlText::tagLoop(QString &s)
 
         if (name == u"img" || name == u"image") {
             const QString alt = attributes.value(QStringLiteral("alt"));
-            const QString note = alt.isEmpty() ? u"[IMAGE]"_qs : u"[IMAGE: "_qs + alt + u']';
+            QString note = alt.isEmpty() ? u"[IMAGE]"_qs : u"[IMAGE: "_qs + alt + u']';
+            // Brackets in the alt text are text, not the start of a tag
+            // that would move every later offset.
+            note.replace(u'<', kLess);
+            note.replace(u'>', kGreater);
             s.insert(p, note);
             if (attributes.contains(QStringLiteral("src")))
                 links.append(range(p, p + note.size(), attributes.value(QStringLiteral("src"))));

@@ -51,9 +51,11 @@ void HTMLField::DoStyles()
             const QStringList f = entry.split(u'\t');
             if (f.size() < 2)
                 continue;
+            // A page whose tags overlap oddly can name a range past the end.
+            const int last = document()->characterCount() - 1;
             QTextCursor c(document());
-            c.setPosition(f.at(0).toInt());
-            c.setPosition(f.at(1).toInt(), QTextCursor::KeepAnchor);
+            c.setPosition(std::clamp(f.at(0).toInt(), 0, last));
+            c.setPosition(std::clamp(f.at(1).toInt(), 0, last), QTextCursor::KeepAnchor);
             QTextCharFormat format;
             style(format, f.mid(2));
             c.mergeCharFormat(format);

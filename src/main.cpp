@@ -2,25 +2,10 @@
 // start-up order and shows the splash screen.
 
 #include "app/App.h"
-#include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
-#include "people/ui/personnelScrn.h"
-#include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
-#include "schedule/ui/scheduleScrn.h"
-
-namespace {
-
-// Every window the start screen can open, by name.
-void registerScreens()
-{
-    screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
-    screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
-    screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
-}
-
-} // namespace
+#include "Screens.h"
 
 int main(int argc, char *argv[])
 {

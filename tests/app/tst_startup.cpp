@@ -26,6 +26,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
@@ -175,7 +176,10 @@ private Q_SLOTS:
         startScrn1 *start = startScrn1::showStartScreen();
         auto *button = start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"));
         QVERIFY(button->isEnabled());
+        // The program quits when its last window closes: the target shows first.
+        QSignalSpy lastClosed(qApp, &QGuiApplication::lastWindowClosed);
         QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(lastClosed.count(), 0);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(opened && opened->isVisible());
         QVERIFY(startScrn1::instance() == nullptr); // closed after the target showed

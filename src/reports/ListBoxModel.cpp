@@ -331,6 +331,11 @@ QVariant ListBoxModel::data(const QModelIndex &index, int role) const
         return {};
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(columnAlignment(column));
+    case Qt::AccessibleTextRole:
+        // A screen reader says "blank" for an empty cell rather than nothing.
+        if (const QString text = cell(row, column); !text.isEmpty())
+            return text;
+        return QStringLiteral("blank");
     default:
         return {};
     }

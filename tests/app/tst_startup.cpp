@@ -44,6 +44,27 @@ public:
     }
 };
 
+// Asks `question` at the moment the watched window closes.
+class CloseWatch : public QObject
+{
+public:
+    CloseWatch(QWidget *window, std::function<bool()> question) : m_question(std::move(question))
+    {
+        window->installEventFilter(this);
+    }
+    bool closed = false;
+    bool answer = false;
+    bool eventFilter(QObject *, QEvent *e) override
+    {
+        if (e->type() == QEvent::Close && !closed)
+            closed = true, answer = m_question();
+        return false;
+    }
+
+private:
+    std::function<bool()> m_question;
+};
+
 class TestStartup : public QObject
 {
     Q_OBJECT
@@ -175,7 +196,10 @@ private Q_SLOTS:
         startScrn1 *start = startScrn1::showStartScreen();
         auto *button = start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"));
         QVERIFY(button->isEnabled());
+        // The program quits when its last window closes: the target shows first.
+        CloseWatch watch(start, [&opened] { return opened && opened->isVisible(); });
         QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(watch.closed && watch.answer);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(opened && opened->isVisible());
         QVERIFY(startScrn1::instance() == nullptr); // closed after the target showed

@@ -6,14 +6,37 @@
 #include <QDir>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QTest>
 
 namespace fakes {
+
+namespace {
+void failTest(const QString &why)
+{
+    // Outside a test function (a fixture going at the end) it can only warn.
+    if (QTest::currentTestFunction() && !QTest::currentTestFailed())
+        QTest::qFail(qPrintable(why), __FILE__, __LINE__);
+    else
+        qWarning("%s", qPrintable(why));
+}
+} // namespace
+
+FakeMessages::~FakeMessages()
+{
+    if (strict && !answers.isEmpty())
+        failTest(QStringLiteral("%1 scripted answer(s) left unused").arg(answers.size()));
+}
 
 std::uint8_t FakeMessages::showMsgDlog(const QString &message, const QString &explanation,
                                        const QString &actionCaption, const QString &altCaption)
 {
     shown.append({message, explanation, actionCaption, altCaption, false});
-    return answers.isEmpty() ? defaultAnswer : answers.dequeue();
+    if (answers.isEmpty()) {
+        if (strict)
+            failTest(QStringLiteral("unscripted question: ") + message);
+        return defaultAnswer;
+    }
+    return answers.dequeue();
 }
 
 void FakeMessages::msgBox(const QString &text)

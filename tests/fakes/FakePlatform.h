@@ -24,10 +24,16 @@ struct ShownMessage
 class FakeMessages final : public platform::MessageService
 {
 public:
+    // Checks, when strict, that every scripted answer was used.
+    ~FakeMessages() override;
+
     // Answers given to showMsgDlog in order; when the queue is empty the
     // dialog answers `defaultAnswer`.
     QQueue<std::uint8_t> answers;
     std::uint8_t defaultAnswer = platform::MsgAction;
+    // Strict: a question with no scripted answer fails the running test,
+    // and so does an answer still queued when the fake goes.
+    bool strict = false;
     QList<ShownMessage> shown;
 
     std::uint8_t showMsgDlog(const QString &message, const QString &explanation,

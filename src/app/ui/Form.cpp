@@ -1,5 +1,78 @@
 #include "app/ui/Form.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QToolButton>
+
+namespace {
+
+// What assistive tools see of a menu button: a button whose child is its
+// menu, so the menu's entries can be read and chosen without opening it.
+class MenuButtonAccessible : public QAccessibleWidget
+{
+public:
+    explicit MenuButtonAccessible(QToolButton *button) : QAccessibleWidget(button, QAccessible::ButtonMenu) {}
+
+    QToolButton *button() const { return static_cast<QToolButton *>(widget()); }
+    int childCount() const override { return button()->menu() ? 1 : 0; }
+    QAccessibleInterface *child(int index) const override
+    {
+        return index == 0 && button()->menu() ? QAccessible::queryAccessibleInterface(button()->menu()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child && button()->menu() && child->object() == button()->menu() ? 0 : -1;
+    }
+    QStringList actionNames() const override { return {showMenuAction()}; }
+    void doAction(const QString &action) override
+    {
+        // Opening the menu runs its own loop: not inside the tool's call.
+        if (action == showMenuAction() || action == pressAction())
+            QMetaObject::invokeMethod(button(), &QToolButton::showMenu, Qt::QueuedConnection);
+    }
+};
+
+// A value label is read by its value; while it shows none, by what it is.
+class ValueLabelAccessible : public QAccessibleWidget
+{
+public:
+    explicit ValueLabelAccessible(QLabel *label) : QAccessibleWidget(label, QAccessible::StaticText) {}
+
+    QString text(QAccessible::Text t) const override
+    {
+        const auto *label = static_cast<const QLabel *>(widget());
+        if (t == QAccessible::Name)
+            return label->text().isEmpty() ? label->accessibleDescription() : label->text();
+        if (t == QAccessible::Value)
+            return label->text();
+        return QAccessibleWidget::text(t);
+    }
+};
+
+const char *const kMenuButton = "form_menuButton";
+const char *const kValueLabel = "form_valueLabel";
+
+QAccessibleInterface *formAccessible(const QString &, QObject *object)
+{
+    if (object && object->property(kMenuButton).toBool())
+        if (auto *button = qobject_cast<QToolButton *>(object))
+            return new MenuButtonAccessible(button);
+    if (object && object->property(kValueLabel).toBool())
+        if (auto *label = qobject_cast<QLabel *>(object))
+            return new ValueLabelAccessible(label);
+    return nullptr;
+}
+
+void installAccessibleFactory()
+{
+    static const bool installed = (QAccessible::installFactory(formAccessible), true);
+    Q_UNUSED(installed);
+}
+
+} // namespace
+
 namespace form {
 
 QString spokenCaption(const QString &caption)
@@ -34,18 +107,61 @@ QPushButton *button(QWidget *parent, const QString &objectName, const QString &c
                     const QString &accessibleName)
 {
     auto *b = new QPushButton(caption, parent);
-    return named(b, objectName, accessibleName.isEmpty() ? spokenCaption(caption) : accessibleName);
+    b->setObjectName(objectName);
+    // Without a name of its own the button is read by its caption, which
+    // follows the caption when the screen changes it ("Add Team", "Edit Team").
+    if (!accessibleName.isEmpty())
+        b->setAccessibleName(accessibleName);
+    return b;
+}
+
+QLineEdit *lineEdit(QWidget *parent, const QString &objectName, const QString &accessibleName)
+{
+    return make<QLineEdit>(parent, objectName, accessibleName);
 }
 
 QLabel *valueLabel(QWidget *parent, const QString &objectName, const QString &description)
 {
+    installAccessibleFactory();
     auto *label = new QLabel(parent);
     label->setObjectName(objectName);
-    // No fixed accessible name: a QLabel without one is read by its text,
-    // which is the value the coach wants to hear.
+    label->setProperty(kValueLabel, true);
+    // No fixed accessible name: the label is read by its text, which is
+    // the value the coach wants to hear.
     label->setAccessibleDescription(description);
     label->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     return label;
+}
+
+QToolButton *printButton(QWidget *parent, const QStringList &rows, const std::function<void(int)> &print,
+                         const QString &objectName)
+{
+    installAccessibleFactory();
+    auto *button = new QToolButton(parent);
+    button->setProperty(kMenuButton, true);
+    named(button, objectName, QStringLiteral("Print"));
+    button->setText(QStringLiteral("Print"));
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto *menu = new QMenu(button);
+    menu->setObjectName(QStringLiteral("printMenu"));
+    menu->setAccessibleName(QStringLiteral("Print"));
+    for (int kind = 0; kind < rows.size(); ++kind)
+        QObject::connect(menu->addAction(rows[kind]), &QAction::triggered, button, [print, kind] { print(kind); });
+    button->setMenu(menu);
+    return button;
+}
+
+QHBoxLayout *row(std::initializer_list<QWidget *> widgets)
+{
+    auto *layout = new QHBoxLayout;
+    for (QWidget *w : widgets) {
+        if (w)
+            layout->addWidget(w);
+        else
+            layout->addStretch(1);
+    }
+    return layout;
 }
 
 QComboBox *comboBox(QWidget *parent, const QString &objectName, const QString &accessibleName, ComboKind kind)

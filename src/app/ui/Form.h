@@ -2,12 +2,17 @@
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QString>
 
+#include <functional>
 #include <type_traits>
+#include <utility>
+
+class QToolButton;
 
 // Helpers that make a control the way every screen wants it: with its
 // objectName (the name the program's design gives it), an accessible name
@@ -34,6 +39,20 @@ W *named(W *widget, const QString &objectName, const QString &accessibleName)
     return widget;
 }
 
+// Any control made and named in one call; `args` go to its constructor
+// before the parent:
+//
+//     activeCheck = form::make<qlmCheckBox>(central, "activeCheck", "Active", u"Active"_s);
+//     PlusMinusPlayers = form::make<PlusMinusContainer>(central, "PlusMinusPlayers", "Players",
+//                                                       u"Add player"_s, u"Delete player"_s);
+template<class W, class... Args>
+W *make(QWidget *parent, const QString &objectName, const QString &accessibleName, Args &&...args)
+{
+    return named(new W(std::forward<Args>(args)..., parent), objectName, accessibleName);
+}
+
+QLineEdit *lineEdit(QWidget *parent, const QString &objectName, const QString &accessibleName);
+
 // A label for `field`, with `caption` ("&Team Name:") as its text and the
 // field as its buddy. The field takes the spoken caption as its accessible
 // name unless it has one.
@@ -47,6 +66,15 @@ QPushButton *button(QWidget *parent, const QString &objectName, const QString &c
 // A label that shows a value (a team name, an age). Screen readers read
 // its text; `description` says what the value is.
 QLabel *valueLabel(QWidget *parent, const QString &objectName, const QString &description);
+
+// The "Print" button beside a list: a menu button whose entries are `rows`;
+// choosing row i calls print(i). Assistive tools see the menu and its
+// entries as the button's children and can choose an entry there.
+QToolButton *printButton(QWidget *parent, const QStringList &rows, const std::function<void(int)> &print,
+                         const QString &objectName = QStringLiteral("printBtn"));
+
+// A horizontal row of controls; a nullptr stands for a stretch.
+QHBoxLayout *row(std::initializer_list<QWidget *> widgets);
 
 // Fills one QFormLayout, a caption and a control per row.
 //
@@ -84,6 +112,30 @@ public:
 private:
     QWidget *m_parent;
     QFormLayout *m_layout;
+};
+
+// Captioned fields on a QGridLayout: the caption's buddy label in
+// `column`, the field right of it across `span` columns.
+//
+//     form::Grid grid(central, new QGridLayout);
+//     grid.add(0, 0, "&First:", FNameFld = form::lineEdit(central, "FNameFld", "First name"));
+class Grid
+{
+public:
+    Grid(QWidget *parent, QGridLayout *layout) : m_parent(parent), m_layout(layout) {}
+    QGridLayout *layout() const { return m_layout; }
+
+    template<class W>
+    W *add(int row, int column, const QString &caption, W *field, int span = 1)
+    {
+        m_layout->addWidget(buddyLabel(field, caption, m_parent), row, column);
+        m_layout->addWidget(field, row, column + 1, 1, span);
+        return field;
+    }
+
+private:
+    QWidget *m_parent;
+    QGridLayout *m_layout;
 };
 
 // A combo box set up as Rows::comboBox makes it, without a row.

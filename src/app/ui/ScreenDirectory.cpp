@@ -23,6 +23,7 @@ QString screenName(ScreenId id)
     case ScreenId::updateDlog: return QStringLiteral("updateDlog");
     case ScreenId::helpScrn2: return QStringLiteral("helpScrn2");
     case ScreenId::HelpAbbrevScrn: return QStringLiteral("HelpAbbrevScrn");
+    case ScreenId::startScrn1: return QStringLiteral("startScrn1");
     }
     return {};
 }

@@ -24,6 +24,7 @@ enum class ScreenId {
     updateDlog,
     helpScrn2,          // argument: the topic number, or none for the index
     HelpAbbrevScrn,
+    startScrn1,         // the hub; made through startScrn1::showStartScreen()
 };
 
 // The window's objectName: the name the program's design gives it.

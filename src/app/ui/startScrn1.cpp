@@ -3,6 +3,7 @@
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/ui/AboutScrn.h"
+#include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
 
@@ -15,6 +16,8 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 QPointer<startScrn1> g_startScreen;
@@ -57,40 +60,38 @@ void LogoCanvas::paintEvent(QPaintEvent *)
     p.drawImage(target, m_picture);
 }
 
-startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
+startScrn1::startScrn1(QWidget *parent)
+    : ScreenBase(ScreenId::startScrn1, u"Tallyline Baseball"_s, {.backupTimer = false, .returnToStart = false},
+                 parent)
 {
-    setObjectName(QStringLiteral("startScrn1"));
-    setWindowTitle(QStringLiteral("Tallyline Baseball"));
-    setAttribute(Qt::WA_DeleteOnClose);
     g_startScreen = this;
-
-    m_menuBar = new MainMenuBar(this);
-    setMenuBar(m_menuBar);
-
     auto *central = new QWidget(this);
-    auto *outer = new QHBoxLayout(central);
+    setCentralWidget(central);
 
-    auto *left = new QVBoxLayout;
     LogoHolder = new LogoCanvas(central);
-    teamNameLabel = new QLabel(central);
-    teamNameLabel->setObjectName(QStringLiteral("teamNameLabel"));
-    teamNameLabel->setAccessibleName(QStringLiteral("Home team"));
+    teamNameLabel = form::valueLabel(central, u"teamNameLabel"_s, u"Home team"_s);
     QFont nameFont = teamNameLabel->font();
     nameFont.setPointSize(nameFont.pointSize() + 4);
     nameFont.setBold(true);
     teamNameLabel->setFont(nameFont);
     teamNameLabel->setWordWrap(true);
     teamNameLabel->setAlignment(Qt::AlignCenter);
+    teamNameLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    SelectSeasonPop = form::comboBox(central, u"SelectSeasonPop"_s, u"Season"_s);
+    QLabel *seasonLabel = form::buddyLabel(SelectSeasonPop, u"&Season:"_s, central);
+    seasonLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    helpBtn = form::button(central, u"helpBtn"_s, u"?"_s, u"Help"_s);
+    helpBtn->setToolTip(u"Help for this screen"_s);
+    helpBtn->setFixedWidth(32);
+    helpBtn->setEnabled(screens::has(ScreenId::helpScrn2));
+    connect(helpBtn, &QPushButton::clicked, this, [] {
+        // The start screen's help is the getting-started page.
+        if (QWidget *help = screens::create(ScreenId::helpScrn2, 1))
+            help->show();
+    });
+    auto *left = new QVBoxLayout;
     left->addWidget(LogoHolder, 0, Qt::AlignHCenter);
     left->addWidget(teamNameLabel);
-
-    auto *seasonLabel = new QLabel(QStringLiteral("&Season:"), central);
-    SelectSeasonPop = new QComboBox(central);
-    SelectSeasonPop->setObjectName(QStringLiteral("SelectSeasonPop"));
-    SelectSeasonPop->setAccessibleName(QStringLiteral("Season"));
-    seasonLabel->setBuddy(SelectSeasonPop);
-    teamNameLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    seasonLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     left->addSpacing(12);
     left->addWidget(seasonLabel);
     left->addWidget(SelectSeasonPop);
@@ -102,29 +103,14 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     seasonProblemLabel->hide();
     left->addWidget(seasonProblemLabel);
     left->addStretch(1);
-
-    helpBtn = new QPushButton(QStringLiteral("?"), central);
-    helpBtn->setObjectName(QStringLiteral("helpBtn"));
-    helpBtn->setAccessibleName(QStringLiteral("Help"));
-    helpBtn->setToolTip(QStringLiteral("Help for this screen"));
-    helpBtn->setFixedWidth(32);
-    helpBtn->setEnabled(screens::has(ScreenId::helpScrn2));
-    connect(helpBtn, &QPushButton::clicked, this, [] {
-        // The start screen's help is the getting-started page.
-        if (QWidget *help = screens::create(ScreenId::helpScrn2, 1))
-            help->show();
-    });
     left->addWidget(helpBtn, 0, Qt::AlignLeft);
-    outer->addLayout(left);
 
-    auto *right = new QVBoxLayout;
-    auto *title = new QLabel(QStringLiteral("Tallyline Baseball"), central);
-    title->setObjectName(QStringLiteral("titleLabel"));
+    auto *title = new QLabel(u"Tallyline Baseball"_s, central);
+    title->setObjectName(u"titleLabel"_s);
     QFont titleFont = title->font();
     titleFont.setPointSize(titleFont.pointSize() + 8);
     titleFont.setBold(true);
     title->setFont(titleFont);
-    right->addWidget(title);
     auto *grid = new QGridLayout;
     grid->setSpacing(8);
     const struct
@@ -146,21 +132,28 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     };
     int i = 0;
     for (const auto &b : buttons) {
-        QPushButton *button = addTargetButton(QString::fromLatin1(b.name), QString::fromLatin1(b.caption), b.target);
-        grid->addWidget(button, i / 2, i % 2);
+        grid->addWidget(addTargetButton(QString::fromLatin1(b.name), QString::fromLatin1(b.caption), b.target), i / 2,
+                        i % 2);
         ++i;
     }
+    auto *right = new QVBoxLayout;
+    right->addWidget(title);
     right->addLayout(grid);
     right->addStretch(1);
+    auto *outer = new QHBoxLayout(central);
+    outer->addLayout(left);
     outer->addLayout(right, 1);
     outer->setContentsMargins(16, 12, 16, 12);
     outer->setSpacing(20);
-    setCentralWidget(central);
     setMinimumSize(680, 400);
 
     connect(SelectSeasonPop, &QComboBox::currentIndexChanged, this, &startScrn1::seasonChosen);
+    installMenuHandlers();
+}
 
-    m_menuBar->installHandler(QStringLiteral("HelpAbout"), [this] {
+void startScrn1::installMenuHandlers()
+{
+    menus()->installHandler(u"HelpAbout"_s, [this] {
         showAbout();
         return true;
     });
@@ -181,7 +174,7 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
         if (!screens::has(target))
             continue;
         const bool closeStart = m.closeStart;
-        m_menuBar->installHandler(QString::fromLatin1(m.item), [this, target, closeStart] {
+        menus()->installHandler(QString::fromLatin1(m.item), [this, target, closeStart] {
             openTarget(target, closeStart);
             return true;
         });
@@ -207,9 +200,7 @@ startScrn1 *startScrn1::showStartScreen()
 
 QPushButton *startScrn1::addTargetButton(const QString &objectName, const QString &caption, ScreenId target)
 {
-    auto *button = new QPushButton(caption, centralWidget() ? centralWidget() : this);
-    button->setObjectName(objectName);
-    button->setAccessibleName(caption);
+    QPushButton *button = form::button(centralWidget(), objectName, caption);
     button->setMinimumHeight(36);
     // A screen that isn't part of the program yet can't be opened.
     button->setEnabled(screens::has(target));
@@ -246,7 +237,7 @@ void startScrn1::openTarget(ScreenId target, bool closeStart)
 
 void startScrn1::showEvent(QShowEvent *event)
 {
-    QMainWindow::showEvent(event);
+    ScreenBase::showEvent(event);
     if (!m_placed) {
         m_placed = true;
         if (QScreen *screen = this->screen())

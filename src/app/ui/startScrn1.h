@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QImage>
-#include <QMainWindow>
-#include <QPointer>
+#include "app/ui/ScreenBase.h"
 
-#include "app/ui/ScreenId.h"
+#include <QImage>
+#include <QPointer>
 
 class QComboBox;
 class QLabel;
@@ -16,7 +15,7 @@ class LogoCanvas;
 // instance() makes it when none is open, and every screen that closed it
 // brings it back with showStartScreen() when it closes, so the team name,
 // logo and season list are read afresh on every return.
-class startScrn1 : public QMainWindow
+class startScrn1 : public ScreenBase
 {
     Q_OBJECT
 
@@ -39,20 +38,20 @@ public:
     QLabel *seasonProblemLabel = nullptr;
     LogoCanvas *LogoHolder = nullptr;
     QPushButton *helpBtn = nullptr;
-    MainMenuBar *menuBar() const { return m_menuBar; }
+    MainMenuBar *menuBar() const { return menus(); }
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
     QPushButton *addTargetButton(const QString &objectName, const QString &caption, ScreenId target);
+    void installMenuHandlers();
     void openTarget(ScreenId target, bool closeStart);
     void seasonChosen(int row);
     // Screens that write into the season can't open while none is open.
     void showSeasonState();
     void showAbout();
 
-    MainMenuBar *m_menuBar = nullptr;
     bool m_fillingPopup = false;
     bool m_placed = false;
     QList<std::pair<QPushButton *, ScreenId>> m_targets;

@@ -28,6 +28,7 @@ HelpAbbrevScrn::HelpAbbrevScrn(QWidget *parent)
     layout->addWidget(searchFld);
     termsLB = form::named(new qlmListBox(central), QStringLiteral("termsLB"), QStringLiteral("Abbreviations"));
     termsLB->setColumnCount(2);
+    termsLB->setHeadings({QStringLiteral("Term"), QStringLiteral("Meaning")});
     termsLB->setHeadingsVisible(false);
     termsLB->setColumnWidths(QStringLiteral("27%,73%"));
     for (const auto &[term, meaning] : help::abbreviationRows())

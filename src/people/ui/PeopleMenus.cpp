@@ -51,19 +51,3 @@ void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std:
         });
     }
 }
-
-QToolButton *makePrintButton(QWidget *parent, const QStringList &rows, const std::function<void(int)> &print)
-{
-    auto *button = new QToolButton(parent);
-    button->setObjectName(QStringLiteral("printBtn"));
-    button->setText(QStringLiteral("Print"));
-    button->setAccessibleName(QStringLiteral("Print"));
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setPopupMode(QToolButton::InstantPopup);
-    auto *menu = new QMenu(button);
-    menu->setObjectName(QStringLiteral("printMenu"));
-    for (int kind = 0; kind < rows.size(); ++kind)
-        QObject::connect(menu->addAction(rows[kind]), &QAction::triggered, button, [print, kind] { print(kind); });
-    button->setMenu(menu);
-    return button;
-}

@@ -6,7 +6,6 @@
 #include <functional>
 
 class MainMenuBar;
-class QToolButton;
 class QWidget;
 
 // The menu items the team and personnel screens share: printing the list,
@@ -14,7 +13,3 @@ class QWidget;
 // windows are part of the program (disabled until they are).
 void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std::function<void()> &printList,
                         int helpTopic);
-
-// The "Print" button beside a list, whose popup offers `rows`; choosing row
-// i calls print(i).
-QToolButton *makePrintButton(QWidget *parent, const QStringList &rows, const std::function<void(int)> &print);

@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/myPrefs.h"
+#include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/startScrn1.h"
 #include "people/PeopleText.h"
@@ -28,6 +29,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
 using people::MemberKind;
 using people::MemberRecord;
 
@@ -36,21 +38,6 @@ namespace {
 const QString kAddMember = QStringLiteral("Add Team Member");
 const QString kEditMember = QStringLiteral("Edit Team Member");
 const QString kTradeTo = QStringLiteral("Trade To...");
-
-QLineEdit *lineEdit(QWidget *parent, const char *name, const QString &accessible)
-{
-    auto *field = new QLineEdit(parent);
-    field->setObjectName(QString::fromLatin1(name));
-    field->setAccessibleName(accessible);
-    return field;
-}
-
-QLabel *buddyLabel(const QString &caption, QWidget *buddy, QWidget *parent)
-{
-    auto *label = new QLabel(caption, parent);
-    label->setBuddy(buddy);
-    return label;
-}
 
 // Runs `body` with the screen's own filling flag up, so that the lists'
 // and fields' signals it causes are neither selections nor edits.
@@ -84,171 +71,85 @@ void personnelScrn::buildControls()
     auto *central = new QWidget(this);
     auto *outer = new QVBoxLayout(central);
 
-    // Mode and team ---------------------------------------------------------
-    auto *top = new QHBoxLayout;
-    SelectPlayer = new QRadioButton(QStringLiteral("&Players"), central);
-    SelectPlayer->setObjectName(QStringLiteral("SelectPlayer"));
-    SelectCoach = new QRadioButton(QStringLiteral("C&oaches"), central);
-    SelectCoach->setObjectName(QStringLiteral("SelectCoach"));
+    // Mode and team
+    SelectPlayer = form::make<QRadioButton>(central, u"SelectPlayer"_s, u"Players"_s, u"&Players"_s);
+    SelectCoach = form::make<QRadioButton>(central, u"SelectCoach"_s, u"Coaches"_s, u"C&oaches"_s);
     SelectPlayer->setChecked(true);
-    selectTeamPop = new QComboBox(central);
-    selectTeamPop->setObjectName(QStringLiteral("selectTeamPop"));
-    selectTeamPop->setAccessibleName(QStringLiteral("Team"));
+    selectTeamPop = form::comboBox(central, u"selectTeamPop"_s, u"Team"_s);
     selectTeamPop->setMinimumContentsLength(18);
     selectTeamPop->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    teamIDFld = new QLabel(central);
-    teamIDFld->setObjectName(QStringLiteral("teamIDFld"));
-    teamIDFld->setAccessibleName(QStringLiteral("Team number"));
-    teamIDFld->setToolTip(QStringLiteral("The team's number in this season"));
-    top->addWidget(SelectPlayer);
-    top->addWidget(SelectCoach);
-    top->addSpacing(24);
-    top->addWidget(buddyLabel(QStringLiteral("&Team:"), selectTeamPop, central));
-    top->addWidget(selectTeamPop);
-    top->addWidget(teamIDFld);
-    top->addStretch(1);
-    outer->addLayout(top);
-
+    teamIDFld = form::valueLabel(central, u"teamIDFld"_s, u"Team number"_s);
+    teamIDFld->setToolTip(u"The team's number in this season"_s);
+    outer->addLayout(form::row({SelectPlayer, SelectCoach, form::buddyLabel(selectTeamPop, u"&Team:"_s, central),
+                                selectTeamPop, teamIDFld, nullptr}));
     auto *body = new QHBoxLayout;
     outer->addLayout(body, 1);
 
-    // The lists ---------------------------------------------------------------
-    auto *left = new QVBoxLayout;
-    playersList = new qlmListBox(central);
-    playersList->setObjectName(QStringLiteral("playersList"));
-    playersList->setAccessibleName(QStringLiteral("Players"));
-    playersList->setColumnCount(3);
-    playersList->setHeadings({QStringLiteral("First"), QStringLiteral("Last"), QStringLiteral("Pos")});
-    playersList->setColumnWidths(QStringLiteral("*,*,48"));
-    coachesList = new qlmListBox(central);
-    coachesList->setObjectName(QStringLiteral("coachesList"));
-    coachesList->setAccessibleName(QStringLiteral("Coaches"));
-    coachesList->setColumnCount(2);
-    coachesList->setHeadings({QStringLiteral("First"), QStringLiteral("Last")});
-    coachesList->setColumnWidths(QStringLiteral("*,*"));
+    // The lists
+    playersList = qlmListBox::make(central, u"playersList"_s, u"Players"_s, {u"First"_s, u"Last"_s, u"Pos"_s},
+                                   u"*,*,48"_s);
+    coachesList = qlmListBox::make(central, u"coachesList"_s, u"Coaches"_s, {u"First"_s, u"Last"_s}, u"*,*"_s);
     coachesList->setMaximumHeight(150);
-    PlusMinusPlayers = new PlusMinusContainer(central);
-    PlusMinusPlayers->setObjectName(QStringLiteral("PlusMinusPlayers"));
-    PlusMinusPlayers->setAccessibleName(QStringLiteral("New or remove player"));
-    PlusMinusPlayers->setHalfNames(QStringLiteral("New player"), QStringLiteral("Remove the selected player"));
-    PlusMinusCoaches = new PlusMinusContainer(central);
-    PlusMinusCoaches->setObjectName(QStringLiteral("PlusMinusCoaches"));
-    PlusMinusCoaches->setAccessibleName(QStringLiteral("New or remove coach"));
-    PlusMinusCoaches->setHalfNames(QStringLiteral("New coach"), QStringLiteral("Remove the selected coach"));
-
-    printBtn = makePrintButton(central,
-                               {QStringLiteral("Player List"), QStringLiteral("Single Player Data"),
-                                QStringLiteral("All Players' Data")},
-                               [this](int kind) { hndlPrint(kind); });
-
-    left->addWidget(buddyLabel(QStringLiteral("Pla&yers:"), playersList, central));
+    PlusMinusPlayers = form::make<PlusMinusContainer>(central, u"PlusMinusPlayers"_s, u"Players"_s,
+                                                      u"Add player"_s, u"Delete player"_s);
+    PlusMinusCoaches = form::make<PlusMinusContainer>(central, u"PlusMinusCoaches"_s, u"Coaches"_s,
+                                                      u"Add coach"_s, u"Delete coach"_s);
+    printBtn = form::printButton(central, {u"Player List"_s, u"Single Player Data"_s, u"All Players' Data"_s},
+                                 [this](int kind) { hndlPrint(kind); });
+    auto *left = new QVBoxLayout;
+    left->addWidget(form::buddyLabel(playersList, u"Pla&yers:"_s, central));
     left->addWidget(playersList, 3);
-    auto *playerButtons = new QHBoxLayout;
-    playerButtons->addWidget(PlusMinusPlayers);
-    playerButtons->addStretch(1);
-    playerButtons->addWidget(printBtn);
-    left->addLayout(playerButtons);
-    left->addWidget(buddyLabel(QStringLiteral("Coac&hes:"), coachesList, central));
+    left->addLayout(form::row({PlusMinusPlayers, nullptr, printBtn}));
+    left->addWidget(form::buddyLabel(coachesList, u"Coac&hes:"_s, central));
     left->addWidget(coachesList, 1);
     left->addWidget(PlusMinusCoaches);
     body->addLayout(left, 2);
 
-    // The member ----------------------------------------------------------------
-    auto *right = new QVBoxLayout;
-    auto *upper = new QHBoxLayout;
-    auto *grid = new QGridLayout;
-    FNameFld = lineEdit(central, "FNameFld", QStringLiteral("First name"));
-    LNameFld = lineEdit(central, "LNameFld", QStringLiteral("Last name"));
-    addr1Fld = lineEdit(central, "addr1Fld", QStringLiteral("Address"));
-    addr2Fld = lineEdit(central, "addr2Fld", QStringLiteral("Address, second line"));
-    cityFld = lineEdit(central, "cityFld", QStringLiteral("City"));
-    zipFld = lineEdit(central, "zipFld", QStringLiteral("Zip"));
-    StatePop = new QComboBox(central);
-    StatePop->setObjectName(QStringLiteral("StatePop"));
-    StatePop->setAccessibleName(QStringLiteral("State"));
+    // The member
+    form::Grid grid(central, new QGridLayout);
+    FNameFld = grid.add(0, 0, u"&First:"_s, form::lineEdit(central, u"FNameFld"_s, u"First name"_s));
+    LNameFld = grid.add(0, 2, u"&Last:"_s, form::lineEdit(central, u"LNameFld"_s, u"Last name"_s), 3);
+    addr1Fld = grid.add(1, 0, u"&Address:"_s, form::lineEdit(central, u"addr1Fld"_s, u"Address"_s), 5);
+    addr2Fld = grid.add(2, 0, u"Address &2:"_s, form::lineEdit(central, u"addr2Fld"_s, u"Address, second line"_s), 5);
+    cityFld = grid.add(3, 0, u"C&ity:"_s, form::lineEdit(central, u"cityFld"_s, u"City"_s));
+    StatePop = grid.add(3, 2, u"&State:"_s, form::comboBox(central, u"StatePop"_s, u"State"_s));
     StatePop->addItem(QString());
     StatePop->addItems(gStateList);
-    const QString phoneNames[2] = {QStringLiteral("Phone"), QStringLiteral("Cell phone")};
-    for (int i = 0; i < 2; ++i) {
-        newPhoneFld[i] = new iPhoneField(central);
-        newPhoneFld[i]->setObjectName(QStringLiteral("newPhoneFld_%1").arg(i));
-        newPhoneFld[i]->setAccessibleName(phoneNames[i]);
-    }
-    emailFld = lineEdit(central, "emailFld", QStringLiteral("E-mail"));
-    activeCheck = new qlmCheckBox(QStringLiteral("Active"), central);
-    activeCheck->setObjectName(QStringLiteral("activeCheck"));
-    activeCheck->setAccessibleName(QStringLiteral("Active"));
-    asstCheck = new qlmCheckBox(QStringLiteral("Assistant"), central);
-    asstCheck->setObjectName(QStringLiteral("asstCheck"));
-    asstCheck->setAccessibleName(QStringLiteral("Assistant coach"));
+    zipFld = grid.add(3, 4, u"&Zip:"_s, form::lineEdit(central, u"zipFld"_s, u"Zip"_s));
+    newPhoneFld[0] = grid.add(4, 0, u"P&hone:"_s, form::make<iPhoneField>(central, u"newPhoneFld_0"_s, u"Phone"_s));
+    newPhoneFld[1] =
+        grid.add(4, 2, u"Ce&ll:"_s, form::make<iPhoneField>(central, u"newPhoneFld_1"_s, u"Cell phone"_s), 3);
+    emailFld = grid.add(5, 0, u"&E-mail:"_s, form::lineEdit(central, u"emailFld"_s, u"E-mail"_s), 5);
+    activeCheck = form::make<qlmCheckBox>(central, u"activeCheck"_s, u"Active"_s, u"Active"_s);
+    asstCheck = form::make<qlmCheckBox>(central, u"asstCheck"_s, u"Assistant"_s, u"Assistant"_s);
+    grid.layout()->addLayout(form::row({activeCheck, asstCheck, nullptr}), 6, 1, 1, 5);
+    for (int column : {1, 3, 5})
+        grid.layout()->setColumnStretch(column, column == 1 ? 2 : 1);
 
-    grid->addWidget(buddyLabel(QStringLiteral("&First:"), FNameFld, central), 0, 0);
-    grid->addWidget(FNameFld, 0, 1);
-    grid->addWidget(buddyLabel(QStringLiteral("&Last:"), LNameFld, central), 0, 2);
-    grid->addWidget(LNameFld, 0, 3, 1, 3);
-    grid->addWidget(buddyLabel(QStringLiteral("&Address:"), addr1Fld, central), 1, 0);
-    grid->addWidget(addr1Fld, 1, 1, 1, 5);
-    grid->addWidget(buddyLabel(QStringLiteral("Address &2:"), addr2Fld, central), 2, 0);
-    grid->addWidget(addr2Fld, 2, 1, 1, 5);
-    grid->addWidget(buddyLabel(QStringLiteral("C&ity:"), cityFld, central), 3, 0);
-    grid->addWidget(cityFld, 3, 1);
-    grid->addWidget(buddyLabel(QStringLiteral("&State:"), StatePop, central), 3, 2);
-    grid->addWidget(StatePop, 3, 3);
-    grid->addWidget(buddyLabel(QStringLiteral("&Zip:"), zipFld, central), 3, 4);
-    grid->addWidget(zipFld, 3, 5);
-    grid->addWidget(buddyLabel(QStringLiteral("P&hone:"), newPhoneFld[0], central), 4, 0);
-    grid->addWidget(newPhoneFld[0], 4, 1);
-    grid->addWidget(buddyLabel(QStringLiteral("Ce&ll:"), newPhoneFld[1], central), 4, 2);
-    grid->addWidget(newPhoneFld[1], 4, 3, 1, 3);
-    grid->addWidget(buddyLabel(QStringLiteral("&E-mail:"), emailFld, central), 5, 0);
-    grid->addWidget(emailFld, 5, 1, 1, 5);
-    auto *checks = new QHBoxLayout;
-    checks->addWidget(activeCheck);
-    checks->addSpacing(16);
-    checks->addWidget(asstCheck);
-    checks->addStretch(1);
-    grid->addLayout(checks, 6, 1, 1, 5);
-    grid->setColumnStretch(1, 2);
-    grid->setColumnStretch(3, 1);
-    grid->setColumnStretch(5, 1);
-    upper->addLayout(grid, 1);
-
-    auto *photoSide = new QVBoxLayout;
-    indivPicCnv = new PictureCanvas(people::genericPicture(), central);
-    indivPicCnv->setObjectName(QStringLiteral("indivPicCnv"));
-    indivPicCnv->setAccessibleName(QStringLiteral("Photo"));
-    indivPicCnv->setToolTip(QStringLiteral("Drop a photo here, or add one with +"));
+    indivPicCnv = form::make<PictureCanvas>(central, u"indivPicCnv"_s, u"Photo"_s, people::genericPicture());
+    indivPicCnv->setToolTip(u"Drop a photo here, or add one with +"_s);
     indivPicCnv->setFixedSize(129, 150);
-    PlusMinusIndivPic = new PlusMinusContainer(central);
-    PlusMinusIndivPic->setObjectName(QStringLiteral("PlusMinusIndivPic"));
-    PlusMinusIndivPic->setAccessibleName(QStringLiteral("Add or remove the photo"));
-    PlusMinusIndivPic->setHalfNames(QStringLiteral("Add a photo"), QStringLiteral("Remove the photo"));
+    PlusMinusIndivPic = form::make<PlusMinusContainer>(central, u"PlusMinusIndivPic"_s, u"Photo"_s, u"Add photo"_s,
+                                                       u"Delete photo"_s);
+    auto *photoSide = new QVBoxLayout;
     photoSide->addWidget(indivPicCnv);
     photoSide->addWidget(PlusMinusIndivPic, 0, Qt::AlignHCenter);
     photoSide->addStretch(1);
+    auto *upper = new QHBoxLayout;
+    upper->addLayout(grid.layout(), 1);
     upper->addLayout(photoSide);
-    right->addLayout(upper);
 
     myPlayerCtr = new playerInfoCtr(central);
-    right->addWidget(myPlayerCtr, 1);
-
-    auto *buttons = new QHBoxLayout;
-    tradeToPop = new QComboBox(central);
-    tradeToPop->setObjectName(QStringLiteral("tradeToPop"));
-    tradeToPop->setAccessibleName(QStringLiteral("Trade to team"));
-    tradeToPop->setToolTip(QStringLiteral("Choose a team, then save, to move this member there"));
-    actionBtn = new QPushButton(kAddMember, central);
-    actionBtn->setObjectName(QStringLiteral("actionBtn"));
+    tradeToPop = form::comboBox(central, u"tradeToPop"_s, u"Trade to team"_s);
+    tradeToPop->setToolTip(u"Choose a team, then save, to move this member there"_s);
+    actionBtn = form::button(central, u"actionBtn"_s, kAddMember);
     actionBtn->setDefault(true);
-    closeBtn = new QPushButton(QStringLiteral("Close"), central);
-    closeBtn->setObjectName(QStringLiteral("closeBtn"));
-    buttons->addWidget(tradeToPop);
-    buttons->addStretch(1);
-    buttons->addWidget(closeBtn);
-    buttons->addWidget(actionBtn);
-    right->addLayout(buttons);
+    closeBtn = form::button(central, u"closeBtn"_s, u"Close"_s);
+    auto *right = new QVBoxLayout;
+    right->addLayout(upper);
+    right->addWidget(myPlayerCtr, 1);
+    right->addLayout(form::row({tradeToPop, nullptr, closeBtn, actionBtn}));
     body->addLayout(right, 5);
-
     setCentralWidget(central);
     resize(980, 600);
 

@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/myPrefs.h"
+#include "app/ui/Form.h"
 #include "people/PeopleText.h"
 #include "platform/Services.h"
 #include "support/ui/iPhoneField.h"
@@ -16,37 +17,15 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-QLineEdit *lineEdit(QWidget *parent, const char *name, const QString &accessible)
-{
-    auto *field = new QLineEdit(parent);
-    field->setObjectName(QString::fromLatin1(name));
-    field->setAccessibleName(accessible);
-    return field;
-}
-
-QComboBox *popup(QWidget *parent, const QString &name, const QString &accessible, const QStringList &rows)
-{
-    auto *box = new QComboBox(parent);
-    box->setObjectName(name);
-    box->setAccessibleName(accessible);
-    box->addItems(rows);
-    return box;
-}
 
 // Selects the row with that text; a text the popup doesn't hold selects
 // its first row.
 void selectText(QComboBox *box, const QString &text)
 {
     box->setCurrentIndex(std::max(0, box->findText(text, Qt::MatchExactly)));
-}
-
-QLabel *buddyLabel(const QString &caption, QWidget *buddy, QWidget *parent)
-{
-    auto *label = new QLabel(caption, parent);
-    label->setBuddy(buddy);
-    return label;
 }
 
 } // namespace
@@ -61,85 +40,59 @@ playerInfoCtr::playerInfoCtr(QWidget *parent) : QWidget(parent)
     infoTabs->setAccessibleName(QStringLiteral("Player information"));
     outer->addWidget(infoTabs);
 
-    // Playing data ------------------------------------------------------------
+    // Playing data
     auto *playing = new QWidget(infoTabs);
-    auto *grid = new QGridLayout(playing);
-    UNumFld = lineEdit(playing, "UNumFld", QStringLiteral("Uniform number"));
+    form::Grid grid(playing, new QGridLayout(playing));
+    UNumFld = grid.add(0, 0, u"&Uniform #:"_s, form::lineEdit(playing, u"UNumFld"_s, u"Uniform number"_s));
     UNumFld->setMaxLength(4);
+    StudentIDFld = grid.add(0, 2, u"Student &ID:"_s, form::lineEdit(playing, u"StudentIDFld"_s, u"Student ID"_s));
     for (int i = 0; i < 3; ++i)
-        PositionPop[i] = popup(playing, QStringLiteral("PositionPop_%1").arg(i),
-                               QStringLiteral("Position %1").arg(i + 1), {});
-    batPop = popup(playing, QStringLiteral("batPop"), QStringLiteral("Bats"),
-                   {QStringLiteral("Right"), QStringLiteral("Left"), QStringLiteral("Switch")});
-    throwPop = popup(playing, QStringLiteral("throwPop"), QStringLiteral("Throws"),
-                     {QStringLiteral("Right"), QStringLiteral("Left")});
-    DOBFld = lineEdit(playing, "DOBFld", QStringLiteral("Date of birth, month/day/year"));
+        PositionPop[i] = grid.add(1 + i, 0, u"Pos &%1:"_s.arg(i + 1),
+                                  form::comboBox(playing, u"PositionPop_%1"_s.arg(i), u"Position %1"_s.arg(i + 1)));
+    batPop = grid.add(1, 2, u"&Bats:"_s, form::comboBox(playing, u"batPop"_s, u"Bats"_s));
+    batPop->addItems({u"Right"_s, u"Left"_s, u"Switch"_s});
+    throwPop = grid.add(2, 2, u"&Throws:"_s, form::comboBox(playing, u"throwPop"_s, u"Throws"_s));
+    throwPop->addItems({u"Right"_s, u"Left"_s});
+    DOBFld = form::lineEdit(playing, u"DOBFld"_s, u"Date of birth, month/day/year"_s);
     DOBFld->setInputMask(QString::fromUtf16(people::kDobMask));
-    DOBFld->setToolTip(QStringLiteral("Month/day/year"));
-    ageLabel = new QLabel(playing);
-    ageLabel->setObjectName(QStringLiteral("ageLabel"));
-    ageLabel->setAccessibleName(QStringLiteral("Age"));
-    StudentIDFld = lineEdit(playing, "StudentIDFld", QStringLiteral("Student ID"));
+    DOBFld->setToolTip(u"Month/day/year"_s);
+    ageLabel = form::valueLabel(playing, u"ageLabel"_s, u"Age"_s);
+    grid.layout()->addWidget(form::buddyLabel(DOBFld, u"&DOB:"_s, playing), 3, 2);
+    grid.layout()->addLayout(form::row({DOBFld, ageLabel}), 3, 3);
+    grid.layout()->setColumnStretch(1, 1);
+    grid.layout()->setColumnStretch(3, 1);
+    grid.layout()->setRowStretch(4, 1);
+    infoTabs->addTab(playing, u"Playing"_s);
 
-    grid->addWidget(buddyLabel(QStringLiteral("&Uniform #:"), UNumFld, playing), 0, 0);
-    grid->addWidget(UNumFld, 0, 1);
-    grid->addWidget(buddyLabel(QStringLiteral("Student &ID:"), StudentIDFld, playing), 0, 2);
-    grid->addWidget(StudentIDFld, 0, 3);
-    for (int i = 0; i < 3; ++i) {
-        grid->addWidget(buddyLabel(QStringLiteral("Pos &%1:").arg(i + 1), PositionPop[i], playing), 1 + i, 0);
-        grid->addWidget(PositionPop[i], 1 + i, 1);
-    }
-    grid->addWidget(buddyLabel(QStringLiteral("&Bats:"), batPop, playing), 1, 2);
-    grid->addWidget(batPop, 1, 3);
-    grid->addWidget(buddyLabel(QStringLiteral("&Throws:"), throwPop, playing), 2, 2);
-    grid->addWidget(throwPop, 2, 3);
-    grid->addWidget(buddyLabel(QStringLiteral("&DOB:"), DOBFld, playing), 3, 2);
-    auto *dobRow = new QHBoxLayout;
-    dobRow->addWidget(DOBFld);
-    dobRow->addWidget(ageLabel);
-    grid->addLayout(dobRow, 3, 3);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(3, 1);
-    grid->setRowStretch(4, 1);
-    infoTabs->addTab(playing, QStringLiteral("Playing"));
-
-    // People to call ------------------------------------------------------------
+    // People to call
     auto *contacts = new QWidget(infoTabs);
-    auto *cgrid = new QGridLayout(contacts);
-    guardianFld = lineEdit(contacts, "guardianFld", QStringLiteral("Guardian"));
-    emergFld = lineEdit(contacts, "emergFld", QStringLiteral("Emergency contact"));
-    doctorFld = lineEdit(contacts, "doctorFld", QStringLiteral("Doctor"));
-    QLineEdit *names[3] = {guardianFld, emergFld, doctorFld};
-    const QString captions[3] = {QStringLiteral("&Guardian:"), QStringLiteral("&Emergency:"),
-                                 QStringLiteral("D&octor:")};
-    const QString phoneNames[3] = {QStringLiteral("Guardian's phone"), QStringLiteral("Emergency contact's phone"),
-                                   QStringLiteral("Doctor's phone")};
+    form::Grid cgrid(contacts, new QGridLayout(contacts));
+    const struct
+    {
+        QLineEdit *&field;
+        QString name, caption, spoken;
+    } callers[] = {{guardianFld, u"guardianFld"_s, u"&Guardian:"_s, u"Guardian"_s},
+                  {emergFld, u"emergFld"_s, u"&Emergency:"_s, u"Emergency contact"_s},
+                  {doctorFld, u"doctorFld"_s, u"D&octor:"_s, u"Doctor"_s}};
     for (int i = 0; i < 3; ++i) {
-        contactPhone[i] = new iPhoneField(contacts);
-        contactPhone[i]->setObjectName(QStringLiteral("contactPhone_%1").arg(i));
-        contactPhone[i]->setAccessibleName(phoneNames[i]);
-        cgrid->addWidget(buddyLabel(captions[i], names[i], contacts), i, 0);
-        cgrid->addWidget(names[i], i, 1);
-        cgrid->addWidget(buddyLabel(QStringLiteral("Phone &%1:").arg(i + 1), contactPhone[i], contacts), i, 2);
-        cgrid->addWidget(contactPhone[i], i, 3);
+        callers[i].field = cgrid.add(i, 0, callers[i].caption, form::lineEdit(contacts, callers[i].name, callers[i].spoken));
+        contactPhone[i] = cgrid.add(i, 2, u"Phone &%1:"_s.arg(i + 1),
+                                    form::make<iPhoneField>(contacts, u"contactPhone_%1"_s.arg(i),
+                                                            callers[i].spoken + u"'s phone"_s));
     }
-    cgrid->setColumnStretch(1, 2);
-    cgrid->setColumnStretch(3, 1);
-    cgrid->setRowStretch(3, 1);
-    infoTabs->addTab(contacts, QStringLiteral("Contacts"));
+    cgrid.layout()->setColumnStretch(1, 2);
+    cgrid.layout()->setColumnStretch(3, 1);
+    cgrid.layout()->setRowStretch(3, 1);
+    infoTabs->addTab(contacts, u"Contacts"_s);
 
-    // Medical and notes -----------------------------------------------------------
+    // Medical and notes
     auto *notes = new QWidget(infoTabs);
-    auto *nform = new QFormLayout(notes);
-    medicalFld = lineEdit(notes, "medicalFld", QStringLiteral("Medical information"));
-    plNotesFld = new QPlainTextEdit(notes);
-    plNotesFld->setObjectName(QStringLiteral("plNotesFld"));
-    plNotesFld->setAccessibleName(QStringLiteral("Player notes"));
+    form::Rows nrows(notes, new QFormLayout(notes));
+    medicalFld = nrows.add(u"medicalFld"_s, u"&Medical:"_s, new QLineEdit(notes));
+    plNotesFld = nrows.add(u"plNotesFld"_s, u"&Notes:"_s, new QPlainTextEdit(notes));
     // Tab leaves the notes, as in every other field.
     plNotesFld->setTabChangesFocus(true);
-    nform->addRow(buddyLabel(QStringLiteral("&Medical:"), medicalFld, notes), medicalFld);
-    nform->addRow(buddyLabel(QStringLiteral("&Notes:"), plNotesFld, notes), plNotesFld);
-    infoTabs->addTab(notes, QStringLiteral("Medical && Notes"));
+    infoTabs->addTab(notes, u"Medical && Notes"_s);
 
     fillPositionPop();
 

@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/myPrefs.h"
+#include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/startScrn1.h"
 #include "people/Pictures.h"
@@ -26,6 +27,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString kAddTeam = QStringLiteral("Add Team");
@@ -36,28 +39,6 @@ QImage placeholderLogo()
 {
     static const QImage picture(QStringLiteral(":/app/logo_placeholder.png"));
     return picture;
-}
-
-QLineEdit *lineEdit(QWidget *parent, const char *name, const QString &accessible)
-{
-    auto *field = new QLineEdit(parent);
-    field->setObjectName(QString::fromLatin1(name));
-    field->setAccessibleName(accessible);
-    return field;
-}
-
-QComboBox *offeredCombo(QWidget *parent, const char *name, const QString &accessible)
-{
-    auto *box = new QComboBox(parent);
-    box->setObjectName(QString::fromLatin1(name));
-    box->setAccessibleName(accessible);
-    box->setEditable(true);
-    // The offered values are suggestions: what is typed stays as typed and
-    // only a save adds it to the list.
-    box->setInsertPolicy(QComboBox::NoInsert);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(14);
-    return box;
 }
 
 void setComboText(QComboBox *box, const QString &text)
@@ -88,163 +69,85 @@ void teamScrn::buildControls()
     auto *central = new QWidget(this);
     auto *outer = new QHBoxLayout(central);
 
-    // The list of teams -----------------------------------------------------
-    auto *left = new QVBoxLayout;
-    ListTitle = new qlmLabel(QStringLiteral("The Team List"), central);
-    ListTitle->setObjectName(QStringLiteral("ListTitle"));
-    teamList = new qlmListBox(central);
-    teamList->setObjectName(QStringLiteral("teamList"));
-    teamList->setAccessibleName(QStringLiteral("The Team List"));
-    teamList->setColumnCount(3);
-    teamList->setHeadings({QStringLiteral("School"), QStringLiteral("Team"), QStringLiteral("Home")});
-    teamList->setColumnWidths(QStringLiteral("*,*,48"));
+    // The list of teams
+    teamList = qlmListBox::make(central, u"teamList"_s, u"The Team List"_s, {u"School"_s, u"Team"_s, u"Home"_s},
+                                u"*,*,48"_s);
     teamList->setColumnAlignment(kHomeColumn, Qt::AlignCenter);
     teamList->setMinimumWidth(320);
+    ListTitle = form::make<qlmLabel>(central, u"ListTitle"_s, {}, u"The Team List"_s);
     ListTitle->setBuddy(teamList);
-    teamListPlusMInus = new PlusMinusContainer(central);
-    teamListPlusMInus->setObjectName(QStringLiteral("teamListPlusMInus"));
-    teamListPlusMInus->setAccessibleName(QStringLiteral("New or delete team"));
-    teamListPlusMInus->setHalfNames(QStringLiteral("New team"), QStringLiteral("Delete the selected team"));
-
-    printBtn = makePrintButton(central,
-                               {QStringLiteral("Team List"), QStringLiteral("Selected Team's Data"),
-                                QStringLiteral("All Teams' Data")},
-                               [this](int kind) { hndlPrint(kind); });
-
-    auto *listButtons = new QHBoxLayout;
-    listButtons->addWidget(teamListPlusMInus);
-    listButtons->addStretch(1);
-    listButtons->addWidget(printBtn);
+    teamListPlusMInus = form::make<PlusMinusContainer>(central, u"teamListPlusMInus"_s, u"Teams"_s, u"Add team"_s,
+                                                       u"Delete team"_s);
+    printBtn = form::printButton(central, {u"Team List"_s, u"Selected Team's Data"_s, u"All Teams' Data"_s},
+                                 [this](int kind) { hndlPrint(kind); });
+    auto *left = new QVBoxLayout;
     left->addWidget(ListTitle);
     left->addWidget(teamList, 1);
-    left->addLayout(listButtons);
+    left->addLayout(form::row({teamListPlusMInus, nullptr, printBtn}));
     outer->addLayout(left, 1);
 
-    // The selected team -----------------------------------------------------
-    auto *right = new QVBoxLayout;
-    auto *form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    teamFld = lineEdit(central, "teamFld", QStringLiteral("Team name"));
-    schoolFld = lineEdit(central, "schoolFld", QStringLiteral("School"));
-    LeagueFld = offeredCombo(central, "LeagueFld", QStringLiteral("League"));
-    DivisionFld = offeredCombo(central, "DivisionFld", QStringLiteral("Division"));
-    address1Fld = lineEdit(central, "address1Fld", QStringLiteral("Address"));
-    address2Fld = lineEdit(central, "address2Fld", QStringLiteral("Address, second line"));
-    cityFld = lineEdit(central, "cityFld", QStringLiteral("City"));
-    StatePop = new QComboBox(central);
-    StatePop->setObjectName(QStringLiteral("StatePop"));
-    StatePop->setAccessibleName(QStringLiteral("State"));
+    // The selected team
+    auto *fields = new QFormLayout;
+    form::Rows rows(central, fields);
+    teamFld = rows.lineEdit(u"teamFld"_s, u"&Team Name:"_s);
+    schoolFld = rows.lineEdit(u"schoolFld"_s, u"S&chool:"_s);
+    LeagueFld = rows.comboBox(u"LeagueFld"_s, u"&League:"_s, form::Editable);
+    DivisionFld = rows.comboBox(u"DivisionFld"_s, u"&Division:"_s, form::Editable);
+    address1Fld = rows.lineEdit(u"address1Fld"_s, u"&Address:"_s);
+    address2Fld = rows.lineEdit(u"address2Fld"_s, u"Address &2:"_s);
+    cityFld = rows.lineEdit(u"cityFld"_s, u"C&ity:"_s);
+    StatePop = form::comboBox(central, u"StatePop"_s, u"State"_s);
     // A first, empty row: a team outside the states has none.
     StatePop->addItem(QString());
     StatePop->addItems(gStateList);
-    zipFld = lineEdit(central, "zipFld", QStringLiteral("Zip"));
-    phoneFld = new MaskedPhoneField(central);
-    phoneFld->setObjectName(QStringLiteral("phoneFld"));
-    phoneFld->setAccessibleName(QStringLiteral("Phone"));
-    homeFldFld = offeredCombo(central, "homeFldFld", QStringLiteral("Home field"));
+    zipFld = form::lineEdit(central, u"zipFld"_s, u"Zip"_s);
+    auto *stateZip = form::row({StatePop, form::buddyLabel(zipFld, u"&Zip:"_s, central), zipFld});
+    stateZip->setStretch(2, 1);
+    rows.addRow(u"&State:"_s, stateZip, StatePop);
+    phoneFld = rows.add(u"phoneFld"_s, u"&Phone:"_s, new MaskedPhoneField(central));
+    homeFldFld = rows.comboBox(u"homeFldFld"_s, u"&Home Field:"_s, form::Editable);
+    for (QComboBox *box : {LeagueFld, DivisionFld, homeFldFld}) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(14);
+    }
+    activeCheck = form::make<qlmCheckBox>(central, u"activeCheck"_s, u"Active"_s, u"Active"_s);
+    homeTeamBox = form::make<qlmCheckBox>(central, u"homeTeamBox"_s, u"Home Team"_s, u"Home Team"_s);
+    fields->addRow(QString(), form::row({activeCheck, homeTeamBox, nullptr}));
 
-    auto addRow = [&](const QString &caption, QWidget *field) {
-        auto *label = new QLabel(caption, central);
-        label->setBuddy(field);
-        form->addRow(label, field);
-    };
-    addRow(QStringLiteral("&Team Name:"), teamFld);
-    addRow(QStringLiteral("S&chool:"), schoolFld);
-    addRow(QStringLiteral("&League:"), LeagueFld);
-    addRow(QStringLiteral("&Division:"), DivisionFld);
-    addRow(QStringLiteral("&Address:"), address1Fld);
-    addRow(QStringLiteral("Address &2:"), address2Fld);
-    addRow(QStringLiteral("C&ity:"), cityFld);
-    auto *stateZip = new QHBoxLayout;
-    stateZip->addWidget(StatePop);
-    auto *zipLabel = new QLabel(QStringLiteral("&Zip:"), central);
-    zipLabel->setBuddy(zipFld);
-    stateZip->addWidget(zipLabel);
-    stateZip->addWidget(zipFld, 1);
-    auto *stateLabel = new QLabel(QStringLiteral("&State:"), central);
-    stateLabel->setBuddy(StatePop);
-    form->addRow(stateLabel, stateZip);
-    addRow(QStringLiteral("&Phone:"), phoneFld);
-    addRow(QStringLiteral("&Home Field:"), homeFldFld);
-
-    activeCheck = new qlmCheckBox(QStringLiteral("Active"), central);
-    activeCheck->setObjectName(QStringLiteral("activeCheck"));
-    activeCheck->setAccessibleName(QStringLiteral("Active"));
-    homeTeamBox = new qlmCheckBox(QStringLiteral("Home Team"), central);
-    homeTeamBox->setObjectName(QStringLiteral("homeTeamBox"));
-    homeTeamBox->setAccessibleName(QStringLiteral("Make this the home team"));
-    auto *checks = new QHBoxLayout;
-    checks->addWidget(activeCheck);
-    checks->addSpacing(16);
-    checks->addWidget(homeTeamBox);
-    checks->addStretch(1);
-    form->addRow(QString(), checks);
-    right->addLayout(form);
-
-    auto *logoRow = new QHBoxLayout;
-    LogoCvn = new PictureCanvas(placeholderLogo(), central);
-    LogoCvn->setObjectName(QStringLiteral("LogoCvn"));
-    LogoCvn->setAccessibleName(QStringLiteral("Team logo"));
-    LogoCvn->setToolTip(QStringLiteral("Drop a picture here, or add one with +"));
-    PlusMinusTeamLogo = new PlusMinusContainer(central);
-    PlusMinusTeamLogo->setObjectName(QStringLiteral("PlusMinusTeamLogo"));
-    PlusMinusTeamLogo->setAccessibleName(QStringLiteral("Add or remove the logo"));
-    PlusMinusTeamLogo->setHalfNames(QStringLiteral("Add a logo"), QStringLiteral("Remove the logo"));
+    LogoCvn = form::make<PictureCanvas>(central, u"LogoCvn"_s, u"Team logo"_s, placeholderLogo());
+    LogoCvn->setToolTip(u"Drop a picture here, or add one with +"_s);
+    PlusMinusTeamLogo = form::make<PlusMinusContainer>(central, u"PlusMinusTeamLogo"_s, u"Logo"_s, u"Add logo"_s,
+                                                       u"Delete logo"_s);
+    teamIDFld = form::valueLabel(central, u"teamIDFld"_s, u"Team number"_s);
+    teamIDFld->setToolTip(u"The team's number in this season"_s);
     auto *logoSide = new QVBoxLayout;
-    auto *logoLabel = new QLabel(QStringLiteral("Logo:"), central);
-    logoSide->addWidget(logoLabel);
+    logoSide->addWidget(new QLabel(u"Logo:"_s, central));
     logoSide->addWidget(PlusMinusTeamLogo);
     logoSide->addStretch(1);
-    teamIDFld = new QLabel(central);
-    teamIDFld->setObjectName(QStringLiteral("teamIDFld"));
-    teamIDFld->setAccessibleName(QStringLiteral("Team number"));
-    teamIDFld->setToolTip(QStringLiteral("The team's number in this season"));
-    auto *idRow = new QHBoxLayout;
-    auto *idLabel = new QLabel(QStringLiteral("Team ID:"), central);
-    idLabel->setBuddy(teamIDFld);
-    idRow->addWidget(idLabel);
-    idRow->addWidget(teamIDFld);
-    idRow->addStretch(1);
-    logoSide->addLayout(idRow);
+    logoSide->addLayout(form::row({form::buddyLabel(teamIDFld, u"Team ID:"_s, central), teamIDFld, nullptr}));
+    auto *logoRow = new QHBoxLayout;
     logoRow->addLayout(logoSide);
     logoRow->addWidget(LogoCvn);
     logoRow->addStretch(1);
+
+    actionBtn = form::button(central, u"actionBtn"_s, kAddTeam);
+    actionBtn->setDefault(true);
+    cancelBtn = form::button(central, u"cancelBtn"_s, u"Close"_s);
+    auto *right = new QVBoxLayout;
+    right->addLayout(fields);
     right->addLayout(logoRow);
     right->addStretch(1);
-
-    actionBtn = new QPushButton(kAddTeam, central);
-    actionBtn->setObjectName(QStringLiteral("actionBtn"));
-    actionBtn->setDefault(true);
-    cancelBtn = new QPushButton(QStringLiteral("Close"), central);
-    cancelBtn->setObjectName(QStringLiteral("cancelBtn"));
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(cancelBtn);
-    buttons->addWidget(actionBtn);
-    right->addLayout(buttons);
+    right->addLayout(form::row({nullptr, cancelBtn, actionBtn}));
     outer->addLayout(right, 1);
     setCentralWidget(central);
     resize(860, 560);
 
-    // The keyboard order follows the form; the division goes on to the address.
-    QWidget::setTabOrder(teamFld, schoolFld);
-    QWidget::setTabOrder(schoolFld, LeagueFld);
-    QWidget::setTabOrder(LeagueFld, DivisionFld);
-    QWidget::setTabOrder(DivisionFld, address1Fld);
-    QWidget::setTabOrder(address1Fld, address2Fld);
-    QWidget::setTabOrder(address2Fld, cityFld);
-    QWidget::setTabOrder(cityFld, StatePop);
-    QWidget::setTabOrder(StatePop, zipFld);
-    QWidget::setTabOrder(zipFld, phoneFld);
-    QWidget::setTabOrder(phoneFld, homeFldFld);
-    QWidget::setTabOrder(homeFldFld, activeCheck);
-    QWidget::setTabOrder(activeCheck, homeTeamBox);
-    QWidget::setTabOrder(homeTeamBox, PlusMinusTeamLogo);
-    QWidget::setTabOrder(PlusMinusTeamLogo, cancelBtn);
-    QWidget::setTabOrder(cancelBtn, actionBtn);
-    QWidget::setTabOrder(actionBtn, teamList);
-    QWidget::setTabOrder(teamList, teamListPlusMInus);
-    QWidget::setTabOrder(teamListPlusMInus, printBtn);
+    // The keyboard goes through the form first, then to the list.
+    QWidget *order[] = {teamFld, schoolFld, LeagueFld, DivisionFld, address1Fld, address2Fld, cityFld, StatePop,
+                        zipFld, phoneFld, homeFldFld, activeCheck, homeTeamBox, PlusMinusTeamLogo, cancelBtn,
+                        actionBtn, teamList, teamListPlusMInus, printBtn};
+    for (size_t i = 1; i < std::size(order); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 
     connect(teamList, &qlmListBox::rowSelectionChanged, this, &teamScrn::teamList_selectionChanged);
     connect(teamList, &qlmListBox::cellClicked, this, &teamScrn::teamList_CellClick);

@@ -15,6 +15,17 @@
 #include <algorithm>
 #include <cstdlib>
 
+qlmListBox *qlmListBox::make(QWidget *parent, const QString &objectName, const QString &accessibleName,
+                             const QStringList &headings, const QString &columnWidths)
+{
+    auto *list = new qlmListBox(parent);
+    list->setObjectName(objectName);
+    list->setAccessibleName(accessibleName);
+    list->setHeadings(headings);
+    list->setColumnWidths(columnWidths);
+    return list;
+}
+
 qlmListBox::qlmListBox(QWidget *parent) : QTreeView(parent), m_model(new ListBoxModel(this))
 {
     setModel(m_model);

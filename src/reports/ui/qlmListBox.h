@@ -27,6 +27,9 @@ public:
     using CellType = ListBoxModel::CellType;
 
     explicit qlmListBox(QWidget *parent = nullptr);
+    // A list named for assistive tools, with its headings and column widths.
+    static qlmListBox *make(QWidget *parent, const QString &objectName, const QString &accessibleName,
+                            const QStringList &headings, const QString &columnWidths);
 
     ListBoxModel &listModel() { return *m_model; }
     const ListBoxModel &listModel() const { return *m_model; }

@@ -1,5 +1,7 @@
 #include "schedule/ui/Calendar.h"
 
+#include "app/ui/Form.h"
+
 #include "platform/Services.h"
 #include "schedule/CalendarMonth.h"
 
@@ -16,45 +18,34 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 Calendar::Calendar(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("Calendar"));
     setWindowTitle(QStringLiteral("Select a Date"));
     setModal(true);
 
-    auto *outer = new QVBoxLayout(this);
-    auto *header = new QHBoxLayout;
-    PushButton2 = new QPushButton(QStringLiteral("<"), this);
-    PushButton2->setObjectName(QStringLiteral("PushButton2"));
-    PushButton2->setAccessibleName(QStringLiteral("Previous month"));
-    PushButton2->setToolTip(QStringLiteral("Previous month (Page Up)"));
-    PushButton2->setAutoDefault(false);
-    PopupMonth = new QComboBox(this);
-    PopupMonth->setObjectName(QStringLiteral("PopupMonth"));
-    PopupMonth->setAccessibleName(QStringLiteral("Month"));
+    const auto monthButton = [this](const QString &name, const QString &caption, const QString &spoken,
+                                    const QString &key) {
+        QPushButton *button = form::button(this, name, caption, spoken);
+        button->setToolTip(u"%1 (%2)"_s.arg(spoken, key));
+        button->setAutoDefault(false);
+        return button;
+    };
+    PushButton2 = monthButton(u"PushButton2"_s, u"<"_s, u"Previous month"_s, u"Page Up"_s);
+    PushButton1 = monthButton(u"PushButton1"_s, u">"_s, u"Next month"_s, u"Page Down"_s);
+    PopupMonth = form::comboBox(this, u"PopupMonth"_s, u"Month"_s);
     const QLocale locale;
     for (int m = 1; m <= 12; ++m)
         PopupMonth->addItem(locale.standaloneMonthName(m, QLocale::LongFormat));
-    PopupYear = new QComboBox(this);
-    PopupYear->setObjectName(QStringLiteral("PopupYear"));
-    PopupYear->setAccessibleName(QStringLiteral("Year"));
+    PopupYear = form::comboBox(this, u"PopupYear"_s, u"Year"_s);
     for (int y = CalendarMonth::kFirstYear; y <= CalendarMonth::kLastYear; ++y)
         PopupYear->addItem(QString::number(y));
-    PushButton1 = new QPushButton(QStringLiteral(">"), this);
-    PushButton1->setObjectName(QStringLiteral("PushButton1"));
-    PushButton1->setAccessibleName(QStringLiteral("Next month"));
-    PushButton1->setToolTip(QStringLiteral("Next month (Page Down)"));
-    PushButton1->setAutoDefault(false);
-    auto *monthLabel = new QLabel(QStringLiteral("&Month:"), this);
-    monthLabel->setBuddy(PopupMonth);
-    auto *yearLabel = new QLabel(QStringLiteral("&Year:"), this);
-    yearLabel->setBuddy(PopupYear);
-    header->addWidget(PushButton2);
-    header->addWidget(monthLabel);
-    header->addWidget(PopupMonth, 1);
-    header->addWidget(yearLabel);
-    header->addWidget(PopupYear);
-    header->addWidget(PushButton1);
+    auto *header = form::row({PushButton2, form::buddyLabel(PopupMonth, u"&Month:"_s, this), PopupMonth,
+                              form::buddyLabel(PopupYear, u"&Year:"_s, this), PopupYear, PushButton1});
+    header->setStretch(2, 1);
+    auto *outer = new QVBoxLayout(this);
     outer->addLayout(header);
 
     auto *grid = new QGridLayout;
@@ -79,8 +70,7 @@ Calendar::Calendar(QWidget *parent) : QDialog(parent)
     }
     outer->addLayout(grid);
 
-    PushButton3 = new QPushButton(QStringLiteral("This Month"), this);
-    PushButton3->setObjectName(QStringLiteral("PushButton3"));
+    PushButton3 = form::button(this, u"PushButton3"_s, u"This Month"_s);
     PushButton3->setAutoDefault(false);
     outer->addWidget(PushButton3, 0, Qt::AlignHCenter);
 

@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/myPrefs.h"
+#include "app/ui/Form.h"
 #include "schedule/EventDates.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ui/Calendar.h"
@@ -18,6 +19,8 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,17 +56,11 @@ protected:
     void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
 };
 
-QComboBox *editableBox(QWidget *parent, const QString &name, const QString &accessible, const QStringList &items)
+// An editable box that shows nothing chosen and nothing typed.
+void clearEditable(QComboBox *box)
 {
-    auto *box = new QComboBox(parent);
-    box->setObjectName(name);
-    box->setAccessibleName(accessible);
-    box->setEditable(true);
-    box->setInsertPolicy(QComboBox::NoInsert);
-    box->addItems(items);
     box->setCurrentIndex(-1);
     box->setEditText(QString());
-    return box;
 }
 
 } // namespace
@@ -74,97 +71,60 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
     setWindowTitle(QStringLiteral("Event"));
     setWindowModality(Qt::WindowModal);
 
-    auto *outer = new QVBoxLayout(this);
-    auto *form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-
-    eventDateFld = new QLineEdit(this);
-    eventDateFld->setObjectName(QStringLiteral("eventDateFld"));
-    eventDateFld->setAccessibleName(QStringLiteral("Event date"));
+    auto *fields = new QFormLayout;
+    form::Rows rows(this, fields);
+    eventDateFld = form::lineEdit(this, u"eventDateFld"_s, u"Event date"_s);
     eventDateFld->setReadOnly(true);
-    eventDateFld->setPlaceholderText(QStringLiteral("Click the calendar to pick a date"));
-    eventDateFld->setToolTip(QStringLiteral("Space or Alt+Down opens the calendar"));
+    eventDateFld->setPlaceholderText(u"Click the calendar to pick a date"_s);
+    eventDateFld->setToolTip(u"Space or Alt+Down opens the calendar"_s);
     eventDateFld->installEventFilter(this);
     eventDateFld->setMinimumWidth(240);
-    calCnv = new QToolButton(this);
-    calCnv->setObjectName(QStringLiteral("calCnv"));
-    calCnv->setAccessibleName(QStringLiteral("Pick the date from a calendar"));
-    calCnv->setToolTip(QStringLiteral("Pick the date from a calendar"));
+    calCnv = form::make<QToolButton>(this, u"calCnv"_s, u"Pick the date from a calendar"_s);
+    calCnv->setToolTip(calCnv->accessibleName());
     calCnv->setIcon(calendarIcon());
     calCnv->setIconSize(QSize(24, 24));
-    auto *dateRow = new QHBoxLayout;
-    dateRow->addWidget(eventDateFld, 1);
-    dateRow->addWidget(calCnv);
-    auto *dateLabel = new QLabel(QStringLiteral("&Date:"), this);
-    dateLabel->setBuddy(eventDateFld);
-    form->addRow(dateLabel, dateRow);
+    auto *dateRow = form::row({eventDateFld, calCnv});
+    dateRow->setStretch(0, 1);
+    rows.addRow(u"&Date:"_s, dateRow, eventDateFld);
 
     const QStringList hours = EventForm::hours();
     const QStringList minutes = EventForm::minutes();
     const QStringList halves = EventForm::meridiems();
-    busHour = timeBox(QStringLiteral("busHour"), QStringLiteral("Bus departs, hour"), hours, true);
-    busMinute = timeBox(QStringLiteral("busMinute"), QStringLiteral("Bus departs, minutes"), minutes, true);
-    busAMPM = timeBox(QStringLiteral("busAMPM"), QStringLiteral("Bus departs, AM or PM"), halves, false);
-    gameHour = timeBox(QStringLiteral("gameHour"), QStringLiteral("Start time, hour"), hours, true);
-    gameMinute = timeBox(QStringLiteral("gameMinute"), QStringLiteral("Start time, minutes"), minutes, true);
-    gameAMPM = timeBox(QStringLiteral("gameAMPM"), QStringLiteral("Start time, AM or PM"), halves, false);
-    const auto timeRow = [this, form](const QString &caption, QComboBox *hour, QComboBox *minute, QComboBox *half) {
-        auto *row = new QHBoxLayout;
-        row->addWidget(hour);
-        auto *colon = new QLabel(QStringLiteral(":"), this);
-        colon->setBuddy(minute);
-        row->addWidget(colon);
-        row->addWidget(minute);
-        row->addWidget(half);
-        row->addStretch(1);
-        auto *label = new QLabel(caption, this);
-        label->setBuddy(hour);
-        form->addRow(label, row);
+    busHour = timeBox(u"busHour"_s, u"Bus departs, hour"_s, hours, true);
+    busMinute = timeBox(u"busMinute"_s, u"Bus departs, minutes"_s, minutes, true);
+    busAMPM = timeBox(u"busAMPM"_s, u"Bus departs, AM or PM"_s, halves, false);
+    gameHour = timeBox(u"gameHour"_s, u"Start time, hour"_s, hours, true);
+    gameMinute = timeBox(u"gameMinute"_s, u"Start time, minutes"_s, minutes, true);
+    gameAMPM = timeBox(u"gameAMPM"_s, u"Start time, AM or PM"_s, halves, false);
+    const auto timeRow = [&](const QString &caption, QComboBox *hour, QComboBox *minute, QComboBox *half) {
+        rows.addRow(caption, form::row({hour, form::buddyLabel(minute, u":"_s, this), minute, half, nullptr}), hour);
     };
-    timeRow(QStringLiteral("&Bus Departs:"), busHour, busMinute, busAMPM);
-    timeRow(QStringLiteral("&Start Time:"), gameHour, gameMinute, gameAMPM);
+    timeRow(u"&Bus Departs:"_s, busHour, busMinute, busAMPM);
+    timeRow(u"&Start Time:"_s, gameHour, gameMinute, gameAMPM);
 
-    eventTypeBox = editableBox(this, QStringLiteral("eventTypeBox"), QStringLiteral("Event type"), EventForm::eventTypes());
+    eventTypeBox = rows.comboBox(u"eventTypeBox"_s, u"&Event:"_s, form::Editable);
+    eventTypeBox->addItems(EventForm::eventTypes());
+    clearEditable(eventTypeBox);
     eventTypeBox->installEventFilter(this);
-    auto *typeLabel = new QLabel(QStringLiteral("&Event:"), this);
-    typeLabel->setBuddy(eventTypeBox);
-    form->addRow(typeLabel, eventTypeBox);
-
-    opponentBox = new QComboBox(this);
-    opponentBox->setObjectName(QStringLiteral("opponentBox"));
-    opponentBox->setAccessibleName(QStringLiteral("Opponent"));
-    opponentBox->setPlaceholderText(QStringLiteral("Select an opponent"));
-    auto *opponentLabel = new QLabel(QStringLiteral("&Opponent:"), this);
-    opponentLabel->setBuddy(opponentBox);
-    form->addRow(opponentLabel, opponentBox);
-
-    locationBox = editableBox(this, QStringLiteral("locationBox"), QStringLiteral("Location"), {});
+    opponentBox = rows.comboBox(u"opponentBox"_s, u"&Opponent:"_s);
+    opponentBox->setPlaceholderText(u"Select an opponent"_s);
+    locationBox = rows.comboBox(u"locationBox"_s, u"&Location:"_s, form::Editable);
     locationBox->installEventFilter(this);
-    auto *locationLabel = new QLabel(QStringLiteral("&Location:"), this);
-    locationLabel->setBuddy(locationBox);
-    form->addRow(locationLabel, locationBox);
 
-    homeCheck = new TwoWayCheckBox(QStringLiteral("&Home Game"), this);
-    homeCheck->setObjectName(QStringLiteral("homeCheck"));
-    homeCheck->setAccessibleName(QStringLiteral("Home Game"));
+    homeCheck = form::named(new TwoWayCheckBox(u"&Home Game"_s, this), u"homeCheck"_s, u"Home Game"_s);
     homeCheck->setTristate(true);
     homeCheck->setCheckState(Qt::PartiallyChecked);
     homeCheck->setEnabled(false);
-    homeCheck->setToolTip(QStringLiteral("Checked: home game. Clear: away game."));
-    form->addRow(QString(), homeCheck);
-    outer->addLayout(form);
+    homeCheck->setToolTip(u"Checked: home game. Clear: away game."_s);
+    fields->addRow(QString(), homeCheck);
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    cancelBtn = new QPushButton(QStringLiteral("Cancel"), this);
-    cancelBtn->setObjectName(QStringLiteral("cancelBtn"));
+    cancelBtn = form::button(this, u"cancelBtn"_s, u"Cancel"_s);
     cancelBtn->setAutoDefault(false);
-    actionBtn = new QPushButton(QStringLiteral("Add Event"), this);
-    actionBtn->setObjectName(QStringLiteral("actionBtn"));
+    actionBtn = form::button(this, u"actionBtn"_s, u"Add Event"_s);
     actionBtn->setDefault(true);
-    buttons->addWidget(cancelBtn);
-    buttons->addWidget(actionBtn);
-    outer->addLayout(buttons);
+    auto *outer = new QVBoxLayout(this);
+    outer->addLayout(fields);
+    outer->addLayout(form::row({nullptr, cancelBtn, actionBtn}));
 
     connect(calCnv, &QToolButton::clicked, this, &newEventScrn::calCnv_Click);
     connect(eventTypeBox, &QComboBox::currentTextChanged, this,
@@ -184,10 +144,9 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
 
 QComboBox *newEventScrn::timeBox(const QString &name, const QString &accessible, const QStringList &items, bool numbers)
 {
-    QComboBox *box = editableBox(this, name, accessible, items);
-    // A typed "5" is five minutes, not the list's "55".
-    if (numbers)
-        box->setCompleter(nullptr);
+    QComboBox *box = form::comboBox(this, name, accessible, form::Editable);
+    box->addItems(items);
+    clearEditable(box);
     box->lineEdit()->setMaxLength(2);
     box->setMinimumContentsLength(3);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

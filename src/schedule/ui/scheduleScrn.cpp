@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/myDB.h"
+#include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/startScrn1.h"
@@ -19,16 +20,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-namespace {
-
-QPushButton *makeButton(QWidget *parent, const QString &name, const QString &caption)
-{
-    auto *button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 scheduleScrn::scheduleScrn(QWidget *parent)
     : ScreenBase(ScreenId::scheduleScrn, QStringLiteral("Games, Practices and Other Events"), {.backupTimer = true},
@@ -39,58 +31,35 @@ scheduleScrn::scheduleScrn(QWidget *parent)
 
     auto *central = new QWidget(this);
     auto *outer = new QVBoxLayout(central);
-
-    auto *top = new QHBoxLayout;
-    auto *homeLabel = new QLabel(QStringLiteral("Home &Team:"), central);
-    homeTeamFld = new QLineEdit(central);
-    homeTeamFld->setObjectName(QStringLiteral("homeTeamFld"));
-    homeTeamFld->setAccessibleName(QStringLiteral("Home team"));
+    homeTeamFld = form::lineEdit(central, u"homeTeamFld"_s, u"Home team"_s);
     homeTeamFld->setReadOnly(true);
-    homeLabel->setBuddy(homeTeamFld);
-    auto *filterLabel = new QLabel(QStringLiteral("&Show:"), central);
-    filterPop = new QComboBox(central);
-    filterPop->setObjectName(QStringLiteral("filterPop"));
-    filterPop->setAccessibleName(QStringLiteral("Show events of type"));
+    filterPop = form::comboBox(central, u"filterPop"_s, u"Show events of type"_s);
     filterPop->addItems(ScheduleStore::filters());
-    filterLabel->setBuddy(filterPop);
-    top->addWidget(homeLabel);
-    top->addWidget(homeTeamFld, 1);
-    top->addSpacing(24);
-    top->addWidget(filterLabel);
-    top->addWidget(filterPop);
+    auto *top = form::row({form::buddyLabel(homeTeamFld, u"Home &Team:"_s, central), homeTeamFld,
+                           form::buddyLabel(filterPop, u"&Show:"_s, central), filterPop});
+    top->setStretch(1, 1);
     outer->addLayout(top);
 
-    ScheduleListbox = new qlmListBox(central);
-    ScheduleListbox->setObjectName(QStringLiteral("ScheduleListbox"));
-    ScheduleListbox->setAccessibleName(QStringLiteral("Schedule"));
-    ScheduleListbox->setHeadings(ScheduleList::headings());
-    ScheduleListbox->setColumnWidths(QStringLiteral("95,85,85,110,150,*,30"));
+    ScheduleListbox = qlmListBox::make(central, u"ScheduleListbox"_s, u"Schedule"_s, ScheduleList::headings(),
+                                       u"95,85,85,110,150,*,30"_s);
     ScheduleListbox->setRowsMovable(true);
     ScheduleListbox->setToolTip(QStringLiteral("Enter edits the event, Delete removes it; drag a row, or press "
                                                "Ctrl+Up / Ctrl+Down, to change the order"));
     ScheduleListbox->installEventFilter(this);
     outer->addWidget(ScheduleListbox, 1);
-
-    schedIDLabel = new QLabel(QStringLiteral("No Selection"), central);
-    schedIDLabel->setObjectName(QStringLiteral("schedIDLabel"));
+    schedIDLabel = form::valueLabel(central, u"schedIDLabel"_s, u"Selected event"_s);
+    schedIDLabel->setText(u"No Selection"_s);
     outer->addWidget(schedIDLabel);
 
-    auto *buttons = new QGridLayout;
-    newEventBtn = makeButton(central, QStringLiteral("newEventBtn"), QStringLiteral("&New Event"));
-    editBtn = makeButton(central, QStringLiteral("editBtn"), QStringLiteral("&Edit Event"));
-    deleteEvBtn = makeButton(central, QStringLiteral("deleteEvBtn"), QStringLiteral("&Delete Event"));
-    enterDataBtn = makeButton(central, QStringLiteral("enterDataBtn"), QStringLiteral("---"));
-    printBtn = makeButton(central, QStringLiteral("printBtn"), QStringLiteral("&Print"));
-    exportBtn = makeButton(central, QStringLiteral("exportBtn"), QStringLiteral("E&xport"));
-    viewCalendarBtn = makeButton(central, QStringLiteral("viewCalendarBtn"), QStringLiteral("&Calendar"));
-    buttons->addWidget(newEventBtn, 0, 0);
-    buttons->addWidget(editBtn, 0, 1);
-    buttons->addWidget(deleteEvBtn, 0, 2);
-    buttons->addWidget(enterDataBtn, 0, 3);
-    buttons->addWidget(printBtn, 1, 0);
-    buttons->addWidget(exportBtn, 1, 1);
-    buttons->addWidget(viewCalendarBtn, 1, 2);
-    outer->addLayout(buttons);
+    newEventBtn = form::button(central, u"newEventBtn"_s, u"&New Event"_s);
+    editBtn = form::button(central, u"editBtn"_s, u"&Edit Event"_s);
+    deleteEvBtn = form::button(central, u"deleteEvBtn"_s, u"&Delete Event"_s);
+    enterDataBtn = form::button(central, u"enterDataBtn"_s, u"---"_s);
+    printBtn = form::button(central, u"printBtn"_s, u"&Print"_s);
+    exportBtn = form::button(central, u"exportBtn"_s, u"E&xport"_s);
+    viewCalendarBtn = form::button(central, u"viewCalendarBtn"_s, u"&Calendar"_s);
+    outer->addLayout(form::row({newEventBtn, editBtn, deleteEvBtn, enterDataBtn}));
+    outer->addLayout(form::row({printBtn, exportBtn, viewCalendarBtn, nullptr}));
     setCentralWidget(central);
 
     editBtn->setEnabled(false);

@@ -13,14 +13,18 @@
 //
 // From the keyboard, Tab reaches the pair on its first enabled half, a
 // second Tab moves to the other half, and Space presses the half that has
-// the focus. Like the original, the pair shows disabled while its window is
-// in the background.
+// the focus. The pair shows disabled while its window is in the background.
+//
+// Assistive tools see the pair as a group of two buttons named by
+// setHalfNames ("Add team", "Delete team"), each pressable by its action.
 class PlusMinusContainer : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit PlusMinusContainer(QWidget *parent = nullptr);
+    // A pair whose halves are named `plusName` and `minusName`.
+    PlusMinusContainer(const QString &plusName, const QString &minusName, QWidget *parent);
 
     bool plusEnabled() const { return m_state.plusEnabled; }
     bool minusEnabled() const { return m_state.minusEnabled; }
@@ -44,6 +48,12 @@ public:
     // What each half does, for its tool tip and for assistive tools:
     // setHalfNames("New team", "Delete team").
     void setHalfNames(const QString &plusName, const QString &minusName);
+    QString halfName(support::PlusMinusState::Half half) const;
+
+    // Presses a half as an assistive tool does: raises its event when the
+    // half and the pair are enabled.
+    void pressHalf(support::PlusMinusState::Half half);
+    bool halfTakesInput(support::PlusMinusState::Half half) const;
 
     QSize sizeHint() const override { return {support::PlusMinusState::width, support::PlusMinusState::height}; }
 

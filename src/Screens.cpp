@@ -1,0 +1,36 @@
+#include "Screens.h"
+
+#include "app/ui/ScreenDirectory.h"
+#include "help/ui/HelpAbbrevScrn.h"
+#include "help/ui/formsScrn.h"
+#include "help/ui/helpScrn2.h"
+#include "people/ui/personnelScrn.h"
+#include "people/ui/teamScrn.h"
+#include "schedule/ui/eventsCalendarScrn.h"
+#include "schedule/ui/scheduleScrn.h"
+#include "support/HelpRequests.h"
+#include "support/ui/updateDlog.h"
+
+void registerScreens()
+{
+    screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
+    screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
+    screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::eventsCalendarScrn, [] { return new eventsCalendarScrn; });
+    screens::registerScreen(ScreenId::updateDlog, [] { return new updateDlog; });
+    screens::registerScreen(ScreenId::helpScrn2,
+                            [](const QVariant &topic) { return new helpScrn2(topic.isValid() ? topic.toInt() : 0); });
+    screens::registerScreen(ScreenId::HelpAbbrevScrn, [] { return HelpAbbrevScrn::instance(); });
+    screens::registerScreen(ScreenId::formsScrn, [] { return new formsScrn; });
+
+    // Every "?" button of the program opens help at its topic; connected
+    // once, however often the screens are registered.
+    static const bool listening = [] {
+        QObject::connect(&support::HelpRequests::instance(), &support::HelpRequests::requested, [](int topic) {
+            if (QWidget *w = screens::create(ScreenId::helpScrn2, topic))
+                w->show();
+        });
+        return true;
+    }();
+    Q_UNUSED(listening);
+}

@@ -1,0 +1,157 @@
+// Every window the program can open, walked as a screen reader walks it:
+// each control the keyboard reaches has a role and a name, and the parts
+// drawn inside one control (the halves of a plus/minus pair, the entries of
+// a Print button's menu) are there too and can be pressed.
+//
+// A screen registered in the screen directory joins by itself; a window
+// that is not a screen joins with one row in windows_data().
+
+#include "Screens.h"
+#include "app/ui/AboutScrn.h"
+#include "app/ui/ScreenDirectory.h"
+#include "app/ui/splashScrn.h"
+#include "app/ui/startScrn1.h"
+#include "fakes/TestKit.h"
+#include "gameday/ui/battingPOP.h"
+#include "people/ui/teamScrn.h"
+#include "schedule/ui/Calendar.h"
+#include "schedule/ui/newEventScrn.h"
+#include "support/ui/PlusMinusContainer.h"
+#include "support/ui/getInfoScrn_small.h"
+#include "support/ui/pleaseWaitScrn.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+using Opener = std::function<QWidget *()>;
+Q_DECLARE_METATYPE(Opener)
+
+class TestAccessibility : public QObject
+{
+    Q_OBJECT
+
+    // What is wrong with one control's interface and its drawn parts.
+    static void check(QAccessibleInterface *a, const QString &path, QStringList &faults)
+    {
+        if (!a) {
+            faults << path + QStringLiteral(" (no interface)");
+            return;
+        }
+        if (a->role() == QAccessible::NoRole)
+            faults << path + QStringLiteral(" (no role)");
+        if (a->text(QAccessible::Name).trimmed().isEmpty())
+            faults << path + QStringLiteral(" (no name)");
+        for (int i = 0; i < a->childCount(); ++i) {
+            QAccessibleInterface *part = a->child(i);
+            // Child widgets are walked by themselves.
+            if (part && !qobject_cast<QWidget *>(part->object()))
+                check(part, path + u'/' + QString::number(i), faults);
+        }
+    }
+
+    static QAccessibleInterface *childNamed(QAccessibleInterface *a, const QString &name)
+    {
+        for (int i = 0; a && i < a->childCount(); ++i) {
+            if (a->child(i)->text(QAccessible::Name) == name)
+                return a->child(i);
+        }
+        return nullptr;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { registerScreens(); }
+
+    void windows_data()
+    {
+        QTest::addColumn<Opener>("open");
+        for (int i = 0; !screenName(ScreenId(i)).isEmpty(); ++i) {
+            const auto id = ScreenId(i);
+            if (screens::has(id))
+                QTest::newRow(qPrintable(screenName(id))) << Opener([id] { return screens::create(id); });
+        }
+        QTest::newRow("startScrn1") << Opener([] { return startScrn1::showStartScreen(); });
+        QTest::newRow("splashScrn") << Opener([] { return new splashScrn; });
+        QTest::newRow("AboutScrn") << Opener([] { return new AboutScrn; });
+        QTest::newRow("newEventScrn") << Opener([] { return new newEventScrn; });
+        QTest::newRow("Calendar") << Opener([] { return new Calendar; });
+        QTest::newRow("getInfoScrn_small") << Opener([] { return new getInfoScrn_small(nullptr, "Team &Name:"); });
+        QTest::newRow("pleaseWaitScrn") << Opener([] { return new pleaseWaitScrn; });
+        QTest::newRow("battingPOP") << Opener([] { return new battingPOP; });
+    }
+
+    void windows()
+    {
+        QFETCH(Opener, open);
+        testkit::Season season;
+        season.addTeam(QStringLiteral("Bears"), QStringLiteral("Riverside High"), {}, true);
+        QWidget *window = open();
+        QVERIFY(window);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+
+        QStringList faults;
+        QList<QWidget *> controls = window->findChildren<QWidget *>();
+        controls.prepend(window);
+        int reached = 0;
+        for (QWidget *w : controls) {
+            // Controls on a tab not shown count; controls hidden on purpose
+            // (the empty days of a calendar page) don't.
+            if (!(w->focusPolicy() & Qt::TabFocus) || w->window() != window || w->isHidden())
+                continue;
+            ++reached;
+            check(QAccessible::queryAccessibleInterface(w), w->objectName() + u':' + w->metaObject()->className(),
+                  faults);
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QStringLiteral(", "))));
+        QVERIFY(reached > 0 || window->focusPolicy() == Qt::NoFocus);
+    }
+
+    // The drawn parts act as their controls do.
+    void halvesAndMenuEntriesArePressable()
+    {
+        testkit::Season season;
+        auto *screen = new teamScrn;
+        QVERIFY(testkit::showActive(screen));
+
+        QSignalSpy plus(screen->teamListPlusMInus, &PlusMinusContainer::PlusPressed);
+        QSignalSpy minus(screen->teamListPlusMInus, &PlusMinusContainer::MinusPressed);
+        QAccessibleInterface *pair = QAccessible::queryAccessibleInterface(screen->teamListPlusMInus);
+        QAccessibleInterface *add = childNamed(pair, QStringLiteral("Add team"));
+        QAccessibleInterface *remove = childNamed(pair, QStringLiteral("Delete team"));
+        QVERIFY(add && remove);
+        QCOMPARE(add->role(), QAccessible::Button);
+        add->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(plus.count(), 1);
+        screen->teamListPlusMInus->setMinusEnabled(false);
+        QVERIFY(remove->state().disabled);
+        remove->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(minus.count(), 0);
+
+        QSignalSpy chosen(screen->printBtn->menu(), &QMenu::triggered);
+        QAccessibleInterface *menu = QAccessible::queryAccessibleInterface(screen->printBtn)->child(0);
+        QAccessibleInterface *entry = childNamed(menu, QStringLiteral("Team List"));
+        QVERIFY(entry);
+        entry->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(chosen.at(0).at(0).value<QAction *>()->text(), QStringLiteral("Team List"));
+        QCOMPARE(season.fake.printing.printed.size(), 1);
+    }
+
+    // A label that shows a value is read by the value.
+    void valueLabelsReadTheirValue()
+    {
+        testkit::Season season;
+        season.addTeam(QStringLiteral("Bears"), QStringLiteral("Riverside High"), {}, true);
+        startScrn1 *start = startScrn1::showStartScreen();
+        QVERIFY(QTest::qWaitForWindowExposed(start));
+        QAccessibleInterface *name = QAccessible::queryAccessibleInterface(start->teamNameLabel);
+        QVERIFY(name->text(QAccessible::Name).contains(QStringLiteral("Bears")));
+    }
+};
+
+QTEST_MAIN(TestAccessibility)
+#include "tst_accessibility.moc"

@@ -8,6 +8,8 @@
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
+#include "reports/ui/reportIntroScrn.h"
+#include "reports/ui/standingsScrn.h"
 #include "schedule/ui/scheduleScrn.h"
 
 namespace {
@@ -18,6 +20,8 @@ void registerScreens()
     screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
     screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::reportIntroScrn, [] { return new reportIntroScrn; });
+    screens::registerScreen(ScreenId::standingsScrn, [] { return new standingsScrn; });
 }
 
 } // namespace

@@ -141,20 +141,35 @@ QList<QStringList> filtered(const QList<R> &data, const ReportFilter &filter, Di
     return out;
 }
 
-// The columns after the fixed ones: each header's figure, plain. A header
-// that isn't a key of the report's dictionary adds no cell.
-template<size_t N>
-void appendFigures(QStringList &cells, const QStringList &headers, qsizetype from, const StatDictionary &dict,
-                   const std::array<double, N> &mData, int maskedIndex = -1)
+// The figure index of each header from `from` on; a header that isn't a key
+// of the report's dictionary adds no cell, so it has no entry.
+QList<int> figureIndices(const QStringList &headers, qsizetype from, const StatDictionary &dict, int size)
 {
+    QList<int> out;
     for (qsizetype c = from; c < headers.size(); ++c) {
         const int index = dict.value(headers.at(c));
-        if (index < 0 || index >= int(N))
-            continue;
-        if (index == maskedIndex)
+        if (index >= 0 && index < size)
+            out.append(index);
+    }
+    return out;
+}
+
+// A figure as plain number text: stored counts are whole numbers.
+QString plainNumber(double value)
+{
+    const auto whole = static_cast<qint64>(value);
+    return double(whole) == value ? QString::number(whole) : QString::number(value, 'g', 15);
+}
+
+template<size_t N>
+void appendFigures(QStringList &cells, const QList<int> &indices, const std::array<double, N> &mData,
+                   int inningsIndex = -1)
+{
+    for (int index : indices) {
+        if (index == inningsIndex)
             cells.append(formatMask(mData[index] / 10.0, QStringLiteral("##0.0")));
         else
-            cells.append(QString::number(mData[index], 'g', 15));
+            cells.append(plainNumber(mData[index]));
     }
 }
 
@@ -163,40 +178,44 @@ void appendFigures(QStringList &cells, const QStringList &headers, qsizetype fro
 QList<QStringList> SeasonReport::rows(const ReportFilter &filter) const
 {
     switch (m_kind) {
-    case Batting:
-        return filtered(hData, filter, [this](const hitReporter &r) { return displayHitData(r); });
-    case Fielding:
-        return filtered(fData, filter, [this](const fldReporter &r) { return displayFldData(r); });
+    case Batting: {
+        const QList<int> indices = figureIndices(m_headers, 6, hitD, 29);
+        return filtered(hData, filter, [&](const hitReporter &r) { return displayHitData(r, indices); });
+    }
+    case Fielding: {
+        const QList<int> indices = figureIndices(m_headers, 3, fieldD, 14);
+        return filtered(fData, filter, [&](const fldReporter &r) { return displayFldData(r, indices); });
+    }
     case Pitching:
         break;
     }
-    return filtered(pData, filter, [this](const pitchReporter &r) { return displayPitchData(r); });
+    const QList<int> indices = figureIndices(m_headers, 3, pitchD, 28);
+    return filtered(pData, filter, [&](const pitchReporter &r) { return displayPitchData(r, indices); });
 }
 
-QStringList SeasonReport::displayHitData(const hitReporter &r) const
+QStringList SeasonReport::displayHitData(const hitReporter &r, const QList<int> &figures) const
 {
-    QStringList cells{r.FName,
-                      r.LName,
-                      formatMask(r.mData[0], QStringLiteral("##0")),
-                      formatMask(r.Avg, QStringLiteral(".000")),
-                      formatMask(r.OBP, QStringLiteral(".000")),
-                      formatMask(r.SPct, QStringLiteral(".000"))};
-    appendFigures(cells, m_headers, 6, hitD, r.mData);
+    QStringList cells;
+    cells.reserve(6 + figures.size());
+    cells << r.FName
+          << r.LName << formatMask(r.mData[0], QStringLiteral("##0")) << formatMask(r.Avg, QStringLiteral(".000"))
+          << formatMask(r.OBP, QStringLiteral(".000")) << formatMask(r.SPct, QStringLiteral(".000"));
+    appendFigures(cells, figures, r.mData);
     return cells;
 }
 
-QStringList SeasonReport::displayFldData(const fldReporter &r) const
+QStringList SeasonReport::displayFldData(const fldReporter &r, const QList<int> &figures) const
 {
     QStringList cells{r.FName, r.LName, formatMask(r.fldPct, QStringLiteral("#.000"))};
-    appendFigures(cells, m_headers, 3, fieldD, r.mData);
+    appendFigures(cells, figures, r.mData);
     return cells;
 }
 
-QStringList SeasonReport::displayPitchData(const pitchReporter &r) const
+QStringList SeasonReport::displayPitchData(const pitchReporter &r, const QList<int> &figures) const
 {
     QStringList cells{r.FName, r.LName, formatMask(r.ERA, QStringLiteral("0.00"))};
     // The innings code 62 reads 6.2.
-    appendFigures(cells, m_headers, 3, pitchD, r.mData, 10);
+    appendFigures(cells, figures, r.mData, 10);
     return cells;
 }
 

@@ -79,9 +79,11 @@ public:
     QList<pitchReporter> pData;
 
 private:
-    QStringList displayHitData(const hitReporter &r) const;
-    QStringList displayFldData(const fldReporter &r) const;
-    QStringList displayPitchData(const pitchReporter &r) const;
+    // One line's cells; `figures` are the dictionary indices of the columns
+    // after the fixed ones.
+    QStringList displayHitData(const hitReporter &r, const QList<int> &figures) const;
+    QStringList displayFldData(const fldReporter &r, const QList<int> &figures) const;
+    QStringList displayPitchData(const pitchReporter &r, const QList<int> &figures) const;
 
     ReportKind m_kind;
     QStringList m_headers;

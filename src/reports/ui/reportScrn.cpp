@@ -93,6 +93,7 @@ void reportScrn::scrnSetup()
     reportBox->setHeadings(m_report.curHeaders());
     reportBox->setColumnWidths(m_report.columnWidths());
     titleLbl->setText(m_report.title());
+    setWindowTitle(m_report.title() + QStringLiteral(" Report"));
     // The list is as wide as its columns, up to a screen's width.
     reportBox->setMinimumWidth(m_report.listWidth());
     resize(m_report.listWidth() + 40, 560);

@@ -146,12 +146,6 @@ void myDB::rememberError(int code, const QString &message)
     m_lastErrorMessage = message;
 }
 
-void myDB::report(const SQLite::Exception &e)
-{
-    rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
-    DisplayDatabaseError();
-}
-
 void myDB::clearError()
 {
     rememberError(0, {});
@@ -203,10 +197,28 @@ void myDB::bindAll(SQLite::Statement &statement, const QVariantList &params)
     }
 }
 
+void myDB::fail(const SQLite::Exception &e)
+{
+    rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
+    if (m_transactionDepth > 0)
+        throw;
+    DisplayDatabaseError();
+}
+
+bool myDB::refuseWriteWithoutSeason()
+{
+    rememberError(SQLITE_CANTOPEN, QStringLiteral("No season is open."));
+    gShowMsgDlog(QStringLiteral("Nothing was saved: no season is open."),
+                 QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
+                     QStringLiteral("\" could not be opened. Choose a season on the start screen."),
+                 QStringLiteral("OK"));
+    return false;
+}
+
 bool myDB::exec(const QString &sql, const QVariantList &params)
 {
     if (!tlynData)
-        return false;
+        return refuseWriteWithoutSeason();
     try {
         SQLite::Statement statement(*tlynData, utf8(sql));
         bindAll(statement, params);
@@ -215,7 +227,7 @@ bool myDB::exec(const QString &sql, const QVariantList &params)
         clearError();
         return true;
     } catch (const SQLite::Exception &e) {
-        report(e);
+        fail(e);
         return false;
     }
 }
@@ -241,8 +253,8 @@ QList<Record> myDB::select(const QString &sql, const QVariantList &params)
         }
         clearError();
     } catch (const SQLite::Exception &e) {
-        report(e);
         rows.clear();
+        fail(e);
     }
     return rows;
 }
@@ -289,15 +301,32 @@ bool myDB::update(const QString &table, const Fields &fields, const QString &key
 bool myDB::runInTransaction(const std::function<void()> &body)
 {
     if (!tlynData)
-        return false;
+        return refuseWriteWithoutSeason();
+    if (m_transactionDepth > 0) {
+        // Part of a larger step: its failure is the outer step's failure.
+        body();
+        return true;
+    }
+    struct Depth
+    {
+        int &depth;
+        explicit Depth(int &d) : depth(d) { ++depth; }
+        ~Depth() { --depth; }
+    };
     try {
         SQLite::Transaction transaction(*tlynData);
-        body();
+        {
+            Depth inside(m_transactionDepth);
+            body();
+        }
         transaction.commit();
         clearError();
         return true;
     } catch (const SQLite::Exception &e) {
-        report(e);
+        // The transaction's destructor has rolled the step back. The error
+        // is shown even for a constraint: the coach's step did not happen.
+        rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
+        gMsgBox(QStringLiteral("Database Error: ") + QString::number(m_lastErrorCode) + u'\n' + m_lastErrorMessage);
         return false;
     }
 }

@@ -1,0 +1,159 @@
+#pragma once
+
+// A season in a temporary folder with two teams, and a short way to store a
+// game in it as the game screen and the panels leave one: the `Games` row
+// with both cards, and the panel rows of the players.
+
+#include "app/App.h"
+#include "app/globals.h"
+#include "fakes/FakePlatform.h"
+#include "gameday/GridTestSupport.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace recordtest {
+
+// One team's card: lineup entries as "name/playerID", the grid's rows in
+// the cell notation of gridtest::fill, the RBI-and-SB lines, or the
+// run-entry string for a team entered by run totals.
+struct Card
+{
+    Card() = default;
+    Card(QStringList lineup_, QStringList cells_, QString batterStats_)
+        : lineup(std::move(lineup_)), cells(std::move(cells_)), batterStats(std::move(batterStats_))
+    {
+    }
+
+    QStringList lineup;
+    QStringList cells;
+    QString batterStats;
+    QString runEntry;
+};
+
+class Season
+{
+public:
+    Season()
+    {
+        m_app = std::make_unique<App>(m_home.path());
+        if (m_app->Event_Open() != App::OpenResult::Ok)
+            qFatal("season did not open");
+        homeID = QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("O'Brien's Nine")}}));
+        bearsID = QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")}}));
+    }
+
+    fakes::FakePlatform fake {};
+    QString homeID;
+    QString bearsID;
+
+    // Stores a game between the home team (batting first) and the Bears;
+    // gives its schedule id.
+    QString storeGame(const Card &a, const Card &b)
+    {
+        const qint64 eventID = gData->insert(QStringLiteral("Schedule"), {{QStringLiteral("Event"), QStringLiteral("Game")},
+                                                                          {QStringLiteral("OppID"), bearsID},
+                                                                          {QStringLiteral("isHome"), 2}});
+        const QString schedID = QString::number(eventID);
+        Fields row = {{QStringLiteral("schedID"), schedID},
+                      {QStringLiteral("Teams"), QString(homeID + u'\t' + bearsID)},
+                      {QStringLiteral("gameType"), QStringLiteral("League")},
+                      {QStringLiteral("recorded"), 0}};
+        row += team(QStringLiteral("TeamA"), a);
+        row += team(QStringLiteral("TeamB"), b);
+        gData->insert(QStringLiteral("Games"), row);
+        return schedID;
+    }
+
+    static void hitPanel(const QString &game, const QString &player, const QString &stats)
+    {
+        gData->insert(QStringLiteral("GamesIndivHitting"), {{QStringLiteral("gameID"), game},
+                                                            {QStringLiteral("playerID"), player},
+                                                            {QStringLiteral("stats"), stats}});
+    }
+    static void fieldPanel(const QString &game, const QString &player, const QString &stats)
+    {
+        gData->insert(QStringLiteral("GamesIndivFielding"), {{QStringLiteral("gameID"), game},
+                                                             {QStringLiteral("playerID"), player},
+                                                             {QStringLiteral("stats"), stats}});
+    }
+    // `line` is "gameResult start shutout compGame balls strikes", blank-separated.
+    static void pitchPanel(const QString &game, const QString &player, const QString &line, const QString &stats)
+    {
+        const QStringList v = line.split(u' ');
+        gData->insert(QStringLiteral("GamesIndivPitching"),
+                      {{QStringLiteral("gameID"), game}, {QStringLiteral("playerID"), player},
+                       {QStringLiteral("gameResult"), v.at(0).toInt()}, {QStringLiteral("start"), v.at(1).toInt()},
+                       {QStringLiteral("shutout"), v.at(2).toInt()}, {QStringLiteral("compGame"), v.at(3).toInt()},
+                       {QStringLiteral("totBalls"), v.at(4).toInt()}, {QStringLiteral("totKs"), v.at(5).toInt()},
+                       {QStringLiteral("stats"), stats}});
+    }
+
+    // The non-zero figures of a player's row in a season table, as
+    // "AB=3 B1=1 ...", with "team=" and "game=" first; "" without a row.
+    static QString seasonRow(const QString &table, const QString &playerID)
+    {
+        const QList<Record> rows = gData->select(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE playerID = ?"),
+                                                 {playerID.toLongLong()});
+        if (rows.isEmpty())
+            return {};
+        const Record &r = rows.first();
+        QStringList out = {QStringLiteral("team=") + r.text(QStringLiteral("teamID")),
+                           QStringLiteral("game=") + r.text(QStringLiteral("gameID"))};
+        for (int c = 0; c < r.columns.size(); ++c) {
+            const QString name = r.columns.at(c);
+            if (name == u"recID" || name == u"playerID" || name == u"teamID" || name == u"gameID")
+                continue;
+            if (r.values.at(c).toLongLong() != 0)
+                out.append(name + u'=' + r.values.at(c).toString());
+        }
+        return out.join(u' ');
+    }
+
+    // "W-L-Tie" of a team, "" without a row.
+    static QString record(const QString &teamID)
+    {
+        const QList<Record> rows = gData->select(QStringLiteral("SELECT W, L, Tie FROM GameResultsByTeam WHERE teamID = ?"),
+                                                 {teamID.toLongLong()});
+        if (rows.isEmpty())
+            return {};
+        return rows.first().text(QStringLiteral("W")) + u'-' + rows.first().text(QStringLiteral("L")) + u'-' +
+               rows.first().text(QStringLiteral("Tie"));
+    }
+
+    static bool isRecorded(const QString &schedID)
+    {
+        return gData->scalar(QStringLiteral("SELECT recorded FROM Games WHERE schedID = ?"), {schedID}).toInt() == 1;
+    }
+
+    static QByteArray fileBytes()
+    {
+        QFile file(gData->filePath());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private:
+    static Fields team(const QString &side, const Card &card)
+    {
+        QStringList lines;
+        for (int i = 0; i < card.lineup.size(); ++i) {
+            const QStringList parts = card.lineup.at(i).split(u'/');
+            lines.append(QString::number(i + 1) + QStringLiteral("\tP\t") + parts.at(0) + u'\t' + parts.value(1));
+        }
+        gameday::ScoreGrid grid;
+        gridtest::loadTeam(grid, int(lines.size()));
+        gridtest::fill(grid, card.cells);
+        return {{side + QStringLiteral("Headings"), grid.getColHeadings()},
+                {side + QStringLiteral("Players"), lines.join(u'\r')},
+                {side + QStringLiteral("Actions"), card.runEntry.isEmpty() ? grid.getMyData() : card.runEntry},
+                {side + QStringLiteral("Outcomes"), grid.getMyBkgArray()},
+                {side + QStringLiteral("BatterStats"), card.batterStats}};
+    }
+
+    QTemporaryDir m_home;
+    std::unique_ptr<App> m_app;
+};
+
+} // namespace recordtest

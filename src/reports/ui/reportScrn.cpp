@@ -49,6 +49,11 @@ reportScrn::reportScrn(int which, const QStringList &headers, QWidget *parent)
 
     reportBox = form::named(new qlmListBox(central), QStringLiteral("reportBox"), QStringLiteral("Report"));
     reportBox->setHeaderSortAllowed(true);
+    // The figure columns are 36 points wide, as they print: a smaller face
+    // keeps "1.000" and the longer headings whole on screen.
+    QFont listFont = reportBox->font();
+    listFont.setPointSizeF(listFont.pointSizeF() * 0.85);
+    reportBox->setFont(listFont);
     outer->addWidget(reportBox, 1);
 
     auto *buttons = new QHBoxLayout;

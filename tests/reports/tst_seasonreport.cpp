@@ -26,20 +26,14 @@ private:
     }
 
 private Q_SLOTS:
+    // What the report lines below don't reach: rounding past a whole number,
+    // integer parts longer than the mask, and signs.
     void masks_data()
     {
         QTest::addColumn<double>("value");
         QTest::addColumn<QString>("mask");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("average below one has no leading zero") << 0.5 << ".000" << ".500";
-        QTest::newRow("zero average") << 0.0 << ".000" << ".000";
         QTest::newRow("rounds up to a whole one") << 0.9996 << ".000" << "1.000";
-        QTest::newRow("slugging above one") << 2.25 << ".000" << "2.250";
-        QTest::newRow("fielding thirds") << 2.0 / 3.0 << "#.000" << ".667";
-        QTest::newRow("era keeps its zero") << 0.0 << "0.00" << "0.00";
-        QTest::newRow("era two places") << 8.1 << "0.00" << "8.10";
-        QTest::newRow("innings") << 6.2 << "##0.0" << "6.2";
-        QTest::newRow("no innings") << 0.0 << "##0.0" << "0.0";
         QTest::newRow("more digits than the mask") << 1234.0 << "##0" << "1234";
         QTest::newRow("games back behind") << -1.5 << "#0.0" << "-1.5";
         QTest::newRow("no sign on a rounded zero") << -0.01 << "#0.0" << "0.0";

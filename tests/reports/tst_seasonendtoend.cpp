@@ -3,7 +3,7 @@
 // follow, against figures worked out by hand from the games' at bats.
 
 #include "ReportsFixture.h"
-#include "../../src/reports/tools/SampleSeason.h"
+#include "SampleSeason.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportScrn.h"
 #include "reports/ui/standingsScrn.h"

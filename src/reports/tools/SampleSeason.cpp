@@ -1,6 +1,5 @@
 #include "SampleSeason.h"
-
-#include "../../people/tools/SampleTeams.h"
+#include "SampleTeams.h"
 
 #include "app/globals.h"
 #include "app/myDB.h"

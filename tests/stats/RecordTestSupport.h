@@ -9,6 +9,8 @@
 #include "fakes/FakePlatform.h"
 #include "gameday/GridTestSupport.h"
 
+#include <SQLiteCpp/Database.h>
+
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -155,5 +157,26 @@ private:
     QTemporaryDir m_home;
     std::unique_ptr<App> m_app;
 };
+
+// Makes the n-th write of the season tables, the team records or the game
+// row fail inside the database. The triggers live in the connection's
+// temporary schema, so the season file itself is not changed by them.
+inline void failAtWrite(int n)
+{
+    SQLite::Database &db = *gData->tlynData;
+    db.exec("CREATE TEMP TABLE IF NOT EXISTS failPlan (at INTEGER, seen INTEGER)");
+    db.exec("DELETE FROM temp.failPlan");
+    db.exec("INSERT INTO temp.failPlan VALUES (" + std::to_string(n) + ", 0)");
+    for (const char *table : {"Hitting", "Fielding", "Pitching", "GameResultsByTeam", "Games"}) {
+        for (const char *op : {"INSERT", "UPDATE"}) {
+            const std::string name = std::string("fail_") + op + "_" + table;
+            db.exec("DROP TRIGGER IF EXISTS temp." + name);
+            db.exec("CREATE TEMP TRIGGER " + name + " BEFORE " + op + " ON main." + table +
+                    " BEGIN UPDATE failPlan SET seen = seen + 1;"
+                    " SELECT RAISE(ABORT, 'forced failure') WHERE (SELECT seen FROM failPlan) = (SELECT at FROM failPlan);"
+                    " END");
+        }
+    }
+}
 
 } // namespace recordtest

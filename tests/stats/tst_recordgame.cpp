@@ -52,27 +52,6 @@ GameRecorder::Result recordWithBoard(const QString &schedID)
     return GameRecorder(*gData).record(schedID, runsOf(schedID, 0), runsOf(schedID, 1));
 }
 
-// Makes the n-th write of the season tables, the team records or the game
-// row fail inside the database. The triggers live in the connection's
-// temporary schema, so the season file itself is not changed by them.
-void failAtWrite(int n)
-{
-    SQLite::Database &db = *gData->tlynData;
-    db.exec("CREATE TEMP TABLE IF NOT EXISTS failPlan (at INTEGER, seen INTEGER)");
-    db.exec("DELETE FROM temp.failPlan");
-    db.exec("INSERT INTO temp.failPlan VALUES (" + std::to_string(n) + ", 0)");
-    for (const char *table : {"Hitting", "Fielding", "Pitching", "GameResultsByTeam", "Games"}) {
-        for (const char *op : {"INSERT", "UPDATE"}) {
-            const std::string name = std::string("fail_") + op + "_" + table;
-            db.exec("DROP TRIGGER IF EXISTS temp." + name);
-            db.exec("CREATE TEMP TRIGGER " + name + " BEFORE " + op + " ON main." + table +
-                    " BEGIN UPDATE failPlan SET seen = seen + 1;"
-                    " SELECT RAISE(ABORT, 'forced failure') WHERE (SELECT seen FROM failPlan) = (SELECT at FROM failPlan);"
-                    " END");
-        }
-    }
-}
-
 } // namespace
 
 class TestRecordGame : public QObject
@@ -274,13 +253,14 @@ private Q_SLOTS:
 
         int failed = 0;
         for (int n = 1; n <= writes + 1; ++n) {
-            failAtWrite(n);
+            recordtest::failAtWrite(n);
             const QByteArray before = Season::fileBytes();
             s.fake.messages.clear();
             if (recordWithBoard(game) == GameRecorder::Result::Recorded)
                 break;
             ++failed;
-            QCOMPARE(s.fake.messages.texts().last(), "There was an error in recording the data for this game.");
+            QCOMPARE(s.fake.messages.texts().size(), 1);
+            QVERIFY(s.fake.messages.texts().first().startsWith("Database Error"));
             QVERIFY2(Season::fileBytes() == before, qPrintable(QString::number(n)));
             QVERIFY(!Season::isRecorded(game));
             QCOMPARE(Season::seasonRow("Hitting", "201"), homeRow);

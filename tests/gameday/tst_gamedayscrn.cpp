@@ -175,7 +175,7 @@ private Q_SLOTS:
         inning(1, {"0:KS"});
         inning(2, {"1:B2>xLOB", "2:KL", "3:GO", "0:FO"});
         QVERIFY(m_scr->finalizeBtn->isVisible());
-        QVERIFY(!m_scr->finalizeBtn->isEnabled()); // recording isn't part of this window
+        QVERIFY(m_scr->finalizeBtn->isEnabled());
 
         // Team A: three innings with a substitution after the first.
         m_scr->TeamBtn[0]->click();

@@ -13,7 +13,9 @@
 #include "reports/ui/qlmListBox.h"
 #include "schedule/EventDates.h"
 #include "stats/GameStats.h"
+#include "stats/RecordGameData.h"
 #include "stats/ui/FieldingCtr.h"
+#include "stats/ui/finalCheckScrn.h"
 #include "stats/ui/battingCtr.h"
 #include "stats/ui/pitchingCtr.h"
 #include "support/NumberKeyRule.h"
@@ -162,8 +164,6 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     // --- Bottom row --------------------------------------------------------------------
     auto *bottom = new QHBoxLayout;
     finalizeBtn = form::button(central, QStringLiteral("finalizeBtn"), tr("Record Game Data"));
-    // Recording is built on top of this window; until then the button stays off.
-    finalizeBtn->setEnabled(false);
     finalizeBtn->hide();
     dataRecordedLabel = form::valueLabel(central, QStringLiteral("dataRecordedLabel"), tr("Recorded"));
     dataRecordedLabel->setText(QStringLiteral("Game data has been recorded"));
@@ -185,6 +185,17 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     connect(m_game.get(), &GameDay::boardChanged, this, &gameDayScrn::showBoard);
     connect(m_game.get(), &GameDay::lineupChanged, this, &gameDayScrn::showLineup);
     connect(m_game.get(), &GameDay::finalizeVisibleChanged, this, &gameDayScrn::showFinalize);
+    connect(finalizeBtn, &QPushButton::clicked, this, [this] {
+        // An open panel saves and closes first; one that won't (a bad
+        // innings text) keeps the game from being recorded.
+        if (!reinitStatsScrns())
+            return;
+        stats::recordGameData(*gData, *m_game, [this](const std::array<bool, 4> &checks) {
+            finalCheckScrn check(this);
+            return check.showMe(checks);
+        });
+        showFinalize();
+    });
     connect(m_game.get(), &GameDay::enterRHEChanged, this, [this](bool on) {
         const QSignalBlocker block(EnterRHE_Btn);
         EnterRHE_Btn->setChecked(on);

@@ -8,6 +8,7 @@
 #include "app/globals.h"
 #include "fakes/FakePlatform.h"
 #include "gameday/GridTestSupport.h"
+#include "stats/GameStats.h"
 
 #include <SQLiteCpp/Database.h>
 
@@ -69,28 +70,14 @@ public:
         return schedID;
     }
 
-    static void hitPanel(const QString &game, const QString &player, const QString &stats)
+    // A panel row as the game screen's panels save it.
+    static void panel(stats::Panel kind, const QString &game, const QString &player, const QString &figures)
     {
-        gData->insert(QStringLiteral("GamesIndivHitting"), {{QStringLiteral("gameID"), game},
-                                                            {QStringLiteral("playerID"), player},
-                                                            {QStringLiteral("stats"), stats}});
+        stats::GameStatStore(*gData).saveStats(kind, game, player, {}, figures);
     }
-    static void fieldPanel(const QString &game, const QString &player, const QString &stats)
+    static void pitchPanel(const QString &game, const QString &player, const stats::PitchingLine &line)
     {
-        gData->insert(QStringLiteral("GamesIndivFielding"), {{QStringLiteral("gameID"), game},
-                                                             {QStringLiteral("playerID"), player},
-                                                             {QStringLiteral("stats"), stats}});
-    }
-    // `line` is "gameResult start shutout compGame balls strikes", blank-separated.
-    static void pitchPanel(const QString &game, const QString &player, const QString &line, const QString &stats)
-    {
-        const QStringList v = line.split(u' ');
-        gData->insert(QStringLiteral("GamesIndivPitching"),
-                      {{QStringLiteral("gameID"), game}, {QStringLiteral("playerID"), player},
-                       {QStringLiteral("gameResult"), v.at(0).toInt()}, {QStringLiteral("start"), v.at(1).toInt()},
-                       {QStringLiteral("shutout"), v.at(2).toInt()}, {QStringLiteral("compGame"), v.at(3).toInt()},
-                       {QStringLiteral("totBalls"), v.at(4).toInt()}, {QStringLiteral("totKs"), v.at(5).toInt()},
-                       {QStringLiteral("stats"), stats}});
+        stats::GameStatStore(*gData).savePitching(game, player, {}, line);
     }
 
     // The non-zero figures of a player's row in a season table, as

@@ -5,6 +5,7 @@
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
+#include "gameday/ui/gameDayScrn.h"
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
@@ -22,6 +23,8 @@ void registerScreens()
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
     screens::registerScreen(ScreenId::reportIntroScrn, [] { return new reportIntroScrn; });
     screens::registerScreen(ScreenId::standingsScrn, [] { return new standingsScrn; });
+    screens::registerScreen(ScreenId::gameDayScrn,
+                            [](const QVariant &eventID) { return new gameDayScrn(eventID.toString()); });
 }
 
 } // namespace

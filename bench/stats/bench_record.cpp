@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kPlayers = 3000;
 constexpr int kLineup = 25;
-constexpr int kRounds = 9;
+constexpr int kRounds = 15;
 constexpr int kHistoryGames = 60;
 
 std::string columnsList(const auto &columns, const char *suffix)
@@ -50,7 +50,12 @@ class BenchRecord : public QObject
     Q_OBJECT
 
     fakes::FakePlatform m_fake;
-    QTemporaryDir m_home {QDir::currentPath() + QStringLiteral("/bench-record-XXXXXX")};
+    // The season lies in the working folder, on the disk a coach's season
+    // would use; TL_BENCH_DIR puts it elsewhere (a RAM disk, to see the
+    // work apart from the disk's flushes).
+    QTemporaryDir m_home {(qEnvironmentVariableIsEmpty("TL_BENCH_DIR") ? QDir::currentPath()
+                                                                       : qEnvironmentVariable("TL_BENCH_DIR")) +
+                          QStringLiteral("/bench-record-XXXXXX")};
     std::unique_ptr<App> m_app;
     QString m_teams;
     std::array<QString, 2> m_players;

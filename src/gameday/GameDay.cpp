@@ -27,7 +27,8 @@ GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent)
         if (!m_autoFill)
             commitClick();
     });
-    connect(&m_card, &ScoreGrid::autoFillDataReturn, this, [this](const AutoFillData &data) {
+    connect(&m_card, &ScoreGrid::autoFillDataReturn, this, [this](const AutoFillData &figures) {
+        const AutoFillData data = figures; // the grid's own array, cleared below
         switchTeams();
         m_autoFill = false;
         m_card.reinitAutoVars();
@@ -96,6 +97,11 @@ void GameDay::displayCurrentTeam(bool updateBoard)
     for (int c = int(headings.size()); c < kDefaultColumns; ++c)
         headings.append(QString::number(c + 1));
     m_card.setColumnHeadings(headings);
+    // Live columns: the scheduled innings and this team's doublings.
+    int doubled = 0;
+    for (const QString &h : headings)
+        doubled += h.endsWith(u'a') ? 1 : 0;
+    m_card.setDefInnings(regulationInnings() + doubled);
     fillScoreCard();
     m_batStats = readBatStats(s.batStats);
     m_card.setSelectedRow(-1);

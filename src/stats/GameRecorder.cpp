@@ -233,13 +233,8 @@ GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game
         showBadInnings(refusedPlayer, refusedTotal);
         return Result::BadInnings;
     }
-    if (!written) {
-        // The database error has been shown (a constraint failure quietly);
-        // either way the coach learns that nothing was recorded.
-        gMsgBox(QStringLiteral("There was an error in recording the data for this game."));
-        return Result::Failed;
-    }
-    return Result::Recorded;
+    // A database failure has been shown by the transaction.
+    return written ? Result::Recorded : Result::Failed;
 }
 
 } // namespace stats

@@ -59,8 +59,7 @@ public:
     // transaction then takes everything back.
     void write(SQLite::Database &db) const;
 
-    const SeasonRow<kHittingFigures> *hitting(qint64 playerID) const;
-    const SeasonRow<kFieldingFigures> *fielding(qint64 playerID) const;
+    // The player's pitching row as it stands, or null.
     const SeasonRow<kPitchingFigures> *pitching(qint64 playerID) const;
 
 private:

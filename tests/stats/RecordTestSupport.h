@@ -8,6 +8,9 @@
 #include "app/globals.h"
 #include "fakes/FakePlatform.h"
 #include "gameday/GridTestSupport.h"
+#include "stats/GameStats.h"
+
+#include <SQLiteCpp/Database.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -67,28 +70,14 @@ public:
         return schedID;
     }
 
-    static void hitPanel(const QString &game, const QString &player, const QString &stats)
+    // A panel row as the game screen's panels save it.
+    static void panel(stats::Panel kind, const QString &game, const QString &player, const QString &figures)
     {
-        gData->insert(QStringLiteral("GamesIndivHitting"), {{QStringLiteral("gameID"), game},
-                                                            {QStringLiteral("playerID"), player},
-                                                            {QStringLiteral("stats"), stats}});
+        stats::GameStatStore(*gData).saveStats(kind, game, player, {}, figures);
     }
-    static void fieldPanel(const QString &game, const QString &player, const QString &stats)
+    static void pitchPanel(const QString &game, const QString &player, const stats::PitchingLine &line)
     {
-        gData->insert(QStringLiteral("GamesIndivFielding"), {{QStringLiteral("gameID"), game},
-                                                             {QStringLiteral("playerID"), player},
-                                                             {QStringLiteral("stats"), stats}});
-    }
-    // `line` is "gameResult start shutout compGame balls strikes", blank-separated.
-    static void pitchPanel(const QString &game, const QString &player, const QString &line, const QString &stats)
-    {
-        const QStringList v = line.split(u' ');
-        gData->insert(QStringLiteral("GamesIndivPitching"),
-                      {{QStringLiteral("gameID"), game}, {QStringLiteral("playerID"), player},
-                       {QStringLiteral("gameResult"), v.at(0).toInt()}, {QStringLiteral("start"), v.at(1).toInt()},
-                       {QStringLiteral("shutout"), v.at(2).toInt()}, {QStringLiteral("compGame"), v.at(3).toInt()},
-                       {QStringLiteral("totBalls"), v.at(4).toInt()}, {QStringLiteral("totKs"), v.at(5).toInt()},
-                       {QStringLiteral("stats"), stats}});
+        stats::GameStatStore(*gData).savePitching(game, player, {}, line);
     }
 
     // The non-zero figures of a player's row in a season table, as
@@ -155,5 +144,26 @@ private:
     QTemporaryDir m_home;
     std::unique_ptr<App> m_app;
 };
+
+// Makes the n-th write of the season tables, the team records or the game
+// row fail inside the database. The triggers live in the connection's
+// temporary schema, so the season file itself is not changed by them.
+inline void failAtWrite(int n)
+{
+    SQLite::Database &db = *gData->tlynData;
+    db.exec("CREATE TEMP TABLE IF NOT EXISTS failPlan (at INTEGER, seen INTEGER)");
+    db.exec("DELETE FROM temp.failPlan");
+    db.exec("INSERT INTO temp.failPlan VALUES (" + std::to_string(n) + ", 0)");
+    for (const char *table : {"Hitting", "Fielding", "Pitching", "GameResultsByTeam", "Games"}) {
+        for (const char *op : {"INSERT", "UPDATE"}) {
+            const std::string name = std::string("fail_") + op + "_" + table;
+            db.exec("DROP TRIGGER IF EXISTS temp." + name);
+            db.exec("CREATE TEMP TRIGGER " + name + " BEFORE " + op + " ON main." + table +
+                    " BEGIN UPDATE failPlan SET seen = seen + 1;"
+                    " SELECT RAISE(ABORT, 'forced failure') WHERE (SELECT seen FROM failPlan) = (SELECT at FROM failPlan);"
+                    " END");
+        }
+    }
+}
 
 } // namespace recordtest

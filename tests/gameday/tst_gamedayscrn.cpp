@@ -276,13 +276,13 @@ private Q_SLOTS:
         // Open it again: every string, cell and box as it was.
         openFromSchedule(season);
         QCOMPARE(board(0), boardA);
+        if (qEnvironmentVariableIsSet("TL_SCREENSHOT"))
+            m_scr->grab().save(qEnvironmentVariable("TL_SCREENSHOT"));
         m_scr->TeamBtn[1]->click();
         QCOMPARE(board(1), boardB);
         QCOMPARE(m_scr->scoreCardLB->grid().getMyData(), data);
         QVERIFY(m_scr->finalizeBtn->isVisible());
         QCOMPARE(storedStrings(season.schedID()), stored);
-        if (qEnvironmentVariableIsSet("TL_SCREENSHOT"))
-            m_scr->grab().save(qEnvironmentVariable("TL_SCREENSHOT"));
         m_scr->close();
     }
 };

@@ -152,6 +152,11 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     batterStatLB->setColumnType(1, ListBoxModel::CellType::Editable);
     batterStatLB->setFixedWidth(84);
     gridRow->addWidget(batterStatLB);
+    // Lineup, grid and batter statistics stand row for row.
+    const QString rows16 = QStringLiteral("QTreeView::item { height: %1px; padding: 0px; }")
+                               .arg(gameday::ScoreGridRenderer::kRowHeight);
+    Names_PosLB->setStyleSheet(rows16);
+    batterStatLB->setStyleSheet(rows16);
     middle->addWidget(m_gridArea, 1);
     outer->addLayout(middle, 1);
 

@@ -21,6 +21,7 @@
 #include "support/ui/PlusMinusContainer.h"
 #include "support/ui/pleaseWaitScrn.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -596,13 +597,16 @@ void gameDayScrn::printLineup()
     if (!job)
         return;
     QPainter &p = job->painter();
+    const QFont font = platform::printFont(QApplication::font(), 10);
+    p.setFont(font);
     const QRectF page(0, 0, job->setup().width(), job->setup().height());
     const QPixmap picture = centralWidget()->grab();
     const QString team = TeamBtn[size_t(m_game->curSelTeam())]->text();
     for (int copy = 0; copy < job->copies(); ++copy) {
         if (copy > 0)
             job->newPage();
-        p.drawText(QPointF(40, 40), team);
+        // The date stands 100 points to the right: a longer name is cut to fit.
+        p.drawText(QPointF(40, 40), TruncateStr(QFontMetricsF(font), team, 96));
         p.drawText(QPointF(140, 40), QStringLiteral("Printed: ") + EventDates::shortDate(platform::clock().now().date()));
         const QRectF source(m_gridArea->geometry());
         const double scale = page.width() / source.width();

@@ -320,6 +320,41 @@ private Q_SLOTS:
         QCOMPARE(storedStrings(season.schedID()), stored);
         m_scr->close();
     }
+
+    // The bottom line when a game is opened again: the button for a game
+    // not recorded (a new game shows neither, see playAGame), the label
+    // once recorded.
+    void recordedState_data()
+    {
+        QTest::addColumn<bool>("inningOver");
+        QTest::addColumn<bool>("recorded");
+        QTest::addColumn<bool>("button");
+        QTest::addColumn<bool>("label");
+        QTest::newRow("no at bat yet") << false << false << true << false;
+        QTest::newRow("in progress") << true << false << true << false;
+        QTest::newRow("recorded") << true << true << false << true;
+    }
+    void recordedState()
+    {
+        QFETCH(bool, inningOver);
+        QFETCH(bool, recorded);
+        QFETCH(bool, button);
+        QFETCH(bool, label);
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        if (inningOver) {
+            addByPos({"C", "B1", "B2"});
+            inning(0, {"0:GO", "1:FO", "2:KS"});
+        }
+        if (recorded)
+            m_scr->game().setRecorded();
+        QVERIFY(m_scr->close());
+        openFromSchedule(season);
+        QCOMPARE(m_scr->finalizeBtn->isVisible(), button);
+        QCOMPARE(m_scr->dataRecordedLabel->isVisible(), label);
+        QCOMPARE(GameStore(*gData).load(season.schedID())->recorded, recorded);
+        m_scr->close();
+    }
 };
 
 QTEST_MAIN(TestGameDayScrn)

@@ -143,6 +143,9 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     scoreCardLB = new BBScoringLB(scroll);
     scoreCardLB->setObjectName(QStringLiteral("scoreCardLB"));
     scroll->setWidget(scoreCardLB);
+    dataAnalLB = new BBScoringLB(m_gridArea);
+    dataAnalLB->setObjectName(QStringLiteral("dataAnalLB"));
+    dataAnalLB->hide();
     scroll->setFocusPolicy(Qt::NoFocus);
     gridRow->addWidget(scroll, 1);
     batterStatLB = form::named(new qlmListBox(m_gridArea), QStringLiteral("batterStatLB"), tr("Runs batted in and stolen bases"));

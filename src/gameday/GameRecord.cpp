@@ -17,18 +17,27 @@ QList<QStringList> linesWith(const QString &text, int fields)
     return out;
 }
 
-QString joinLine(std::initializer_list<QString> values)
+// Appends one line of fields to `out`, a carriage return before all but the first.
+void appendLine(QString &out, std::initializer_list<QString> values)
 {
-    QStringList parts;
-    for (const QString &v : values)
-        parts.append(cleanField(v));
-    return parts.join(kFieldSep);
+    if (!out.isEmpty())
+        out += kLineSep;
+    bool first = true;
+    for (const QString &v : values) {
+        if (!first)
+            out += kFieldSep;
+        out += cleanField(v);
+        first = false;
+    }
 }
 
 } // namespace
 
 QString cleanField(const QString &value)
 {
+    // Most values hold no separator: share them rather than copy.
+    if (!value.contains(u'\t') && !value.contains(u'\r') && !value.contains(u'\n'))
+        return value;
     QString out = value;
     for (QChar &c : out) {
         if (c == u'\t' || c == u'\r' || c == u'\n')
@@ -54,10 +63,10 @@ QList<BenchLine> readBench(const QString &text)
 
 QString writeBench(const QList<BenchLine> &lines)
 {
-    QStringList out;
+    QString out;
     for (const BenchLine &l : lines)
-        out.append(joinLine({l.uniNum, l.name, l.pos, l.playerID}));
-    return out.join(kLineSep);
+        appendLine(out, {l.uniNum, l.name, l.pos, l.playerID});
+    return out;
 }
 
 QList<LineupLine> readPlayers(const QString &text)
@@ -70,10 +79,10 @@ QList<LineupLine> readPlayers(const QString &text)
 
 QString writePlayers(const QList<LineupLine> &lines)
 {
-    QStringList out;
+    QString out;
     for (const LineupLine &l : lines)
-        out.append(joinLine({l.order, l.pos, l.name, l.playerID}));
-    return out.join(kLineSep);
+        appendLine(out, {l.order, l.pos, l.name, l.playerID});
+    return out;
 }
 
 QList<BatterStat> readBatStats(const QString &text)
@@ -86,10 +95,10 @@ QList<BatterStat> readBatStats(const QString &text)
 
 QString writeBatStats(const QList<BatterStat> &lines)
 {
-    QStringList out;
+    QString out;
     for (const BatterStat &l : lines)
-        out.append(joinLine({l.rbi, l.sb}));
-    return out.join(kLineSep);
+        appendLine(out, {l.rbi, l.sb});
+    return out;
 }
 
 int RunEntry::runs() const

@@ -691,14 +691,15 @@ void ScoreGrid::setMyData(const QString &data)
 
 QString ScoreGrid::getMyBkgArray() const
 {
+    // Written after every click: one allocation, one character per code.
     QString out;
-    out.reserve(kBkgRows * (kStoredBkgCols + 1));
+    out.reserve(kBkgRows * (2 * kStoredBkgCols + 1));
     for (int r = 0; r < kBkgRows; ++r) {
         if (r > 0)
-            out += kCR;
+            out += u'\r';
         for (int c = 0; c < kStoredBkgCols; ++c) {
             out += xCellBkg[r][c];
-            out += kTab;
+            out += u'\t';
         }
     }
     return out;

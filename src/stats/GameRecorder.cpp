@@ -109,7 +109,7 @@ int GameRecorder::countRecRBI(const QString &batterStats)
 {
     int rbi = 0;
     for (const QString &line : splitLines(batterStats))
-        rbi += int(figureValue(line.section(kFieldSep, 0, 0)));
+        rbi += int(figureCount(line.section(kFieldSep, 0, 0)));
     return rbi;
 }
 

@@ -1,5 +1,7 @@
 #include "stats/SeasonFigures.h"
 
+#include <limits>
+
 namespace stats {
 
 const std::array<const char *, kHittingFigures> &hittingColumns()
@@ -48,16 +50,21 @@ QStringView leadingNumber(QStringView text)
 
 } // namespace
 
-double figureValue(QStringView text)
-{
-    bool ok = false;
-    const double value = leadingNumber(text).toDouble(&ok);
-    return ok ? value : 0.0;
-}
-
 qint64 figureCount(QStringView text)
 {
-    return qint64(figureValue(text));
+    // Counts are whole: the digits before the dot are all that is read.
+    const QStringView number = leadingNumber(text);
+    qsizetype i = 0;
+    const bool negative = !number.isEmpty() && number.at(0) == u'-';
+    if (!number.isEmpty() && (number.at(0) == u'-' || number.at(0) == u'+'))
+        ++i;
+    qint64 value = 0;
+    for (; i < number.size() && number.at(i).isDigit(); ++i) {
+        if (value > (std::numeric_limits<qint64>::max() - 9) / 10)
+            break; // a figure no game holds: kept at its leading digits
+        value = value * 10 + number.at(i).digitValue();
+    }
+    return negative ? -value : value;
 }
 
 std::optional<int> inningsCodeFromText(QStringView text)

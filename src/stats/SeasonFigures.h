@@ -35,10 +35,8 @@ const std::array<const char *, kHittingFigures> &hittingColumns();
 const std::array<const char *, kFieldingFigures> &fieldingColumns();
 const std::array<const char *, kPitchingFigures> &pitchingColumns();
 
-// The numeric value of a typed figure: its leading number, 0 when it has
-// none ("1.5" gives 1.5, "3 runs" 3, "" and "--" 0).
-double figureValue(QStringView text);
-// The same, truncated toward zero as every stored count is.
+// A typed figure as a stored count: the whole part of its leading number,
+// 0 when it has none ("1.5" gives 1, "3 runs" 3, "" and "--" 0).
 qint64 figureCount(QStringView text);
 
 // The innings code of a typed innings text: whole innings times 10 plus the

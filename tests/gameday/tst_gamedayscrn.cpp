@@ -6,17 +6,23 @@
 // are compared with a golden file.
 
 #include "GameDayTestSupport.h"
+#include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
+#include "fakes/TestSupport.h"
+#include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/BBPlayersLB.h"
 #include "gameday/ui/BBScoringLB.h"
 #include "gameday/ui/gameDayScrn.h"
 #include "reports/ui/qlmListBox.h"
+#include "schedule/EventDates.h"
 #include "schedule/ui/scheduleScrn.h"
 #include "stats/ui/AutoFillPitchScrn.h"
 #include "stats/ui/FieldingCtr.h"
 #include "stats/ui/battingCtr.h"
 #include "stats/ui/pitchingCtr.h"
+#include "support/ui/PlusMinusContainer.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
@@ -40,19 +46,25 @@ T *shown()
     return nullptr;
 }
 
-// Clicks "Continue" on the auto-fill window once it shows.
-void continueAutoFill()
+// Works a modal window of type T once it shows.
+template<class T>
+void whenShown(std::function<void(T *)> work)
 {
     auto *poll = new QTimer;
     poll->setInterval(5);
-    QObject::connect(poll, &QTimer::timeout, poll, [poll] {
-        if (auto *w = shown<AutoFillPitchScrn>()) {
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, work] {
+        if (auto *w = shown<T>()) {
             poll->deleteLater();
             poll->stop();
-            w->findChild<QPushButton *>(QStringLiteral("ContBtn"))->click();
+            work(w);
         }
     });
     poll->start();
+}
+
+void continueAutoFill()
+{
+    whenShown<AutoFillPitchScrn>([](AutoFillPitchScrn *w) { w->findChild<QPushButton *>(QStringLiteral("ContBtn"))->click(); });
 }
 
 int rowOfPos(qlmListBox *list, const QString &pos)
@@ -113,6 +125,11 @@ class TestGameDayScrn : public QObject
             QTest::keyClick(m_scr->addBtn, Qt::Key_Space);
         }
     }
+    // The cell editor open in the RBI and SB list.
+    QWidget *statEditor() const
+    {
+        return m_scr->batterStatLB->indexWidget(m_scr->batterStatLB->currentIndex());
+    }
     QStringList board(int team) const
     {
         QStringList out;
@@ -167,6 +184,19 @@ private Q_SLOTS:
         m_scr->TeamBtn[1]->click();
         QCOMPARE(m_scr->game().curSelTeam(), 1);
         addByPos({"C", "B1", "B2", "RHP"});
+        // A player taken off the bench comes back through the list of the team's players.
+        m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, "P"));
+        Q_EMIT m_scr->PlusMinusPlayers->MinusPressed();
+        QCOMPARE(msgs.texts().last(), QStringLiteral("Are you sure you wish to remove Bo12 Smith from the list of available players?"));
+        QCOMPARE(m_scr->rosterList->rowCount(), 7);
+        whenShown<AddPlayersToGameScrn>([](AddPlayersToGameScrn *w) {
+            for (int r = 0; r < w->PlayerList->rowCount(); ++r)
+                w->PlayerList->setCellCheck(r, 0, true);
+            w->findChild<QPushButton *>(QStringLiteral("doneBtn"))->click();
+        });
+        Q_EMIT m_scr->PlusMinusPlayers->PlusPressed();
+        QCOMPARE(m_scr->rosterList->rowCount(), 8); // only the one on neither list
+        QCOMPARE(m_scr->rosterList->cell(7, 1), QStringLiteral("Bo12 Smith"));
 
         // Team B bats in the second half, but its card is on show: the
         // first inning doubles (four batters, two outs when the order comes round).
@@ -191,13 +221,13 @@ private Q_SLOTS:
 
         // RBI and SB from the keyboard: "+" steps, Return goes down, Tab across.
         m_scr->batterStatLB->editCell(4, 0);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Minus);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QTest::keyClick(statEditor(), Qt::Key_Plus);
+        QTest::keyClick(statEditor(), Qt::Key_Return);
+        QTest::keyClick(statEditor(), Qt::Key_Tab);
+        QTest::keyClick(statEditor(), Qt::Key_Plus);
+        QTest::keyClick(statEditor(), Qt::Key_Plus);
+        QTest::keyClick(statEditor(), Qt::Key_Minus);
+        QTest::keyClick(statEditor(), Qt::Key_Return);
         QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(4), (BatterStat{"1", "0"}));
         QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(5), (BatterStat{"0", "1"}));
 
@@ -276,13 +306,53 @@ private Q_SLOTS:
         // Open it again: every string, cell and box as it was.
         openFromSchedule(season);
         QCOMPARE(board(0), boardA);
+        if (qEnvironmentVariableIsSet("TL_SCREENSHOT"))
+            m_scr->grab().save(qEnvironmentVariable("TL_SCREENSHOT"));
+        m_scr->menus()->item(QStringLiteral("FilePrint"))->trigger();
+        QCOMPARE(season.fake.printing.printed.size(), 1);
+        const QString printed = fakes::pdfText(season.fake.printing.printed.first());
+        QVERIFY(printed.startsWith(QStringLiteral("O'Brien's")));
+        QVERIFY(printed.contains(QStringLiteral("Printed: ") + EventDates::shortDate(QDate(2026, 4, 15))));
         m_scr->TeamBtn[1]->click();
         QCOMPARE(board(1), boardB);
         QCOMPARE(m_scr->scoreCardLB->grid().getMyData(), data);
         QVERIFY(m_scr->finalizeBtn->isVisible());
         QCOMPARE(storedStrings(season.schedID()), stored);
-        if (qEnvironmentVariableIsSet("TL_SCREENSHOT"))
-            m_scr->grab().save(qEnvironmentVariable("TL_SCREENSHOT"));
+        m_scr->close();
+    }
+
+    // The bottom line when a game is opened again: the button for a game
+    // not recorded (a new game shows neither, see playAGame), the label
+    // once recorded.
+    void recordedState_data()
+    {
+        QTest::addColumn<bool>("inningOver");
+        QTest::addColumn<bool>("recorded");
+        QTest::addColumn<bool>("button");
+        QTest::addColumn<bool>("label");
+        QTest::newRow("no at bat yet") << false << false << true << false;
+        QTest::newRow("in progress") << true << false << true << false;
+        QTest::newRow("recorded") << true << true << false << true;
+    }
+    void recordedState()
+    {
+        QFETCH(bool, inningOver);
+        QFETCH(bool, recorded);
+        QFETCH(bool, button);
+        QFETCH(bool, label);
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        if (inningOver) {
+            addByPos({"C", "B1", "B2"});
+            inning(0, {"0:GO", "1:FO", "2:KS"});
+        }
+        if (recorded)
+            m_scr->game().setRecorded();
+        QVERIFY(m_scr->close());
+        openFromSchedule(season);
+        QCOMPARE(m_scr->finalizeBtn->isVisible(), button);
+        QCOMPARE(m_scr->dataRecordedLabel->isVisible(), label);
+        QCOMPARE(GameStore(*gData).load(season.schedID())->recorded, recorded);
         m_scr->close();
     }
 };

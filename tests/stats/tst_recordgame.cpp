@@ -82,10 +82,9 @@ private Q_SLOTS:
         QTest::newRow("4.1 + 2.2 = 7.0") << 2 << "Pitching" << "205"
             << "Win=1 ND=1 Start=1 Balls=40 Ks=62 PitCt=102 IP=70 BF=29 Hits=5 ErRuns=2 HRA=1 GrO=3 FlO=4 BB=2 Kouts=6 WldP=1";
         QTest::newRow("4.2 + 2.2 = 7.1") << 2 << "Pitching" << "302" << "Loss=1 Save=1 IP=71 BF=25 Hits=7";
-        // Team records, "W-L-Tie": a win makes both rows, a tie adds to them.
-        QTest::newRow("winner's record") << 1 << "GameResultsByTeam" << "home" << "1-0-0";
-        QTest::newRow("loser's record") << 1 << "GameResultsByTeam" << "bears" << "0-1-0";
-        QTest::newRow("a tie added") << 2 << "GameResultsByTeam" << "home" << "1-0-1";
+        // Team records, "W-L-Tie": a tie added to the rows of a win.
+        QTest::newRow("a tie added to a win") << 2 << "GameResultsByTeam" << "home" << "1-0-1";
+        QTest::newRow("a tie added to a loss") << 2 << "GameResultsByTeam" << "bears" << "0-1-1";
     }
     void seasonRows()
     {

@@ -23,6 +23,7 @@
 #include "support/ui/PlusMinusContainer.h"
 #include "support/ui/pleaseWaitScrn.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -144,6 +145,9 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     scoreCardLB = new BBScoringLB(scroll);
     scoreCardLB->setObjectName(QStringLiteral("scoreCardLB"));
     scroll->setWidget(scoreCardLB);
+    dataAnalLB = new BBScoringLB(m_gridArea);
+    dataAnalLB->setObjectName(QStringLiteral("dataAnalLB"));
+    dataAnalLB->hide();
     scroll->setFocusPolicy(Qt::NoFocus);
     gridRow->addWidget(scroll, 1);
     batterStatLB = form::named(new qlmListBox(m_gridArea), QStringLiteral("batterStatLB"), tr("Runs batted in and stolen bases"));
@@ -154,6 +158,11 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     batterStatLB->setColumnType(1, ListBoxModel::CellType::Editable);
     batterStatLB->setFixedWidth(84);
     gridRow->addWidget(batterStatLB);
+    // Lineup, grid and batter statistics stand row for row.
+    const QString rows16 = QStringLiteral("QTreeView::item { height: %1px; padding: 0px; }")
+                               .arg(gameday::ScoreGridRenderer::kRowHeight);
+    Names_PosLB->setStyleSheet(rows16);
+    batterStatLB->setStyleSheet(rows16);
     middle->addWidget(m_gridArea, 1);
     outer->addLayout(middle, 1);
 
@@ -602,13 +611,16 @@ void gameDayScrn::printLineup()
     if (!job)
         return;
     QPainter &p = job->painter();
+    const QFont font = platform::printFont(QApplication::font(), 10);
+    p.setFont(font);
     const QRectF page(0, 0, job->setup().width(), job->setup().height());
     const QPixmap picture = centralWidget()->grab();
     const QString team = TeamBtn[size_t(m_game->curSelTeam())]->text();
     for (int copy = 0; copy < job->copies(); ++copy) {
         if (copy > 0)
             job->newPage();
-        p.drawText(QPointF(40, 40), team);
+        // The date stands 100 points to the right: a longer name is cut to fit.
+        p.drawText(QPointF(40, 40), TruncateStr(QFontMetricsF(font), team, 96));
         p.drawText(QPointF(140, 40), QStringLiteral("Printed: ") + EventDates::shortDate(platform::clock().now().date()));
         const QRectF source(m_gridArea->geometry());
         const double scale = page.width() / source.width();

@@ -42,6 +42,9 @@ public:
 
     // Controls, by the names the program gives them.
     BBScoringLB *scoreCardLB = nullptr;
+    // Hidden: the other team's card, loaded only to count it when the game
+    // is recorded.
+    BBScoringLB *dataAnalLB = nullptr;
     BBPlayersLB *Names_PosLB = nullptr;
     qlmListBox *rosterList = nullptr;
     qlmListBox *batterStatLB = nullptr;

@@ -3,6 +3,8 @@
 #include "app/globals.h"
 #include "app/myPrefs.h"
 
+#include <QPushButton>
+
 FieldingCtr::FieldingCtr(QWidget *parent)
     : StatPanel(stats::Panel::Fielding, QStringLiteral("myFldCtr"), tr("Fielding Stats"), parent)
 {
@@ -11,4 +13,5 @@ FieldingCtr::FieldingCtr(QWidget *parent)
     for (int i = 0; i < stats::kFieldingFields; ++i)
         addField(i, captions.at(i), i % 7, 2 * (i / 7));
     connect(this, &StatPanel::saved, this, &FieldingCtr::updateErrs);
+    closeBtn->setObjectName(QStringLiteral("Label3"));
 }

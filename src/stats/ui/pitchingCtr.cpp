@@ -94,6 +94,7 @@ pitchingCtr::pitchingCtr(QWidget *parent)
     chain(m_autoFillBtn);
     chain(closeBtn);
     setFocusProxy(m_pitchCt[0]);
+    closeBtn->setObjectName(QStringLiteral("Label6"));
 }
 
 int pitchingCtr::getGameResult() const

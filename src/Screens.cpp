@@ -1,11 +1,14 @@
 #include "Screens.h"
 
 #include "app/ui/ScreenDirectory.h"
+#include "gameday/ui/gameDayScrn.h"
 #include "help/ui/HelpAbbrevScrn.h"
 #include "help/ui/formsScrn.h"
 #include "help/ui/helpScrn2.h"
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
+#include "reports/ui/reportIntroScrn.h"
+#include "reports/ui/standingsScrn.h"
 #include "schedule/ui/eventsCalendarScrn.h"
 #include "schedule/ui/scheduleScrn.h"
 #include "support/HelpRequests.h"
@@ -17,6 +20,10 @@ void registerScreens()
     screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
     screens::registerScreen(ScreenId::eventsCalendarScrn, [] { return new eventsCalendarScrn; });
+    screens::registerScreen(ScreenId::reportIntroScrn, [] { return new reportIntroScrn; });
+    screens::registerScreen(ScreenId::standingsScrn, [] { return new standingsScrn; });
+    screens::registerScreen(ScreenId::gameDayScrn,
+                            [](const QVariant &eventID) { return new gameDayScrn(eventID.toString()); });
     screens::registerScreen(ScreenId::updateDlog, [] { return new updateDlog; });
     screens::registerScreen(ScreenId::helpScrn2,
                             [](const QVariant &topic) { return new helpScrn2(topic.isValid() ? topic.toInt() : 0); });

@@ -69,6 +69,7 @@ void ScoreGrid::setDefInnings(int n)
 void ScoreGrid::deleteAllRows()
 {
     m_texts.clear();
+    m_slots.clear();
     selRow = -1;
     Q_EMIT changed();
 }
@@ -78,6 +79,7 @@ void ScoreGrid::addRow()
     QStringList row;
     row.resize(columnCount());
     m_texts.append(row);
+    m_slots.append(0);
     Q_EMIT changed();
 }
 
@@ -86,6 +88,7 @@ void ScoreGrid::removeRow(int row)
     if (!inRows(row))
         return;
     m_texts.removeAt(row);
+    m_slots.removeAt(row);
     moveUpOutcomes(row);
     Q_EMIT changed();
 }
@@ -195,14 +198,17 @@ void ScoreGrid::cellClicked(int row, int col, bool optionDown)
     if (!cellText(row, col).isEmpty() && optionDown) {
         setCellBkg(row, col, bkg(kBkgLeft));
         Q_EMIT changed();
+        Q_EMIT cellEdited(row, col);
         return;
     }
 
     if (!m_popover)
         return;
     const QString choice = m_popover(row, col, cellBkg(row, col).isEmpty());
-    if (!choice.isEmpty())
+    if (!choice.isEmpty()) {
         applyChoice(row, col, choice);
+        Q_EMIT cellEdited(row, col);
+    }
 }
 
 void ScoreGrid::applyChoice(int row, int col, const QString &choice)
@@ -242,9 +248,9 @@ void ScoreGrid::applyChoice(int row, int col, const QString &choice)
     bool walkoff = false;
     if (actionDict.contains(choice)) {
         setCellBkg(row, col, actionDict.value(choice));
-        // The test reads the column index, not the heading, so doubled
-        // innings before it move the point at which it fires.
-        walkoff = col + 1 >= regulationInnings() && cellBkg(row, col) == kBkgRun;
+        // Asked by inning, not by column: doubled innings before it don't
+        // bring the question forward.
+        walkoff = numericValue(heading(col)) >= regulationInnings() && cellBkg(row, col) == kBkgRun;
     }
     // Results ("x...") colour the cell and leave the batter's code alone.
     if (!choice.startsWith(u'x'))
@@ -298,10 +304,38 @@ void ScoreGrid::initCellBkg(int colUbound)
     Q_EMIT changed();
 }
 
+void ScoreGrid::setRowSlot(int row, int orderNum)
+{
+    if (inRows(row))
+        m_slots[row] = orderNum;
+}
+
+int ScoreGrid::rowSlot(int row) const
+{
+    return inRows(row) ? m_slots.at(row) : 0;
+}
+
+bool ScoreGrid::isReplacedRow(int row) const
+{
+    const int slot = rowSlot(row);
+    return slot > 0 && rowSlot(row + 1) == slot;
+}
+
+int ScoreGrid::closedFrom(int row) const
+{
+    // The start of the row's closing run of disabled cells.
+    int c = qMin(columnCount(), kBkgCols);
+    while (c > 0 && cellBkg(row, c - 1) == kBkgDisabled)
+        --c;
+    return c;
+}
+
 void ScoreGrid::enableWholeCol(int col)
 {
     for (int r = 0; r < bkgRowsInUse(); ++r) {
-        if (cellBkg(r, col) == kBkgDisabled)
+        // A replaced player bats no more: his closed cells from the
+        // substitution on stay closed, so the order still wraps.
+        if (cellBkg(r, col) == kBkgDisabled && !(isReplacedRow(r) && col >= closedFrom(r)))
             setCellBkg(r, col, bkg(kBkgNone));
     }
     Q_EMIT changed();
@@ -435,6 +469,8 @@ void ScoreGrid::insertReplacementRow(int row, int orderNum)
     QStringList blank;
     blank.resize(columnCount());
     m_texts.insert(selRow + 1, blank);
+    m_slots[selRow] = orderNum;
+    m_slots.insert(selRow + 1, orderNum);
     moveDownOutcomes();
 
     int firstOpen = 0;
@@ -655,14 +691,15 @@ void ScoreGrid::setMyData(const QString &data)
 
 QString ScoreGrid::getMyBkgArray() const
 {
+    // Written after every click: one allocation, one character per code.
     QString out;
-    out.reserve(kBkgRows * (kStoredBkgCols + 1));
+    out.reserve(kBkgRows * (2 * kStoredBkgCols + 1));
     for (int r = 0; r < kBkgRows; ++r) {
         if (r > 0)
-            out += kCR;
+            out += u'\r';
         for (int c = 0; c < kStoredBkgCols; ++c) {
             out += xCellBkg[r][c];
-            out += kTab;
+            out += u'\t';
         }
     }
     return out;
@@ -745,29 +782,43 @@ void ScoreGrid::af_calcPitchingData()
         std::swap(autoRowStart, autoRowEnd);
     }
 
+    // Each column's plate appearances run once round the order, from the
+    // row where the column before stopped (a doubled inning's "a" column
+    // goes on from there too). The walk covers exactly the appearances
+    // between the two marks.
     int row = 0;
     int end = 0;
     for (int col = autoColStart; col <= autoColEnd; ++col) {
+        const int rotation = orderStart(col);
         if (col == autoColStart) {
             row = autoRowStart;
-            end = autoColStart == autoColEnd ? nextRow(autoRowEnd) : af_findFirstColRowEnd(col, row);
-        } else if (col == autoColEnd) {
-            row = af_findLastColRowStart(col);
-            if (row == -1) {
-                fail();
-                return;
+            if (autoColStart == autoColEnd) {
+                end = nextRow(autoRowEnd);
+            } else {
+                end = af_findFirstColRowEnd(col, row);
+                if (end == row && !isOpenCell(row, col)) // no open row: the column went round
+                    end = rotation;
             }
-            end = nextRow(autoRowEnd);
+        } else {
+            row = rotation;
+            end = col == autoColEnd ? nextRow(autoRowEnd) : rotation;
         }
-        // Between the two, row and end are where the last column stopped:
-        // equal, so the walk goes once round the whole column. The batting
-        // order runs on from inning to inning, hence the wrap to row 0.
+        // The batting order runs on from inning to inning, hence the wrap
+        // to row 0.
         do {
             visitForAutoFill(row, col);
             row = nextRow(row);
         } while (row != end);
     }
     Q_EMIT autoFillDataReturn(autoFillData);
+}
+
+int ScoreGrid::orderStart(int col) const
+{
+    int start = 0;
+    for (int c = 0; c < col && c < columnCount(); ++c)
+        start = af_findFirstColRowEnd(c, start);
+    return start;
 }
 
 int ScoreGrid::af_findFirstColRowEnd(int col, int startRow) const

@@ -46,6 +46,12 @@ public:
     void addRow();
     // Removes a lineup row and closes the gap in the backgrounds.
     void removeRow(int row);
+    // The batting slot (order number) of a row; 0 when not known. Rows
+    // that share a slot are a player and those who replaced him.
+    void setRowSlot(int row, int orderNum);
+    int rowSlot(int row) const;
+    // Whether the next row took over this row's slot.
+    bool isReplacedRow(int row) const;
 
     // Sets the column count, keeping the texts of the columns that remain.
     // New columns are headed by their number ("21").
@@ -171,6 +177,9 @@ Q_SIGNALS:
     void autoMarkTaken(int row, int col);
     // Texts, backgrounds or the shape of the grid changed.
     void changed();
+    // A click of the coach changed the cell at (row, col): sent once the
+    // click's work, events included, is done.
+    void cellEdited(int row, int col);
 
 private:
     bool inRows(int row) const { return row >= 0 && row < rowCount(); }
@@ -187,10 +196,15 @@ private:
     void removeColumn(int col);
     void visitForAutoFill(int row, int col);
     int nextRow(int row) const { return row + 1 >= rowCount() ? 0 : row + 1; }
+    // The row where the order starts in `col`: where the column before stopped.
+    int orderStart(int col) const;
+    // The first column of the row's closing run of disabled cells.
+    int closedFrom(int row) const;
 
     QStringList m_headings;
     QList<int> m_widths;
     QList<QStringList> m_texts; // one list per lineup row, one text per column
+    QList<int> m_slots;         // batting slot per lineup row, 0 when not known
     std::array<std::array<QString, kBkgCols>, kBkgRows> xCellBkg;
     PopoverRequest m_popover;
 };

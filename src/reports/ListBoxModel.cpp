@@ -372,6 +372,9 @@ QVariant ListBoxModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation == Qt::Horizontal && section >= 0 && section < m_columns) {
         if (role == Qt::DisplayRole)
             return heading(section);
+        // An untitled column (a check box column) still has a name to say.
+        if (role == Qt::AccessibleTextRole)
+            return heading(section).isEmpty() ? QStringLiteral("Column %1").arg(section + 1) : heading(section);
         if (role == Qt::TextAlignmentRole)
             return QVariant::fromValue(columnAlignment(section));
     }

@@ -7,6 +7,8 @@
 // that is not a screen joins with one row in windows_data().
 
 #include "Screens.h"
+#include "app/globals.h"
+#include "app/myDB.h"
 #include "app/ui/AboutScrn.h"
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/splashScrn.h"
@@ -26,6 +28,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 using Opener = std::function<QWidget *()>;
 Q_DECLARE_METATYPE(Opener)
@@ -70,8 +74,23 @@ private Q_SLOTS:
         QTest::addColumn<Opener>("open");
         for (int i = 0; !screenName(ScreenId(i)).isEmpty(); ++i) {
             const auto id = ScreenId(i);
-            if (screens::has(id))
-                QTest::newRow(qPrintable(screenName(id))) << Opener([id] { return screens::create(id); });
+            if (!screens::has(id))
+                continue;
+            if (id == ScreenId::gameDayScrn || id == ScreenId::practicePlanScrn) {
+                // These open on an event of the schedule.
+                QTest::newRow(qPrintable(screenName(id))) << Opener([id] {
+                    const bool game = id == ScreenId::gameDayScrn;
+                    const qint64 hawks = gData->insert(u"Teams"_s, {{u"TeamName"_s, u"Hawks"_s}});
+                    const qint64 event = gData->insert(u"Schedule"_s, {{u"SchedDate"_s, u"2026-04-15"_s},
+                                                                      {u"Event"_s, game ? u"Game"_s : u"Practice"_s},
+                                                                      {u"Opponent"_s, u"Hawks"_s},
+                                                                      {u"OppID"_s, QString::number(hawks)},
+                                                                      {u"isHome"_s, game ? 1 : 0}});
+                    return screens::create(id, QString::number(event));
+                });
+                continue;
+            }
+            QTest::newRow(qPrintable(screenName(id))) << Opener([id] { return screens::create(id); });
         }
         QTest::newRow("startScrn1") << Opener([] { return startScrn1::showStartScreen(); });
         QTest::newRow("splashScrn") << Opener([] { return new splashScrn; });

@@ -120,26 +120,6 @@ private Q_SLOTS:
         QCOMPARE(figures(grid.autoFillData), QStringLiteral("0,0,0,0,0,0,0,0"));
     }
 
-    void spanNotFound()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 4);
-        fillColumn(grid, 0, { "B1/G", "GO/R", "FO/R", "KS/R" });
-        fillColumn(grid, 1, { "B1", "GO/R" });
-        QSignalSpy done(&grid, &ScoreGrid::autoFillDataReturn);
-        QSignalSpy failed(&grid, &ScoreGrid::autoFillFailed);
-
-        gIsAutoFillMode = true;
-        grid.cellClicked(0, 0, false);
-        grid.cellClicked(1, 1, false);
-
-        QCOMPARE(failed.count(), 1);
-        QCOMPARE(done.count(), 0);
-        QCOMPARE(env.fake.messages.texts(), QStringList { "An error occurred while retrieving the pitcher's data" });
-        QCOMPARE(env.fake.messages.shown.at(0).explanation, QStringLiteral("Please fill in the data manually."));
-    }
-
     void firstColRowEnd_data()
     {
         QTest::addColumn<QStringList>("column");

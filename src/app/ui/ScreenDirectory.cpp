@@ -15,6 +15,7 @@ QString screenName(ScreenId id)
     case ScreenId::contactInfoScrn: return QStringLiteral("contactInfoScrn");
     case ScreenId::emailInfoScrn: return QStringLiteral("emailInfoScrn");
     case ScreenId::reportIntroScrn: return QStringLiteral("reportIntroScrn");
+    case ScreenId::reportScrn: return QStringLiteral("reportScrn");
     case ScreenId::standingsScrn: return QStringLiteral("standingsScrn");
     case ScreenId::formsScrn: return QStringLiteral("formsScrn");
     case ScreenId::prefScrn: return QStringLiteral("prefScrn");

@@ -16,6 +16,7 @@ enum class ScreenId {
     contactInfoScrn,
     emailInfoScrn,      // the mail settings
     reportIntroScrn,
+    reportScrn,         // opened by reportIntroScrn with the chosen columns
     standingsScrn,
     formsScrn,
     prefScrn,

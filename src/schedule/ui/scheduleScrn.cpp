@@ -77,6 +77,13 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     connect(deleteEvBtn, &QPushButton::clicked, this, &scheduleScrn::deleteEvent);
     connect(printBtn, &QPushButton::clicked, this, &scheduleScrn::doPrintSchedule);
     connect(exportBtn, &QPushButton::clicked, this, &scheduleScrn::exportSchedule);
+    connect(enterDataBtn, &QPushButton::clicked, this, [this] {
+        const int row = ScheduleListbox->selectedRow();
+        if (row < 0 || !enterDataBtn->isEnabled())
+            return;
+        if (QWidget *game = screens::create(ScreenId::gameDayScrn, ScheduleListbox->rowTag(row)))
+            game->show();
+    });
     connect(viewCalendarBtn, &QPushButton::clicked, this, [] {
         if (QWidget *calendar = screens::create(ScreenId::eventsCalendarScrn))
             calendar->show();
@@ -170,9 +177,9 @@ void scheduleScrn::selectionChanged()
     deleteEvBtn->setEnabled(row >= 0);
     enterDataBtn->setText(row >= 0 ? ScheduleList::dataButtonCaption(ScheduleListbox->cell(row, 3))
                                    : QStringLiteral("---"));
-    // The game screen and the practice plans aren't part of the program
-    // yet: the caption tells what the event has, the button stays off.
-    enterDataBtn->setEnabled(false);
+    // The practice plans aren't part of the program yet: the caption tells
+    // what the event has, and only a game's button opens a window.
+    enterDataBtn->setEnabled(enterDataBtn->text() == u"Enter Game Data" && screens::has(ScreenId::gameDayScrn));
     schedIDLabel->setText(row >= 0 ? QStringLiteral("Schedule ID = ") + ScheduleListbox->rowTag(row)
                                    : QStringLiteral("No Selection"));
 }

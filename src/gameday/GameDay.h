@@ -1,0 +1,181 @@
+#pragma once
+
+// One game on the game screen, with no widget in it: both teams' strings,
+// the team on show loaded into its scorecard, lineup, bench and batter
+// statistics, the lineup rules, the scoreboard and run entry, and the
+// write of the team on show after every change the coach makes. The game
+// screen shows this state and forwards the coach's clicks; a test plays a
+// whole game through it.
+
+#include "gameday/GameRecord.h"
+#include "gameday/GameStore.h"
+#include "gameday/ScoreGrid.h"
+
+#include <QObject>
+
+#include <array>
+#include <functional>
+
+class myDB;
+
+namespace gameday {
+
+// The line score above the grid, both teams. Texts as shown: a number,
+// "--" for an inning without entries, "X" for a home half not needed.
+struct Scoreboard
+{
+    std::array<std::array<QString, 10>, 2> innings;
+    std::array<QString, 2> runs;
+    std::array<QString, 2> hits;
+    std::array<QString, 2> errs;
+    std::array<QString, 2> lob;
+};
+
+class GameDay : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `card` is the grid the team on show is loaded into (the game
+    // screen's scoreCardLB, or a bare grid in a test).
+    GameDay(myDB &db, ScoreGrid &card, QObject *parent = nullptr);
+
+    // Reads the event and the game's row, or makes the row of a new game
+    // with both benches and the game type; then shows team B. False, with
+    // the message shown, when the event can't be found.
+    bool open(const QString &schedID);
+
+    const QString &schedID() const { return m_rec.schedID; }
+    const GameEvent &event() const { return m_event; }
+    const TeamInfo &teamInfo(int team) const { return m_info[size_t(team & 1)]; }
+    QString teamID(int team) const { return m_rec.teamIDs[size_t(team & 1)]; }
+    int curSelTeam() const { return m_cur; }
+    int defLineup() const { return m_defLineup; }
+    ScoreGrid &card() { return m_card; }
+    // The stored strings as of the last save of each team.
+    const GameRecord &record() const { return m_rec; }
+
+    // --- The team on show ---------------------------------------------------
+
+    const QList<BenchLine> &roster() const { return m_roster; }
+    const QList<LineupLine> &lineup() const { return m_lineup; }
+    const QList<BatterStat> &batStats() const { return m_batStats; }
+    // The line of instruction under the scoreboard.
+    QString instruction() const;
+    bool isThereAPitcher() const;
+    static bool isPitcherPos(const QString &pos) { return pos == u"RHP" || pos == u"LHP"; }
+
+    bool isRecorded() const { return m_rec.recorded; }
+    // "Record Game Data" shows from the first three-out inning of a game
+    // not yet recorded, and at once when such a game is opened again.
+    bool finalizeVisible() const { return m_finalizeVisible && !m_rec.recorded; }
+    // Marks the game recorded (after the season totals were written).
+    void setRecorded();
+
+    QString gameType() const { return m_rec.gameType; }
+    void setGameType(const QString &type);
+
+    // --- Lineup --------------------------------------------------------------
+
+    // "Add": the roster row joins the lineup, or a message says why not.
+    bool addPlayerToLineup(int rosterRow);
+    // "Remove": back to the bench, with its refusal and its question.
+    bool removeFromLineup(int lineupRow);
+    // "Replace": the roster row takes the lineup row's batting slot.
+    bool addReplacementPlayer(int rosterRow, int lineupRow);
+    // The order arrows: swaps a row with its neighbour (delta -1 or +1);
+    // the row it went to, or `row` when nothing moved.
+    int moveLineupRow(int row, int delta);
+    // The position typed for this game, upper-cased.
+    void setLineupPosition(int row, const QString &pos);
+    // Players brought in for this game (not already on the bench or in
+    // the lineup) go on the bench.
+    void addBenchPlayers(const QList<BenchLine> &players);
+    // Asks, then removes a bench row.
+    bool removeBenchPlayer(int rosterRow);
+    // Every player of the team on show, for the "add players" list.
+    QList<BenchLine> teamPlayers() const;
+
+    // --- Batter statistics (RBI, SB) ------------------------------------------
+
+    void setBatterStat(int row, int col, const QString &value);
+
+    // --- Scoreboard and run entry ----------------------------------------------
+
+    const Scoreboard &board() const { return m_board; }
+    void updateRunsHits();
+    void recalcErrs();
+    // Errors of a team in this game, from its fielding rows; set by the
+    // owner, who links the statistics subsystem.
+    std::function<int(const QString &game, const QString &team)> errorCounter;
+
+    bool enterRHE() const { return m_enterRHE; }
+    // Turns run entry on or off for the team on show; refused (with the
+    // message) while the grid holds at bats. The resulting state.
+    bool setEnterRHE(bool on);
+    // A box of the team on show typed in run-entry mode: inning 0..9, or
+    // kHitsBox, kErrsBox, kLobBox. Runs follow the inning boxes.
+    enum { kHitsBox = 10, kErrsBox = 11, kLobBox = 12 };
+    void setBoardBox(int box, const QString &text);
+
+    // --- Teams and storage ------------------------------------------------------
+
+    // TeamBtn: the team on show is saved, the other shown.
+    void showTeam(int team);
+    // Flips the team on show without saving (set-up and auto-fill).
+    void switchTeams();
+
+    // Brings the team on show into the stored strings.
+    void saveCurState();
+    GameStore::SaveResult saveDataToDB();
+    // The write after each of the coach's changes: the team on show, in
+    // one transaction. False when it did not reach the file.
+    bool commitClick();
+
+    // --- Pitching auto-fill --------------------------------------------------------
+
+    // The opposing team's card comes on show, armed for two marks.
+    void startAutoFill();
+    bool autoFillRunning() const { return m_autoFill; }
+
+Q_SIGNALS:
+    void teamShown();
+    void boardChanged();
+    void lineupChanged();
+    void finalizeVisibleChanged(bool visible);
+    void enterRHEChanged(bool on);
+    void autoFillReturned(const gameday::AutoFillData &data);
+    void autoFillAbandoned();
+
+private:
+    void loadNewGame();
+    void displayCurrentTeam(bool updateBoard);
+    void fillScoreCard();
+    void calcRunsByInning();
+    void fillRHEData(const QString &actions);
+    QString getRHEData(int team) const;
+    void setFinalizeVisible(bool on);
+    void redoOrderNos();
+    void onColumnAdded(const QString &headings);
+    void onDoCalcs();
+    void onWalkoff();
+
+    myDB &m_db;
+    ScoreGrid &m_card;
+    GameStore m_store;
+    GameRecord m_rec;
+    GameEvent m_event;
+    std::array<TeamInfo, 2> m_info;
+    int m_cur = 1;
+    int m_defLineup = 9;
+    QList<BenchLine> m_roster;
+    QList<LineupLine> m_lineup;
+    QList<BatterStat> m_batStats;
+    Scoreboard m_board;
+    bool m_enterRHE = false;
+    bool m_finalizeVisible = false;
+    bool m_autoFill = false;
+    bool m_loading = false;
+};
+
+} // namespace gameday

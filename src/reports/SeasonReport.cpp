@@ -1,0 +1,222 @@
+#include "reports/SeasonReport.h"
+
+#include "app/myDB.h"
+#include "app/myDictionaries.h"
+#include "reports/NumberMask.h"
+
+#include <algorithm>
+
+namespace reports {
+
+bool ReportFilter::passes(qint64 tID, const QString &league, const QString &division) const
+{
+    return (selTeam == -1 || selTeam == tID) && (selLeague.isEmpty() || selLeague == league) &&
+           (selDivision.isEmpty() || selDivision == division);
+}
+
+FilterChoices FilterChoices::read(myDB &db)
+{
+    FilterChoices choices;
+    // An empty league or division can't be told from "all", so it isn't offered.
+    for (const Record &r : db.select(QStringLiteral("SELECT DISTINCT(League) FROM Teams WHERE League <> '' "
+                                                    "ORDER BY League")))
+        choices.leagues.append(r.values.value(0).toString());
+    for (const Record &r : db.select(QStringLiteral("SELECT DISTINCT(Division) FROM Teams WHERE Division <> '' "
+                                                    "ORDER BY Division")))
+        choices.divisions.append(r.values.value(0).toString());
+    for (const Record &r : db.select(QStringLiteral("SELECT TeamName, teamID FROM Teams ORDER BY TeamName, teamID")))
+        choices.teams.append({r.values.value(0).toString(), r.values.value(1).toLongLong()});
+    return choices;
+}
+
+namespace chooser {
+
+const StatDictionary &dictionary(ReportKind kind)
+{
+    switch (kind) {
+    case Batting:
+        return hitD;
+    case Fielding:
+        return fieldD;
+    case Pitching:
+        break;
+    }
+    return pitchD;
+}
+
+QStringList rows(ReportKind kind)
+{
+    return dictionary(kind).keys();
+}
+
+int fixedRows(ReportKind kind)
+{
+    return kind == Batting ? 4 : 1;
+}
+
+QList<int> defaultChecks(ReportKind kind)
+{
+    switch (kind) {
+    case Batting:
+        return {4, 5, 6, 7, 8, 14, 15, 20, 21};
+    case Fielding:
+        return {1, 2, 3, 4, 5, 6};
+    case Pitching:
+        break;
+    }
+    return {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 13, 14, 18, 21};
+}
+
+QStringList headers(ReportKind kind, const QStringList &rows, const QList<bool> &checked)
+{
+    QStringList out{QStringLiteral("First Name"), QStringLiteral("Last Name")};
+    const int fixed = fixedRows(kind);
+    for (int row = 0; row < rows.size(); ++row) {
+        if (row < fixed || checked.value(row))
+            out.append(rows.at(row));
+    }
+    return out;
+}
+
+} // namespace chooser
+
+SeasonReport::SeasonReport(ReportKind which, const QStringList &headers)
+    : m_kind(which),
+      m_headers(headers)
+{
+}
+
+QString SeasonReport::title() const
+{
+    switch (m_kind) {
+    case Batting:
+        return QStringLiteral("Batting");
+    case Fielding:
+        return QStringLiteral("Fielding");
+    case Pitching:
+        break;
+    }
+    return QStringLiteral("Pitching");
+}
+
+QString SeasonReport::columnWidths() const
+{
+    QStringList widths{QStringLiteral("84"), QStringLiteral("84")};
+    for (int c = 2; c < m_headers.size(); ++c)
+        widths.append(QStringLiteral("36"));
+    return widths.join(u',');
+}
+
+int SeasonReport::listWidth() const
+{
+    return std::min(int(m_headers.size() - 2) * 36 + 168, 984);
+}
+
+bool SeasonReport::load(myDB &db)
+{
+    hData.clear();
+    fData.clear();
+    pData.clear();
+    switch (m_kind) {
+    case Batting:
+        return readSeasonRows(db, m_kind, [this](const SeasonRow &row) { hData.append(hitReporter(row)); });
+    case Fielding:
+        return readSeasonRows(db, m_kind, [this](const SeasonRow &row) { fData.append(fldReporter(row)); });
+    case Pitching:
+        break;
+    }
+    return readSeasonRows(db, m_kind, [this](const SeasonRow &row) { pData.append(pitchReporter(row)); });
+}
+
+namespace {
+
+template<class R, class Display>
+QList<QStringList> filtered(const QList<R> &data, const ReportFilter &filter, Display display)
+{
+    QList<QStringList> out;
+    for (const R &r : data) {
+        if (filter.passes(r.tID, r.mLeague, r.mDivision))
+            out.append(display(r));
+    }
+    return out;
+}
+
+// The figure index of each header from `from` on; a header that isn't a key
+// of the report's dictionary adds no cell, so it has no entry.
+QList<int> figureIndices(const QStringList &headers, qsizetype from, const StatDictionary &dict, int size)
+{
+    QList<int> out;
+    for (qsizetype c = from; c < headers.size(); ++c) {
+        const int index = dict.value(headers.at(c));
+        if (index >= 0 && index < size)
+            out.append(index);
+    }
+    return out;
+}
+
+// A figure as plain number text: stored counts are whole numbers.
+QString plainNumber(double value)
+{
+    const auto whole = static_cast<qint64>(value);
+    return double(whole) == value ? QString::number(whole) : QString::number(value, 'g', 15);
+}
+
+template<size_t N>
+void appendFigures(QStringList &cells, const QList<int> &indices, const std::array<double, N> &mData,
+                   int inningsIndex = -1)
+{
+    for (int index : indices) {
+        if (index == inningsIndex)
+            cells.append(formatMask(mData[index] / 10.0, QStringLiteral("##0.0")));
+        else
+            cells.append(plainNumber(mData[index]));
+    }
+}
+
+} // namespace
+
+QList<QStringList> SeasonReport::rows(const ReportFilter &filter) const
+{
+    switch (m_kind) {
+    case Batting: {
+        const QList<int> indices = figureIndices(m_headers, 6, hitD, 29);
+        return filtered(hData, filter, [&](const hitReporter &r) { return displayHitData(r, indices); });
+    }
+    case Fielding: {
+        const QList<int> indices = figureIndices(m_headers, 3, fieldD, 14);
+        return filtered(fData, filter, [&](const fldReporter &r) { return displayFldData(r, indices); });
+    }
+    case Pitching:
+        break;
+    }
+    const QList<int> indices = figureIndices(m_headers, 3, pitchD, 28);
+    return filtered(pData, filter, [&](const pitchReporter &r) { return displayPitchData(r, indices); });
+}
+
+QStringList SeasonReport::displayHitData(const hitReporter &r, const QList<int> &figures) const
+{
+    QStringList cells;
+    cells.reserve(6 + figures.size());
+    cells << r.FName
+          << r.LName << formatMask(r.mData[0], QStringLiteral("##0")) << formatMask(r.Avg, QStringLiteral(".000"))
+          << formatMask(r.OBP, QStringLiteral(".000")) << formatMask(r.SPct, QStringLiteral(".000"));
+    appendFigures(cells, figures, r.mData);
+    return cells;
+}
+
+QStringList SeasonReport::displayFldData(const fldReporter &r, const QList<int> &figures) const
+{
+    QStringList cells{r.FName, r.LName, formatMask(r.fldPct, QStringLiteral("#.000"))};
+    appendFigures(cells, figures, r.mData);
+    return cells;
+}
+
+QStringList SeasonReport::displayPitchData(const pitchReporter &r, const QList<int> &figures) const
+{
+    QStringList cells{r.FName, r.LName, formatMask(r.ERA, QStringLiteral("0.00"))};
+    // The innings code 62 reads 6.2.
+    appendFigures(cells, figures, r.mData, 10);
+    return cells;
+}
+
+} // namespace reports

@@ -1,0 +1,160 @@
+#include "reports/ui/reportScrn.h"
+
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "app/ui/Form.h"
+#include "app/ui/MainMenuBar.h"
+#include "reports/ui/qlmListBox.h"
+#include "reports/ui/reportIntroScrn.h"
+#include "support/ui/myInfoBtn.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+// The help topic of the report screens.
+constexpr int kHelpTopic = 9;
+} // namespace
+
+reportScrn::reportScrn(int which, const QStringList &headers, QWidget *parent)
+    : ScreenBase(ScreenId::reportScrn, QStringLiteral("Season Report"), parent),
+      m_report(reports::ReportKind(which), headers)
+{
+    auto *central = new QWidget(this);
+    auto *outer = new QVBoxLayout(central);
+
+    auto *top = new QHBoxLayout;
+    titleLbl = new QLabel(central);
+    titleLbl->setObjectName(QStringLiteral("titleLbl"));
+    QFont titleFont = titleLbl->font();
+    titleFont.setPointSize(titleFont.pointSize() + 6);
+    titleFont.setBold(true);
+    titleLbl->setFont(titleFont);
+    top->addWidget(titleLbl);
+    top->addStretch(1);
+    leagueFilter = form::comboBox(central, QStringLiteral("leagueFilter"), QStringLiteral("League"));
+    DivisionFilter = form::comboBox(central, QStringLiteral("DivisionFilter"), QStringLiteral("Division"));
+    teamFilter = form::comboBox(central, QStringLiteral("teamFilter"), QStringLiteral("Team"));
+    top->addWidget(form::buddyLabel(leagueFilter, QStringLiteral("&League:"), central));
+    top->addWidget(leagueFilter);
+    top->addWidget(form::buddyLabel(DivisionFilter, QStringLiteral("&Division:"), central));
+    top->addWidget(DivisionFilter);
+    top->addWidget(form::buddyLabel(teamFilter, QStringLiteral("&Team:"), central));
+    top->addWidget(teamFilter);
+    outer->addLayout(top);
+
+    reportBox = form::named(new qlmListBox(central), QStringLiteral("reportBox"), QStringLiteral("Report"));
+    reportBox->setHeaderSortAllowed(true);
+    // The figure columns are 36 points wide, as they print: a smaller face
+    // keeps "1.000" and the longer headings whole on screen.
+    QFont listFont = reportBox->font();
+    listFont.setPointSizeF(listFont.pointSizeF() * 0.85);
+    reportBox->setFont(listFont);
+    outer->addWidget(reportBox, 1);
+
+    auto *buttons = new QHBoxLayout;
+    helpBtn = form::named(new myInfoBtn(kHelpTopic, central), QStringLiteral("helpBtn"),
+                          QStringLiteral("Help on reports"));
+    newRptBtn = form::button(central, QStringLiteral("newRptBtn"), QStringLiteral("&New Report"));
+    closeBtn = form::button(central, QStringLiteral("closeBtn"), QStringLiteral("&Close"));
+    buttons->addWidget(helpBtn);
+    buttons->addStretch(1);
+    buttons->addWidget(newRptBtn);
+    buttons->addWidget(closeBtn);
+    outer->addLayout(buttons);
+    setCentralWidget(central);
+
+    connect(newRptBtn, &QPushButton::clicked, this, [this] {
+        showNewRept = true;
+        close();
+    });
+    connect(closeBtn, &QPushButton::clicked, this, [this] {
+        showNewRept = false;
+        close();
+    });
+    menus()->installHandler(QStringLiteral("FilePrint"), [this] {
+        printReport();
+        return true;
+    });
+    menus()->installHandler(QStringLiteral("FileExport"), [this] {
+        exportReport();
+        return true;
+    });
+    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
+        std::optional<platform::PrinterSetup> setup;
+        gGetPrinterSetup(setup, true);
+        return true;
+    });
+
+    scrnSetup();
+}
+
+void reportScrn::scrnSetup()
+{
+    reportBox->setHeadings(m_report.curHeaders());
+    reportBox->setColumnWidths(m_report.columnWidths());
+    titleLbl->setText(m_report.title());
+    setWindowTitle(m_report.title() + QStringLiteral(" Report"));
+    // The list is as wide as its columns, up to a screen's width.
+    reportBox->setMinimumWidth(m_report.listWidth());
+    resize(m_report.listWidth() + 40, 560);
+    if (gData)
+        m_report.load(*gData);
+    fillFilters();
+    displayData();
+}
+
+void reportScrn::fillFilters()
+{
+    const reports::FilterChoices choices = gData ? reports::FilterChoices::read(*gData) : reports::FilterChoices{};
+    leagueFilter->addItem(QStringLiteral("All Leagues"));
+    leagueFilter->addItems(choices.leagues);
+    DivisionFilter->addItem(QStringLiteral("All Divisions"));
+    DivisionFilter->addItems(choices.divisions);
+    teamFilter->addItem(QStringLiteral("All Teams"), qint64(-1));
+    for (const auto &team : choices.teams)
+        teamFilter->addItem(team.name, team.teamID);
+    for (QComboBox *box : {leagueFilter, DivisionFilter, teamFilter})
+        connect(box, &QComboBox::currentIndexChanged, this, &reportScrn::filterChanged);
+}
+
+void reportScrn::filterChanged()
+{
+    m_filter.selLeague = leagueFilter->currentIndex() > 0 ? leagueFilter->currentText() : QString();
+    m_filter.selDivision = DivisionFilter->currentIndex() > 0 ? DivisionFilter->currentText() : QString();
+    m_filter.selTeam = teamFilter->currentIndex() > 0 ? teamFilter->currentData().toLongLong() : -1;
+    displayData();
+}
+
+void reportScrn::displayData()
+{
+    reportBox->deleteAllRows();
+    reportBox->addRows(m_report.rows(m_filter));
+    // New lines keep the order of the heading the coach clicked last.
+    const QHeaderView *heading = reportBox->header();
+    if (heading->sortIndicatorSection() >= 0 && heading->isSortIndicatorShown())
+        reportBox->sortByColumnText(heading->sortIndicatorSection(), heading->sortIndicatorOrder());
+}
+
+void reportScrn::printReport()
+{
+    reportBox->widePrintMe(titleLbl->text() + QStringLiteral(" Report"));
+}
+
+void reportScrn::exportReport()
+{
+    reportBox->exportMe(titleLbl->text() + QStringLiteral(" Report"));
+}
+
+bool reportScrn::mayClose()
+{
+    if (showNewRept) {
+        setReturnToStart(false);
+        (new reportIntroScrn)->show();
+    }
+    return true;
+}

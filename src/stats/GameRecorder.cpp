@@ -1,0 +1,240 @@
+#include "stats/GameRecorder.h"
+
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "gameday/GameStore.h"
+#include "gameday/GridCodes.h"
+#include "gameday/ScoreGrid.h"
+#include "stats/GameResultClass.h"
+#include "stats/SeasonFold.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <stdexcept>
+
+namespace stats {
+
+namespace {
+
+using gameday::kFieldSep;
+using gameday::splitLines;
+
+void showNotInSync()
+{
+    gShowMsgDlog(QStringLiteral("The lineup and hitting data are not in sync."),
+                 QStringLiteral("Correct then click 'Record' again."), QStringLiteral("Continue"));
+}
+
+void showMissing()
+{
+    gShowMsgDlog(QStringLiteral("TallylineBB was unable to find the data for this game."),
+                 QStringLiteral("Please reload this game from the Schedule."), QStringLiteral("OK"));
+}
+
+void showBadInnings(const QString &who, const QString &innings)
+{
+    gShowMsgDlog(QStringLiteral("Incorrect 'IP' entry."),
+                 QStringLiteral("Enter thirds of an inning as .1 or .2 (") + who + QStringLiteral(": ") + innings +
+                     QStringLiteral("), then click 'Record' again."),
+                 QStringLiteral("OK"));
+}
+
+} // namespace
+
+int GameRecorder::scoreboardRuns(const gameday::TeamStrings &team)
+{
+    if (gameday::isRunEntry(team.actions))
+        return gameday::readRunEntry(team.actions).runs();
+    gameday::ScoreGrid grid;
+    loadGrid(grid, team);
+    return grid.countTotalRuns();
+}
+
+GamePanels GameRecorder::loadPanels(const QString &schedID)
+{
+    // One query per table for the whole game. A player's first row for the
+    // game is his; the panels never write a second one.
+    GamePanels panels;
+    for (const Record &r : m_db.select(
+             QStringLiteral("SELECT playerID, stats FROM GamesIndivHitting WHERE gameID = ? ORDER BY recID"), {schedID})) {
+        if (!panels.hitting.contains(r.text(QStringLiteral("playerID"))))
+            panels.hitting.insert(r.text(QStringLiteral("playerID")), r.text(QStringLiteral("stats")));
+    }
+    for (const Record &r : m_db.select(
+             QStringLiteral("SELECT playerID, stats FROM GamesIndivFielding WHERE gameID = ? ORDER BY recID"), {schedID})) {
+        if (!panels.fielding.contains(r.text(QStringLiteral("playerID"))))
+            panels.fielding.insert(r.text(QStringLiteral("playerID")), r.text(QStringLiteral("stats")));
+    }
+    for (const Record &r : m_db.select(QStringLiteral("SELECT playerID, gameResult, start, shutout, compGame, "
+                                                      "totBalls, totKs, stats FROM GamesIndivPitching "
+                                                      "WHERE gameID = ? ORDER BY recID"),
+                                       {schedID})) {
+        const QString player = r.text(QStringLiteral("playerID"));
+        if (panels.pitching.contains(player))
+            continue;
+        PitchingLine row;
+        row.gameResult = int(r.integer(QStringLiteral("gameResult")));
+        row.start = r.integer(QStringLiteral("start")) != 0;
+        row.shutout = r.integer(QStringLiteral("shutout")) != 0;
+        row.compGame = r.integer(QStringLiteral("compGame")) != 0;
+        row.totBalls = int(r.integer(QStringLiteral("totBalls")));
+        row.totKs = int(r.integer(QStringLiteral("totKs")));
+        row.stats = r.text(QStringLiteral("stats"));
+        panels.pitching.insert(player, row);
+    }
+    return panels;
+}
+
+bool GameRecorder::loadGrid(gameday::ScoreGrid &grid, const gameday::TeamStrings &team)
+{
+    QStringList headings = team.headings.isEmpty() ? QStringList() : team.headings.split(kFieldSep);
+    for (int c = int(headings.size()); c < gameday::kDefaultColumns; ++c)
+        headings.append(QString::number(c + 1));
+    grid.deleteAllRows();
+    grid.setColumnHeadings(headings);
+    const QStringList lineup = splitLines(team.players);
+    for (int r = 0; r < lineup.size(); ++r)
+        grid.addRow();
+    if (gameday::isRunEntry(team.actions)) {
+        grid.initCellBkg(grid.columnCount() - 1);
+        return true;
+    }
+    const bool fits = splitLines(team.actions).size() <= lineup.size();
+    grid.setMyData(team.actions); // says so itself when the texts don't fit
+    grid.setMyBkgArray(team.outcomes);
+    return fits;
+}
+
+int GameRecorder::countRecRBI(const QString &batterStats)
+{
+    int rbi = 0;
+    for (const QString &line : splitLines(batterStats))
+        rbi += int(figureCount(line.section(kFieldSep, 0, 0)));
+    return rbi;
+}
+
+std::array<bool, 4> GameRecorder::performPreChecks(const gameday::GameRecord &game)
+{
+    std::array<bool, 4> passed {};
+    std::array<int, 2> runs {};
+    bool outs = true;
+    bool complete = true;
+    for (int t = 0; t < 2; ++t) {
+        gameday::ScoreGrid grid;
+        loadGrid(grid, game.teams[t]);
+        runs[t] = grid.countTotalRuns();
+        for (int c = 0; c < grid.columnCount(); ++c) {
+            if (!grid.isColumnEmpty(c) && !grid.check4ThreeOuts(c))
+                outs = false;
+        }
+        complete = complete && !grid.check4IncompleteCells();
+    }
+    passed[0] = !(runs[0] == 0 && runs[1] == 0) && runs[0] == countRecRBI(game.teams[0].batStats) &&
+                runs[1] == countRecRBI(game.teams[1].batStats);
+    passed[1] = outs;
+    passed[2] = complete;
+    passed[3] = GameStatStore(m_db).hasFieldingAndPitching(game.schedID);
+    return passed;
+}
+
+GameRecorder::Result GameRecorder::record(const QString &schedID, int runsA, int runsB)
+{
+    const std::optional<gameday::GameRecord> game = gameday::GameStore(m_db).load(schedID);
+    if (!game) {
+        showMissing();
+        return Result::NoGame;
+    }
+    return record(*game, runsA, runsB);
+}
+
+GameRecorder::Result GameRecorder::record(const gameday::GameRecord &game, int runsA, int runsB)
+{
+    const std::optional<gameday::GameRecord> stored = gameday::GameStore(m_db).load(game.schedID);
+    if (!stored) {
+        showMissing();
+        return Result::NoGame;
+    }
+    // The stored flag decides, not the caller's copy: a game is added to
+    // the season once.
+    if (stored->recorded)
+        return Result::AlreadyRecorded;
+    Result result = Result::Failed;
+    try {
+        result = recordChecked(game, runsA, runsB);
+    } catch (const std::exception &) {
+        // The transaction was taken back as the error left it.
+        gMsgBox(QStringLiteral("There was an error in recording the data for this game."));
+        return Result::Failed;
+    }
+    if (result == Result::Recorded)
+        gMsgBox(QStringLiteral("The game data has been successfully recorded."));
+    return result;
+}
+
+GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game, int runsA, int runsB)
+{
+    // Everything is worked out before the first write.
+    const GamePanels panels = loadPanels(game.schedID);
+    std::array<TeamAdditions, 2> additions;
+    QList<qint64> playerIDs;
+    for (int t = 0; t < 2; ++t) {
+        gameday::ScoreGrid grid;
+        if (!loadGrid(grid, game.teams[t]))
+            return Result::BadSavedData;
+        const dataAggregator aggregator(game.teamIDs[t], game.schedID);
+        additions[t] = aggregator.collect(grid, game.teams[t].players, game.teams[t].batStats, panels);
+        switch (additions[t].problem) {
+        case TeamAdditions::Problem::NotInSync:
+            showNotInSync();
+            return Result::NotInSync;
+        case TeamAdditions::Problem::BadInnings:
+            // The pitching panel refuses such a text; one stored before it
+            // did is refused here, before anything reaches a season total.
+            showBadInnings(additions[t].badPlayer, additions[t].badInnings);
+            return Result::BadInnings;
+        case TeamAdditions::Problem::None:
+            break;
+        }
+        for (const PlayerAdditions &p : additions[t].players)
+            playerIDs.append(idValue(p.playerID));
+    }
+    const GameResultClass outcome(game.teamIDs[0], game.teamIDs[1], runsA, runsB);
+    const qint64 gameID = idValue(game.schedID);
+    gameday::GameRecord recorded = game;
+    recorded.recorded = true;
+
+    // One transaction: the season rows of both teams, both records and the
+    // game's row marked recorded are written together or not at all.
+    bool refused = false;
+    QString refusedPlayer;
+    QString refusedTotal;
+    const bool written = m_db.runInTransaction([&] {
+        SQLite::Database &db = *m_db.tlynData;
+        SeasonFold fold(db, playerIDs, {idValue(game.teamIDs[0]), idValue(game.teamIDs[1])});
+        for (int t = 0; t < 2; ++t) {
+            const qint64 teamID = idValue(game.teamIDs[t]);
+            for (const PlayerAdditions &p : additions[t].players) {
+                if (!fold.add(p, teamID, gameID)) {
+                    // A season total with a thirds digit above 2 can't be
+                    // added to; nothing has been written yet.
+                    refused = true;
+                    refusedPlayer = p.name;
+                    const qint64 total = fold.pitching(idValue(p.playerID))->figures[kPitchIP];
+                    refusedTotal = QString::number(total / 10) + u'.' + QString::number(total % 10);
+                    return;
+                }
+            }
+        }
+        fold.addResult(outcome);
+        fold.write(db);
+        gameday::GameStore::writeWithin(m_db, recorded);
+    });
+    if (refused) {
+        showBadInnings(refusedPlayer, refusedTotal);
+        return Result::BadInnings;
+    }
+    // A database failure has been shown by the transaction.
+    return written ? Result::Recorded : Result::Failed;
+}
+
+} // namespace stats

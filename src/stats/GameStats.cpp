@@ -1,0 +1,182 @@
+#include "stats/GameStats.h"
+
+#include "app/myDB.h"
+#include "gameday/GameRecord.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace stats {
+
+namespace {
+
+// A statement inside runInTransaction: errors throw, so the step rolls back.
+int run(myDB &db, const QString &sql, const QVariantList &params)
+{
+    SQLite::Statement statement(*db.tlynData, sql.toUtf8().toStdString());
+    myDB::bindAll(statement, params);
+    return statement.exec();
+}
+
+// The leading number of a text, as the panels read a field: "12" 12, "1.5" 1, "" 0.
+int leadingInt(const QString &text)
+{
+    return int(text.trimmed().toDouble());
+}
+
+} // namespace
+
+int fieldCount(Panel panel)
+{
+    switch (panel) {
+    case Panel::Batting: return kBattingFields;
+    case Panel::Fielding: return kFieldingFields;
+    case Panel::Pitching: return kPitchingFields;
+    }
+    return 0;
+}
+
+QString tableName(Panel panel)
+{
+    switch (panel) {
+    case Panel::Batting: return QStringLiteral("GamesIndivHitting");
+    case Panel::Fielding: return QStringLiteral("GamesIndivFielding");
+    case Panel::Pitching: return QStringLiteral("GamesIndivPitching");
+    }
+    return {};
+}
+
+QString gatherStats(const QStringList &fieldTexts)
+{
+    QStringList out;
+    for (const QString &t : fieldTexts)
+        out.append(t.isEmpty() ? QStringLiteral("0") : gameday::cleanField(t));
+    return out.join(u'\t');
+}
+
+QStringList spreadStats(const QString &stored, QStringList fieldTexts)
+{
+    const QStringList entries = stored.split(u'\t');
+    for (int k = 0; k < entries.size() && k < fieldTexts.size(); ++k)
+        fieldTexts[k] = entries[k];
+    return fieldTexts;
+}
+
+QStringList userDefinedCaptions(const QString &pref, int count)
+{
+    const QStringList parts = pref.split(u'\t');
+    QStringList out;
+    for (int i = 0; i < count; ++i) {
+        const QString name = 2 * i < parts.size() ? parts[2 * i] : QString();
+        out.append(pref.isEmpty() || name.isEmpty() ? QStringLiteral("--") : name);
+    }
+    return out;
+}
+
+bool isBadInnings(const QString &text)
+{
+    const QStringList parts = text.trimmed().split(u'.');
+    if (text.trimmed().toDouble() > 19.0 || parts.first().toDouble() > 19.0)
+        return true;
+    return parts.size() > 1 && parts[1].toDouble() > 2.0;
+}
+
+QString inningsFromOuts(int outs)
+{
+    return QString::number(outs / 3) + u'.' + QString::number(outs % 3);
+}
+
+QStringList applyAutoFill(QStringList f, const gameday::AutoFillData &d)
+{
+    while (f.size() < kPitchingFields)
+        f.append(QStringLiteral("0"));
+    f[0] = inningsFromOuts(d[0]);
+    static constexpr int targets[8] = {-1, 1, 2, 4, 7, 8, 10, 13};
+    for (int i = 1; i < 8; ++i)
+        f[targets[i]] = QString::number(d[size_t(i)]);
+    return f;
+}
+
+std::optional<QString> GameStatStore::stats(Panel panel, const QString &game, const QString &player) const
+{
+    const QList<Record> rows = m_db.select(QStringLiteral("SELECT stats FROM ") + tableName(panel) +
+                                               QStringLiteral(" WHERE gameID = ? AND playerID = ? ORDER BY recID LIMIT 1"),
+                                           {game, player});
+    if (rows.isEmpty())
+        return std::nullopt;
+    return rows.first().text(QStringLiteral("stats"));
+}
+
+bool GameStatStore::saveStats(Panel panel, const QString &game, const QString &player, const QString &team,
+                              const QString &statsText)
+{
+    const QString table = tableName(panel);
+    return m_db.runInTransaction([&] {
+        const int changed = run(m_db, QStringLiteral("UPDATE ") + table +
+                                          QStringLiteral(" SET teamID = ?, stats = ? WHERE gameID = ? AND playerID = ?"),
+                                {team, statsText, game, player});
+        if (changed == 0)
+            run(m_db, QStringLiteral("INSERT INTO ") + table +
+                          QStringLiteral(" (gameID, playerID, teamID, stats) VALUES (?, ?, ?, ?)"),
+                {game, player, team, statsText});
+    });
+}
+
+std::optional<PitchingLine> GameStatStore::pitching(const QString &game, const QString &player) const
+{
+    const QList<Record> rows = m_db.select(
+        QStringLiteral("SELECT gameResult, start, shutout, compGame, totBalls, totKs, stats FROM GamesIndivPitching "
+                       "WHERE gameID = ? AND playerID = ? ORDER BY recID LIMIT 1"),
+        {game, player});
+    if (rows.isEmpty())
+        return std::nullopt;
+    const Record &r = rows.first();
+    PitchingLine p;
+    const int result = int(r.integer(QStringLiteral("gameResult")));
+    p.gameResult = result < 1 || result > 4 ? 4 : result;
+    p.start = r.integer(QStringLiteral("start")) != 0;
+    p.shutout = r.integer(QStringLiteral("shutout")) != 0;
+    p.compGame = r.integer(QStringLiteral("compGame")) != 0;
+    p.totBalls = int(r.integer(QStringLiteral("totBalls")));
+    p.totKs = int(r.integer(QStringLiteral("totKs")));
+    p.stats = r.text(QStringLiteral("stats"));
+    return p;
+}
+
+bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team,
+                                 const PitchingLine &p)
+{
+    const QVariantList values = {team, p.gameResult, p.start ? 1 : 0, p.shutout ? 1 : 0, p.compGame ? 1 : 0,
+                                 p.totBalls, p.totKs, p.stats};
+    return m_db.runInTransaction([&] {
+        const int changed = run(m_db,
+                                QStringLiteral("UPDATE GamesIndivPitching SET teamID = ?, gameResult = ?, start = ?, "
+                                               "shutout = ?, compGame = ?, totBalls = ?, totKs = ?, stats = ? "
+                                               "WHERE gameID = ? AND playerID = ?"),
+                                values + QVariantList{game, player});
+        if (changed == 0)
+            run(m_db,
+                QStringLiteral("INSERT INTO GamesIndivPitching (gameID, playerID, teamID, gameResult, start, shutout, "
+                               "compGame, totBalls, totKs, stats) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                QVariantList{game, player} + values);
+    });
+}
+
+int GameStatStore::teamErrors(const QString &game, const QString &team) const
+{
+    int sum = 0;
+    const QList<Record> rows =
+        m_db.select(QStringLiteral("SELECT stats FROM GamesIndivFielding WHERE gameID = ? AND teamID = ?"), {game, team});
+    for (const Record &r : rows) {
+        const QStringList f = r.text(QStringLiteral("stats")).split(u'\t');
+        sum += leadingInt(f.value(4)) + leadingInt(f.value(5));
+    }
+    return sum;
+}
+
+bool GameStatStore::hasFieldingAndPitching(const QString &game) const
+{
+    return m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM GamesIndivFielding WHERE gameID = ?"), {game}).toInt() > 0 &&
+           m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM GamesIndivPitching WHERE gameID = ?"), {game}).toInt() > 0;
+}
+
+} // namespace stats

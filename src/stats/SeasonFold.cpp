@@ -1,0 +1,232 @@
+#include "stats/SeasonFold.h"
+
+#include "stats/GameResultClass.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <QStringList>
+
+namespace stats {
+
+namespace {
+
+template<std::size_t N>
+std::string selectRows(const char *table, const std::array<const char *, N> &columns, const char *key, int count)
+{
+    std::string sql = "SELECT recID, ";
+    sql += key;
+    if (std::string(table) != "GameResultsByTeam")
+        sql += ", teamID, gameID";
+    for (const char *c : columns) {
+        sql += ", ";
+        sql += c;
+    }
+    sql += " FROM ";
+    sql += table;
+    sql += " WHERE ";
+    sql += key;
+    sql += " IN (";
+    for (int i = 0; i < count; ++i)
+        sql += i == 0 ? "?" : ",?";
+    sql += ") ORDER BY recID";
+    return sql;
+}
+
+// Reads the first row of each player (a player is looked up by his ID
+// alone, so an older file's second row for him is left as it is).
+template<std::size_t N>
+void readRows(SQLite::Database &db, const char *table, const std::array<const char *, N> &columns,
+              const QList<qint64> &ids, QHash<qint64, SeasonRow<N>> &rows)
+{
+    if (ids.isEmpty())
+        return;
+    SQLite::Statement query(db, selectRows(table, columns, "playerID", int(ids.size())));
+    for (int i = 0; i < ids.size(); ++i)
+        query.bind(i + 1, static_cast<int64_t>(ids.at(i)));
+    while (query.executeStep()) {
+        const qint64 player = query.getColumn(1).getInt64();
+        if (rows.contains(player))
+            continue;
+        SeasonRow<N> row;
+        row.recID = query.getColumn(0).getInt64();
+        row.teamID = query.getColumn(2).getInt64();
+        row.gameID = query.getColumn(3).getInt64();
+        for (std::size_t c = 0; c < N; ++c)
+            row.figures[c] = query.getColumn(int(c) + 4).getInt64();
+        rows.insert(player, row);
+    }
+}
+
+template<std::size_t N>
+std::string insertSql(const char *table, const std::array<const char *, N> &columns)
+{
+    std::string sql = std::string("INSERT INTO ") + table + " (playerID, teamID, gameID";
+    for (const char *c : columns)
+        sql += std::string(", ") + c;
+    sql += ") VALUES (?, ?, ?";
+    for (std::size_t i = 0; i < N; ++i)
+        sql += ", ?";
+    return sql + ")";
+}
+
+template<std::size_t N>
+std::string updateSql(const char *table, const std::array<const char *, N> &columns)
+{
+    std::string sql = std::string("UPDATE ") + table + " SET playerID = ?, teamID = ?, gameID = ?";
+    for (const char *c : columns)
+        sql += std::string(", ") + c + " = ?";
+    return sql + " WHERE recID = ?";
+}
+
+// Each changed row is one statement; the two statements of a table are
+// prepared once for the whole game.
+template<std::size_t N>
+void writeRows(SQLite::Database &db, const char *table, const std::array<const char *, N> &columns,
+               const QList<qint64> &order, const QHash<qint64, SeasonRow<N>> &rows)
+{
+    std::optional<SQLite::Statement> insert;
+    std::optional<SQLite::Statement> update;
+    for (const qint64 player : order) {
+        const auto it = rows.constFind(player);
+        if (it == rows.cend() || !it->changed)
+            continue;
+        const bool isUpdate = it->recID >= 0;
+        std::optional<SQLite::Statement> &statement = isUpdate ? update : insert;
+        if (!statement)
+            statement.emplace(db, isUpdate ? updateSql(table, columns) : insertSql(table, columns));
+        statement->reset();
+        statement->bind(1, static_cast<int64_t>(player));
+        statement->bind(2, static_cast<int64_t>(it->teamID));
+        statement->bind(3, static_cast<int64_t>(it->gameID));
+        for (std::size_t c = 0; c < N; ++c)
+            statement->bind(int(c) + 4, static_cast<int64_t>(it->figures[c]));
+        if (isUpdate)
+            statement->bind(int(N) + 4, static_cast<int64_t>(it->recID));
+        statement->exec();
+    }
+}
+
+template<std::size_t N>
+SeasonRow<N> &rowFor(QHash<qint64, SeasonRow<N>> &rows, qint64 player, qint64 teamID, qint64 gameID)
+{
+    SeasonRow<N> &row = rows[player]; // a new row starts at zero, recID -1
+    row.teamID = teamID;
+    row.gameID = gameID;
+    row.changed = true;
+    return row;
+}
+
+} // namespace
+
+qint64 idValue(const QString &id)
+{
+    return figureCount(id);
+}
+
+SeasonFold::SeasonFold(SQLite::Database &db, const QList<qint64> &playerIDs, const QList<qint64> &teamIDs)
+{
+    readRows(db, "Hitting", hittingColumns(), playerIDs, m_hitting);
+    readRows(db, "Fielding", fieldingColumns(), playerIDs, m_fielding);
+    readRows(db, "Pitching", pitchingColumns(), playerIDs, m_pitching);
+    if (teamIDs.isEmpty())
+        return;
+    static const std::array<const char *, 3> counts = {"W", "L", "Tie"};
+    SQLite::Statement query(db, selectRows("GameResultsByTeam", counts, "teamID", int(teamIDs.size())));
+    for (int i = 0; i < teamIDs.size(); ++i)
+        query.bind(i + 1, static_cast<int64_t>(teamIDs.at(i)));
+    while (query.executeStep()) {
+        const qint64 team = query.getColumn(1).getInt64();
+        if (m_records.contains(team))
+            continue;
+        TeamRecordRow row;
+        row.recID = query.getColumn(0).getInt64();
+        row.W = query.getColumn(2).getInt64();
+        row.L = query.getColumn(3).getInt64();
+        row.Tie = query.getColumn(4).getInt64();
+        m_records.insert(team, row);
+    }
+}
+
+bool SeasonFold::add(const PlayerAdditions &player, qint64 teamID, qint64 gameID)
+{
+    const qint64 id = idValue(player.playerID);
+    std::optional<qint64> innings;
+    if (player.pitching) {
+        const auto it = m_pitching.constFind(id);
+        const qint64 before = it == m_pitching.cend() ? 0 : it->figures[kPitchIP];
+        innings = getInningsPitchedVal(before, (*player.pitching)[kPitchIP]);
+        if (!innings)
+            return false;
+    }
+
+    if (!m_order.contains(id))
+        m_order.append(id);
+    auto &hit = rowFor(m_hitting, id, teamID, gameID);
+    for (int i = 0; i < kHittingFigures; ++i)
+        hit.figures[i] += player.hitting[i];
+    if (player.fielding) {
+        auto &fld = rowFor(m_fielding, id, teamID, gameID);
+        for (int i = 0; i < kFieldingFigures; ++i)
+            fld.figures[i] += (*player.fielding)[i];
+    }
+    if (player.pitching) {
+        auto &pch = rowFor(m_pitching, id, teamID, gameID);
+        for (int i = 0; i < kPitchingFigures; ++i)
+            pch.figures[i] = i == kPitchIP ? *innings : pch.figures[i] + (*player.pitching)[i];
+    }
+    return true;
+}
+
+void SeasonFold::addResult(const GameResultClass &result)
+{
+    auto bump = [this](const QString &team, qint64 TeamRecordRow::*count) {
+        const qint64 id = idValue(team);
+        if (!m_teamOrder.contains(id))
+            m_teamOrder.append(id);
+        TeamRecordRow &row = m_records[id];
+        row.*count += 1;
+        row.changed = true;
+    };
+    if (!result.winner.isEmpty())
+        bump(result.winner, &TeamRecordRow::W);
+    if (!result.loser.isEmpty())
+        bump(result.loser, &TeamRecordRow::L);
+    for (const QString &team : result.tie)
+        bump(team, &TeamRecordRow::Tie);
+}
+
+void SeasonFold::write(SQLite::Database &db) const
+{
+    writeRows(db, "Hitting", hittingColumns(), m_order, m_hitting);
+    writeRows(db, "Fielding", fieldingColumns(), m_order, m_fielding);
+    writeRows(db, "Pitching", pitchingColumns(), m_order, m_pitching);
+    for (const qint64 team : m_teamOrder) {
+        const TeamRecordRow &row = m_records[team];
+        if (!row.changed)
+            continue;
+        if (row.recID >= 0) {
+            SQLite::Statement update(db, "UPDATE GameResultsByTeam SET W = ?, L = ?, Tie = ? WHERE recID = ?");
+            update.bind(1, static_cast<int64_t>(row.W));
+            update.bind(2, static_cast<int64_t>(row.L));
+            update.bind(3, static_cast<int64_t>(row.Tie));
+            update.bind(4, static_cast<int64_t>(row.recID));
+            update.exec();
+        } else {
+            SQLite::Statement insert(db, "INSERT INTO GameResultsByTeam (teamID, W, L, Tie) VALUES (?, ?, ?, ?)");
+            insert.bind(1, static_cast<int64_t>(team));
+            insert.bind(2, static_cast<int64_t>(row.W));
+            insert.bind(3, static_cast<int64_t>(row.L));
+            insert.bind(4, static_cast<int64_t>(row.Tie));
+            insert.exec();
+        }
+    }
+}
+
+const SeasonRow<kPitchingFigures> *SeasonFold::pitching(qint64 playerID) const
+{
+    const auto it = m_pitching.constFind(playerID);
+    return it == m_pitching.cend() ? nullptr : &*it;
+}
+
+} // namespace stats

@@ -1,0 +1,79 @@
+#pragma once
+
+// The season rows a recorded game changes, read once, added to in memory and
+// written back: `Hitting`, `Fielding` and `Pitching` by player, and
+// `GameResultsByTeam` by team. A player has one row per table whatever team
+// he played for; each fold overwrites the row's `teamID` and `gameID`.
+
+#include "stats/SeasonFigures.h"
+#include "stats/dataAggregator.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <array>
+
+namespace SQLite {
+class Database;
+}
+
+namespace stats {
+
+class GameResultClass;
+
+template<std::size_t N>
+struct SeasonRow
+{
+    qint64 recID = -1; // -1: no row yet, it is inserted
+    qint64 teamID = 0;
+    qint64 gameID = 0;
+    std::array<qint64, N> figures {};
+    bool changed = false;
+};
+
+struct TeamRecordRow
+{
+    qint64 recID = -1;
+    qint64 W = 0;
+    qint64 L = 0;
+    qint64 Tie = 0;
+    bool changed = false;
+};
+
+class SeasonFold
+{
+public:
+    // Reads the season rows of these players and the records of these teams.
+    // Throws SQLite::Exception on a database error.
+    SeasonFold(SQLite::Database &db, const QList<qint64> &playerIDs, const QList<qint64> &teamIDs);
+
+    // Adds one lineup row's game. False, with nothing changed, when the
+    // player's stored innings total has a thirds digit above 2: such a
+    // total can't be summed, and recording stops before any write.
+    bool add(const PlayerAdditions &player, qint64 teamID, qint64 gameID);
+    void addResult(const GameResultClass &result);
+
+    // Writes every row that changed: an update by its recID, or an insert.
+    // Throws SQLite::Exception on a database error; the caller's
+    // transaction then takes everything back.
+    void write(SQLite::Database &db) const;
+
+    // The player's pitching row as it stands, or null.
+    const SeasonRow<kPitchingFigures> *pitching(qint64 playerID) const;
+
+private:
+    QHash<qint64, SeasonRow<kHittingFigures>> m_hitting;
+    QHash<qint64, SeasonRow<kFieldingFigures>> m_fielding;
+    QHash<qint64, SeasonRow<kPitchingFigures>> m_pitching;
+    QHash<qint64, TeamRecordRow> m_records;
+    // Players in the order they were first folded, so rows are inserted in
+    // lineup order.
+    QList<qint64> m_order;
+    QList<qint64> m_teamOrder;
+};
+
+// The numeric value of an ID as stored in the season tables.
+qint64 idValue(const QString &id);
+
+} // namespace stats

@@ -1,0 +1,54 @@
+#pragma once
+
+// The window shown before a game is recorded: four checks, each with a
+// green tick or a red cross, and a warning that recording can't be undone.
+// The checks warn and don't bar: the coach records or cancels.
+
+#include <QDialog>
+
+#include <array>
+
+class QLabel;
+class QPushButton;
+
+// One check's mark: a green tick when passed, else a red cross.
+class CheckMark : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CheckMark(QWidget *parent = nullptr);
+    void setPassed(bool passed);
+    bool passed() const { return m_passed; }
+    QSize sizeHint() const override { return {24, 24}; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool m_passed = false;
+};
+
+class finalCheckScrn : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit finalCheckScrn(QWidget *parent = nullptr);
+
+    // Shows the checks modally; true when the coach chose to record.
+    bool showMe(const std::array<bool, 4> &checks);
+
+    bool result = false;
+    std::array<bool, 4> passed {};
+
+    QLabel *titleLabel = nullptr;
+    std::array<QLabel *, 4> checkLabel {};
+    std::array<CheckMark *, 4> checkCnv {};
+    QLabel *warnLabel = nullptr;
+    QPushButton *cancelBtn = nullptr;
+    QPushButton *recordBtn = nullptr;
+
+    // The texts of the four checks, in order.
+    static const std::array<QString, 4> &checkTexts();
+};

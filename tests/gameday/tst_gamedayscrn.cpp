@@ -1,0 +1,361 @@
+// The game screen as a coach uses it: opened from the schedule, both
+// lineups built, three innings scored for both teams from the keyboard
+// (a doubled inning, a substitution, the walk-off question), RBI and SB
+// typed with their keys, each statistics panel saved, pitching auto-fill,
+// teams switched, and the game closed and opened again. The stored strings
+// are compared with a golden file.
+
+#include "GameDayTestSupport.h"
+#include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenDirectory.h"
+#include "fakes/TestSupport.h"
+#include "gameday/ui/AddPlayersToGameScrn.h"
+#include "gameday/ui/BBPlayersLB.h"
+#include "gameday/ui/BBScoringLB.h"
+#include "gameday/ui/gameDayScrn.h"
+#include "reports/ui/qlmListBox.h"
+#include "schedule/EventDates.h"
+#include "schedule/ui/scheduleScrn.h"
+#include "stats/ui/AutoFillPitchScrn.h"
+#include "stats/ui/FieldingCtr.h"
+#include "stats/ui/battingCtr.h"
+#include "stats/ui/pitchingCtr.h"
+#include "support/ui/PlusMinusContainer.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QQueue>
+#include <QRadioButton>
+#include <QTimer>
+
+using namespace gameday;
+
+namespace {
+
+template<class T>
+T *shown()
+{
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (auto *t = qobject_cast<T *>(w); t && t->isVisible())
+            return t;
+    }
+    return nullptr;
+}
+
+// Works a modal window of type T once it shows.
+template<class T>
+void whenShown(std::function<void(T *)> work)
+{
+    auto *poll = new QTimer;
+    poll->setInterval(5);
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, work] {
+        if (auto *w = shown<T>()) {
+            poll->deleteLater();
+            poll->stop();
+            work(w);
+        }
+    });
+    poll->start();
+}
+
+void continueAutoFill()
+{
+    whenShown<AutoFillPitchScrn>([](AutoFillPitchScrn *w) { w->findChild<QPushButton *>(QStringLiteral("ContBtn"))->click(); });
+}
+
+int rowOfPos(qlmListBox *list, const QString &pos)
+{
+    for (int r = 0; r < list->rowCount(); ++r) {
+        if (list->cell(r, 2) == pos)
+            return r;
+    }
+    return -1;
+}
+
+QString storedStrings(const QString &schedID)
+{
+    const GameRecord g = GameStore(*gData).load(schedID).value();
+    QStringList out{QStringLiteral("gameType=") + g.gameType, QStringLiteral("recorded=") + QString::number(g.recorded)};
+    const QStringList names = {"Headings", "Bench", "Players", "Actions", "Outcomes", "BatterStats"};
+    for (int t = 0; t < 2; ++t) {
+        const TeamStrings &s = g.teams[size_t(t)];
+        const QStringList values = {s.headings, s.bench, s.players, s.actions, s.outcomes, s.batStats};
+        for (int i = 0; i < 6; ++i) {
+            QString v = values.at(i);
+            out.append(QStringLiteral("Team%1%2=").arg(t == 0 ? "A" : "B", names.at(i)) +
+                       v.replace(u'\t', QStringLiteral("\\t")).replace(u'\r', QStringLiteral("\\r")));
+        }
+    }
+    return out.join(u'\n') + u'\n';
+}
+
+} // namespace
+
+class TestGameDayScrn : public QObject
+{
+    Q_OBJECT
+
+    gameDayScrn *m_scr = nullptr;
+    QQueue<QString> m_codes;
+
+    // Keyboard: the arrow keys' target cell, then Return; the popover's
+    // answer comes from the script.
+    void atBat(int row, int col, const QString &codes)
+    {
+        for (const QString &code : codes.split(u'>', Qt::SkipEmptyParts)) {
+            m_codes.enqueue(code);
+            m_scr->scoreCardLB->setCurrentCell(row, col);
+            QTest::keyClick(m_scr->scoreCardLB, Qt::Key_Return);
+        }
+    }
+    void inning(int col, const QStringList &plays)
+    {
+        for (const QString &p : plays)
+            atBat(p.section(u':', 0, 0).toInt(), col, p.section(u':', 1));
+    }
+    void addByPos(const QStringList &positions)
+    {
+        for (const QString &pos : positions) {
+            m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, pos));
+            m_scr->addBtn->setFocus();
+            QTest::keyClick(m_scr->addBtn, Qt::Key_Space);
+        }
+    }
+    // The cell editor open in the RBI and SB list.
+    QWidget *statEditor() const
+    {
+        return m_scr->batterStatLB->indexWidget(m_scr->batterStatLB->currentIndex());
+    }
+    QStringList board(int team) const
+    {
+        QStringList out;
+        for (QLineEdit *box : m_scr->inningFlds[size_t(team)])
+            out.append(box->text());
+        out << m_scr->runsFld[size_t(team)]->text() << m_scr->hitsFld[size_t(team)]->text()
+            << m_scr->errsFld[size_t(team)]->text() << m_scr->LOBFld[size_t(team)]->text();
+        return out;
+    }
+    void openFromSchedule(gamedaytest::Season &season)
+    {
+        auto *schedule = new scheduleScrn;
+        schedule->show();
+        auto *list = schedule->findChild<qlmListBox *>(QStringLiteral("ScheduleListbox"));
+        list->setSelectedRow(0);
+        auto *enter = schedule->findChild<QPushButton *>(QStringLiteral("enterDataBtn"));
+        QVERIFY(enter->isEnabled());
+        enter->click();
+        m_scr = shown<gameDayScrn>();
+        QVERIFY(m_scr);
+        QCOMPARE(m_scr->game().schedID(), season.schedID());
+        m_scr->scoreCardLB->grid().setPopoverRequest([this](int, int, bool) {
+            return m_codes.isEmpty() ? QString() : m_codes.dequeue();
+        });
+        QTRY_COMPARE(m_scr->game().curSelTeam(), 0); // the switch timer brings team A on show
+        schedule->close();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qRegisterMetaType<AutoFillData>();
+        screens::registerScreen(ScreenId::gameDayScrn, [](const QVariant &id) { return new gameDayScrn(id.toString()); });
+    }
+
+    void playAGame()
+    {
+        gamedaytest::Season season;
+        gPrefs->prInnings = QStringLiteral("3 Innings");
+        auto &msgs = season.fake.messages;
+        openFromSchedule(season);
+        QCOMPARE(m_scr->InstrFld->text(), QStringLiteral("Select a player from the roster and click 'Add' to create your lineup."));
+        QVERIFY(!m_scr->finalizeBtn->isVisible());
+
+        // Team A (the home team): nine batters, a tenth who only pitches, a refused eleventh.
+        const QStringList nine = {"C", "B1", "B2", "B3", "SS", "LF", "CF", "RF", "DH"};
+        addByPos(nine + QStringList{"RHP", "LHP"});
+        QCOMPARE(m_scr->Names_PosLB->rowCount(), 10);
+        QCOMPARE(msgs.texts(), (QStringList{"Add a non-batting Pitcher to your lineup.",
+                                            "You have reached max players as defined in Preferences."}));
+        // Team B: four batters and their pitcher.
+        m_scr->TeamBtn[1]->click();
+        QCOMPARE(m_scr->game().curSelTeam(), 1);
+        addByPos({"C", "B1", "B2", "RHP"});
+        // A player taken off the bench comes back through the list of the team's players.
+        m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, "P"));
+        Q_EMIT m_scr->PlusMinusPlayers->MinusPressed();
+        QCOMPARE(msgs.texts().last(), QStringLiteral("Are you sure you wish to remove Bo12 Smith from the list of available players?"));
+        QCOMPARE(m_scr->rosterList->rowCount(), 7);
+        whenShown<AddPlayersToGameScrn>([](AddPlayersToGameScrn *w) {
+            for (int r = 0; r < w->PlayerList->rowCount(); ++r)
+                w->PlayerList->setCellCheck(r, 0, true);
+            w->findChild<QPushButton *>(QStringLiteral("doneBtn"))->click();
+        });
+        Q_EMIT m_scr->PlusMinusPlayers->PlusPressed();
+        QCOMPARE(m_scr->rosterList->rowCount(), 8); // only the one on neither list
+        QCOMPARE(m_scr->rosterList->cell(7, 1), QStringLiteral("Bo12 Smith"));
+
+        // Team B bats in the second half, but its card is on show: the
+        // first inning doubles (four batters, two outs when the order comes round).
+        inning(0, {"0:B1>xRUN", "1:BB>xOUT", "2:HR", "3:GO"});
+        QCOMPARE(m_scr->scoreCardLB->grid().heading(1), QStringLiteral("1a"));
+        inning(1, {"0:KS"});
+        inning(2, {"1:B2>xLOB", "2:KL", "3:GO", "0:FO"});
+        QVERIFY(m_scr->finalizeBtn->isVisible());
+        QVERIFY(m_scr->finalizeBtn->isEnabled());
+
+        // Team A: three innings with a substitution after the first.
+        m_scr->TeamBtn[0]->click();
+        inning(0, {"0:B1>xLOB", "1:GO", "2:KS", "3:FO"});
+        m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, "P"));
+        m_scr->Names_PosLB->setSelectedRow(1);
+        m_scr->replaceBtn->click();
+        QCOMPARE(m_scr->Names_PosLB->cell(2, 2), QStringLiteral(" ->Ann12 Smith"));
+        QCOMPARE(m_scr->Names_PosLB->cell(2, 0), QStringLiteral("2"));
+        inning(1, {"5:HR", "6:GO", "7:KL", "8:FO"});
+        inning(2, {"9:B3>xRUN", "0:BB>xLOB", "2:GO", "3:KS", "4:GO"});
+        QCOMPARE(board(0).mid(0, 4), (QStringList{"0", "1", "1", "--"}));
+
+        // RBI and SB from the keyboard: "+" steps, Return goes down, Tab across.
+        m_scr->batterStatLB->editCell(4, 0);
+        QTest::keyClick(statEditor(), Qt::Key_Plus);
+        QTest::keyClick(statEditor(), Qt::Key_Return);
+        QTest::keyClick(statEditor(), Qt::Key_Tab);
+        QTest::keyClick(statEditor(), Qt::Key_Plus);
+        QTest::keyClick(statEditor(), Qt::Key_Plus);
+        QTest::keyClick(statEditor(), Qt::Key_Minus);
+        QTest::keyClick(statEditor(), Qt::Key_Return);
+        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(4), (BatterStat{"1", "0"}));
+        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(5), (BatterStat{"0", "1"}));
+
+        // The panels: batting and fielding for the home run hitter, pitching for the pitcher.
+        m_scr->Names_PosLB->setSelectedRow(4);
+        m_scr->UDBatStatsBtn->click();
+        QVERIFY(m_scr->myBatCtr->isVisible());
+        QTest::keyClick(m_scr->myBatCtr->dataFld(1), Qt::Key_Plus);
+        QTest::keyClick(m_scr->myBatCtr->dataFld(1), Qt::Key_Escape);
+        QVERIFY(!m_scr->myBatCtr->isVisible());
+        QVERIFY(!m_scr->UDBatStatsBtn->isChecked());
+        m_scr->fldStatsBtn->click();
+        m_scr->myFldCtr->dataFld(5)->setText(QString());
+        QTest::keyClicks(m_scr->myFldCtr->dataFld(5), QStringLiteral("2x"));
+        QCOMPARE(season.fake.beeper.beeps, 1);
+        m_scr->fldStatsBtn->click();
+        QCOMPARE(m_scr->errsFld[0]->text(), QStringLiteral("2"));
+
+        m_scr->Names_PosLB->setSelectedRow(10);
+        QVERIFY(m_scr->pitchStatsBtn->isEnabled());
+        m_scr->pitchStatsBtn->click();
+        QVERIFY(m_scr->scoreCardLB->grid().disableCellClick);
+        QLineEdit *ip = m_scr->myPitchCtr->dataFld(0);
+        ip->setText(QString());
+        QTest::keyClicks(ip, QStringLiteral("6.3"));
+        QTest::keyClick(ip, Qt::Key_Escape);
+        QVERIFY(m_scr->myPitchCtr->isVisible()); // a bad innings text keeps the panel open
+        QCOMPARE(msgs.texts().last(), QStringLiteral("Incorrect 'IP' entry."));
+
+        // Auto-fill over team B's card: from the first batter of "1" to
+        // the last of "2" (the doubled inning in between).
+        continueAutoFill();
+        m_scr->myPitchCtr->autoFillButton()->click();
+        QCOMPARE(m_scr->game().curSelTeam(), 1);
+        QVERIFY(!m_scr->myPitchCtr->isVisible());
+        for (const QPoint mark : {QPoint(0, 0), QPoint(2, 0)}) { // (col, row)
+            m_scr->scoreCardLB->setCurrentCell(mark.y(), mark.x());
+            QTest::keyClick(m_scr->scoreCardLB, Qt::Key_Return);
+        }
+        QCOMPARE(m_scr->game().curSelTeam(), 0);
+        QVERIFY(m_scr->myPitchCtr->isVisible());
+        QCOMPARE(ip->text(), QStringLiteral("2.0")); // six outs
+        QCOMPARE(m_scr->myPitchCtr->dataFld(1)->text(), QStringLiteral("9"));
+        QCOMPARE(m_scr->myPitchCtr->dataFld(2)->text(), QStringLiteral("3"));
+        m_scr->myPitchCtr->gameBtn(0)->click();
+        QTest::keyClick(ip, Qt::Key_Escape);
+        QVERIFY(!m_scr->myPitchCtr->isVisible());
+
+        // Team B's last at bats: a run in the last inning asks whether the game is over.
+        m_scr->TeamBtn[1]->click();
+        msgs.answers.enqueue(platform::MsgAction);
+        inning(3, {"1:HR"});
+        QCOMPARE(msgs.texts().last(), QStringLiteral("Is this game over?"));
+        const QStringList boardA = board(0);
+        const QStringList boardB = board(1);
+        QCOMPARE(boardB.mid(0, 4), (QStringList{"2", "0", "1", "--"}));
+        QCOMPARE(boardB.at(10), QStringLiteral("3"));
+        m_scr->TeamBtn[0]->click();
+        m_scr->TeamBtn[1]->click();
+        QCOMPARE(board(1), boardB);
+
+        const QString data = m_scr->scoreCardLB->grid().getMyData();
+        QVERIFY(m_scr->close());
+        m_scr = nullptr;
+
+        QFile golden(qEnvironmentVariable("TL_TEST_DATA") + QStringLiteral("/gameday-played.txt"));
+        const QString stored = storedStrings(season.schedID());
+        if (qEnvironmentVariableIsSet("TL_UPDATE_GOLDEN")) {
+            QVERIFY(golden.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            golden.write(stored.toUtf8());
+        } else {
+            QVERIFY(golden.open(QIODevice::ReadOnly));
+            QCOMPARE(stored, QString::fromUtf8(golden.readAll()));
+        }
+
+        // Open it again: every string, cell and box as it was.
+        openFromSchedule(season);
+        QCOMPARE(board(0), boardA);
+        if (qEnvironmentVariableIsSet("TL_SCREENSHOT"))
+            m_scr->grab().save(qEnvironmentVariable("TL_SCREENSHOT"));
+        m_scr->menus()->item(QStringLiteral("FilePrint"))->trigger();
+        QCOMPARE(season.fake.printing.printed.size(), 1);
+        const QString printed = fakes::pdfText(season.fake.printing.printed.first());
+        QVERIFY(printed.startsWith(QStringLiteral("O'Brien's")));
+        QVERIFY(printed.contains(QStringLiteral("Printed: ") + EventDates::shortDate(QDate(2026, 4, 15))));
+        m_scr->TeamBtn[1]->click();
+        QCOMPARE(board(1), boardB);
+        QCOMPARE(m_scr->scoreCardLB->grid().getMyData(), data);
+        QVERIFY(m_scr->finalizeBtn->isVisible());
+        QCOMPARE(storedStrings(season.schedID()), stored);
+        m_scr->close();
+    }
+
+    // The bottom line when a game is opened again: the button for a game
+    // not recorded (a new game shows neither, see playAGame), the label
+    // once recorded.
+    void recordedState_data()
+    {
+        QTest::addColumn<bool>("inningOver");
+        QTest::addColumn<bool>("recorded");
+        QTest::addColumn<bool>("button");
+        QTest::addColumn<bool>("label");
+        QTest::newRow("no at bat yet") << false << false << true << false;
+        QTest::newRow("in progress") << true << false << true << false;
+        QTest::newRow("recorded") << true << true << false << true;
+    }
+    void recordedState()
+    {
+        QFETCH(bool, inningOver);
+        QFETCH(bool, recorded);
+        QFETCH(bool, button);
+        QFETCH(bool, label);
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        if (inningOver) {
+            addByPos({"C", "B1", "B2"});
+            inning(0, {"0:GO", "1:FO", "2:KS"});
+        }
+        if (recorded)
+            m_scr->game().setRecorded();
+        QVERIFY(m_scr->close());
+        openFromSchedule(season);
+        QCOMPARE(m_scr->finalizeBtn->isVisible(), button);
+        QCOMPARE(m_scr->dataRecordedLabel->isVisible(), label);
+        QCOMPARE(GameStore(*gData).load(season.schedID())->recorded, recorded);
+        m_scr->close();
+    }
+};
+
+QTEST_MAIN(TestGameDayScrn)
+#include "tst_gamedayscrn.moc"

@@ -1,0 +1,128 @@
+// The Games row: its strings read and written field for field, damaged
+// lines skipped, the row stored and read back whole, and one team's write.
+
+#include "app/App.h"
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "fakes/FakePlatform.h"
+#include "gameday/GameStore.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace gameday;
+
+class TestGameRecord : public QObject
+{
+    Q_OBJECT
+
+    fakes::FakePlatform m_fake;
+    QTemporaryDir m_home;
+    std::unique_ptr<App> m_app;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_app = std::make_unique<App>(m_home.path());
+        QCOMPARE(m_app->Event_Open(), App::OpenResult::Ok);
+    }
+
+    void linesWithWrongFieldCountsAreSkipped_data()
+    {
+        QTest::addColumn<QString>("players");
+        QTest::addColumn<int>("kept");
+        QTest::newRow("two good lines") << "1\tSS\tBen Cole\t201\r2\tCF\tCal Diaz\t203" << 2;
+        QTest::newRow("three fields") << "1\tSS\tBen Cole\r2\tCF\tCal Diaz\t203" << 1;
+        QTest::newRow("five fields") << "1\tSS\tBen\tCole\t201" << 0;
+        QTest::newRow("empty") << "" << 0;
+        QTest::newRow("binary junk") << QString::fromLatin1("\x01\x02\xff\t\x00\r\r\t", 8) << 0;
+    }
+    void linesWithWrongFieldCountsAreSkipped()
+    {
+        QFETCH(QString, players);
+        QFETCH(int, kept);
+        QCOMPARE(readPlayers(players).size(), kept);
+        QCOMPARE(readBench(players).size(), kept);
+    }
+
+    void writersCleanSeparatorsAndReadBack()
+    {
+        const QList<LineupLine> lineup = {{"1", "SS", "Ben\tO'Brien\r", "201"}, {"1", "C", " ->Ed Ford", "209"}};
+        const QString stored = writePlayers(lineup);
+        QCOMPARE(stored, QStringLiteral("1\tSS\tBen O'Brien \t201\r1\tC\t ->Ed Ford\t209"));
+        QCOMPARE(readPlayers(stored).at(1), lineup.at(1));
+        QCOMPARE(writeBatStats({{"1", "0"}, {"0", "2"}}), QStringLiteral("1\t0\r0\t2"));
+        QCOMPARE(readBatStats("1\t0\r7\r0\t2").size(), 2);
+    }
+
+    void runEntryRoundTrip_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<int>("runs");
+        QTest::newRow("full") << "xxx\t0\t2\t0\t1\t--\t--\t--\t--\t--\t--\t7\t1\t4" << 3;
+        QTest::newRow("short") << "xxx\t5" << 5;
+    }
+    void runEntryRoundTrip()
+    {
+        QFETCH(QString, stored);
+        QFETCH(int, runs);
+        QVERIFY(isRunEntry(stored));
+        const RunEntry e = readRunEntry(stored);
+        QCOMPARE(e.runs(), runs);
+        QCOMPARE(writeRunEntry(e).split(u'\t').size(), 14);
+        QCOMPARE(readRunEntry(writeRunEntry(e)), e);
+    }
+
+    void rowStoredAndReadBackWhole()
+    {
+        GameStore store(*gData);
+        GameRecord g;
+        g.schedID = QStringLiteral("41");
+        g.teamIDs = {QStringLiteral("4"), QStringLiteral("11")};
+        g.teams[0].headings = newGameHeadings();
+        g.teams[0].bench = QStringLiteral("22\tAl O'Reyes\tRF\t207");
+        g.teams[1].bench = QStringLiteral("7\tZed Day\tC\t300");
+        QVERIFY(store.create(g));
+        QCOMPARE(store.load(QStringLiteral("41")).value(), g);
+
+        g.teams[0].players = QStringLiteral("1\tSS\tBen Cole\t201");
+        g.teams[0].actions = QStringLiteral("B1\tGO");
+        g.teams[1].actions = QStringLiteral("HR");
+        g.gameType = QStringLiteral("Division");
+        QCOMPARE(store.saveTeam(g, 0), GameStore::SaveResult::Saved);
+        GameRecord back = store.load(QStringLiteral("41")).value();
+        QCOMPARE(back.teams[0], g.teams[0]);
+        QCOMPARE(back.teams[1].actions, QString()); // only the team on show was written
+        QCOMPARE(back.gameType, QStringLiteral("Division"));
+
+        g.recorded = true;
+        QCOMPARE(store.save(g), GameStore::SaveResult::Saved);
+        QCOMPARE(store.load(QStringLiteral("41")).value(), g);
+
+        g.schedID = QStringLiteral("999");
+        QCOMPARE(store.save(g), GameStore::SaveResult::Missing);
+        QVERIFY(!store.load(QStringLiteral("999")));
+    }
+
+    void gameTypeByLeagueAndDivision_data()
+    {
+        QTest::addColumn<QString>("leagueB");
+        QTest::addColumn<QString>("divisionB");
+        QTest::addColumn<QString>("type");
+        QTest::newRow("same both") << "North" << "A" << "Division";
+        QTest::newRow("same league") << "North" << "B" << "Non-Div/League";
+        QTest::newRow("other league") << "South" << "A" << "Non-Div/Non-Lg";
+        QTest::newRow("case differs") << "north" << "A" << "Non-Div/Non-Lg";
+    }
+    void gameTypeByLeagueAndDivision()
+    {
+        QFETCH(QString, leagueB);
+        QFETCH(QString, divisionB);
+        QFETCH(QString, type);
+        const QStringList types = gPrefs->prGameTypes.split(u',');
+        QCOMPARE(chooseGameType({"A", "North", "A"}, {"B", leagueB, divisionB}, types), type);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestGameRecord)
+#include "tst_gamerecord.moc"

@@ -1,0 +1,273 @@
+// The report chooser and the report window driven as a coach would: the
+// chosen columns, the filters, the heading sort, print and export.
+
+#include "ReportsFixture.h"
+#include "app/ui/MainMenuBar.h"
+#include "app/ui/startScrn1.h"
+#include "fakes/TestSupport.h"
+#include "reports/ui/qlmListBox.h"
+#include "reports/ui/reportIntroScrn.h"
+#include "reports/ui/reportScrn.h"
+#include "reports/ui/standingsScrn.h"
+#include "support/ui/qlmCheckBox.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+template<class W>
+W *shown()
+{
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (auto *found = qobject_cast<W *>(w); found && found->isVisible())
+            return found;
+    }
+    return nullptr;
+}
+
+void closeAll()
+{
+    for (QWidget *w : QApplication::topLevelWidgets())
+        w->deleteLater();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+QStringList checkedRows(const qlmListBox *list)
+{
+    QStringList out;
+    for (int r = 0; r < list->rowCount(); ++r) {
+        if (list->cellCheck(r, 0))
+            out.append(list->cell(r, 1));
+    }
+    return out;
+}
+
+QStringList column(const qlmListBox *list, int c)
+{
+    QStringList out;
+    for (int r = 0; r < list->rowCount(); ++r)
+        out.append(list->cell(r, c));
+    return out;
+}
+
+// Three batters of the Eagles and one of the Owls.
+struct BattingSeason : ReportsFixture
+{
+    qint64 eagles = addTeam("Eagles", "North", "East");
+    qint64 owls = addTeam("Owls", "North", "West");
+    BattingSeason()
+    {
+        addSeasonRow("Hitting", addPlayer(eagles, "Al", "Ames"), eagles,
+                     {{"AB", 10}, {"B1", 2}, {"B2", 1}, {"HR", 1}, {"BB", 2}, {"KS", 3}, {"Runs", 2}, {"RBI", 3}});
+        addSeasonRow("Hitting", addPlayer(owls, "Bo", "Bell"), owls, {{"AB", 4}, {"B1", 1}, {"KL", 1}});
+        addSeasonRow("Hitting", addPlayer(eagles, "Dan", "O'Neil"), eagles, {{"AB", 3}, {"B3", 1}, {"BB", 1}});
+    }
+};
+
+// Opens the batting report with the default columns, through the chooser.
+reportScrn *openBattingReport()
+{
+    auto *intro = new reportIntroScrn;
+    intro->show();
+    QTest::mouseClick(intro->viewBtn[0], Qt::LeftButton);
+    return shown<reportScrn>();
+}
+
+} // namespace
+
+class TestReportScreens : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { closeAll(); }
+
+    void defaultChecks_data()
+    {
+        QTest::addColumn<int>("which");
+        QTest::addColumn<QStringList>("checked");
+        QTest::addColumn<QStringList>("fixed");
+        QTest::newRow("batting") << 0 << QStringList{"B1", "B2", "B3", "HR", "BB", "KS", "KL", "Runs", "RBI"}
+                                 << QStringList{"AB", "Avg", "OBP", "SP"};
+        QTest::newRow("fielding") << 1 << QStringList{"IP", "CH", "PO", "Asst", "FE", "TE"} << QStringList{"FPct"};
+        QTest::newRow("pitching") << 2
+                                  << QStringList{"Win", "Loss", "Save", "ND", "Start", "ShO", "CG", "Balls", "Ks",
+                                                 "PitCt", "IP", "Hits", "ErRuns", "BB", "Kouts"}
+                                  << QStringList{"ERA"};
+    }
+    // The defaults, "All" and back, a check by keyboard, and the columns a
+    // view button hands the report.
+    void defaultChecks()
+    {
+        QFETCH(int, which);
+        QFETCH(QStringList, checked);
+        QFETCH(QStringList, fixed);
+        ReportsFixture f;
+        auto *intro = new reportIntroScrn;
+        intro->show();
+        qlmListBox *list = intro->statsLB[which];
+        QCOMPARE(checkedRows(list), checked);
+        for (int r = 0; r < fixed.size(); ++r) {
+            QCOMPARE(list->cell(r, 1), fixed.at(r));
+            QCOMPARE(list->cell(r, 0), QStringLiteral("\u2714"));
+        }
+
+        QTest::mouseClick(intro->checkAll[which], Qt::LeftButton);
+        QCOMPARE(checkedRows(list).size(), list->rowCount());
+        QTest::mouseClick(intro->checkAll[which], Qt::LeftButton);
+        QCOMPARE(checkedRows(list), checked);
+
+        // Space flips a chosen row; a fixed row stays in the report.
+        const int last = list->rowCount() - 1;
+        list->setSelectedRow(last);
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(list->cellCheck(last, 0));
+        list->setSelectedRow(0);
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(!list->cellCheck(0, 0));
+
+        QTest::mouseClick(intro->viewBtn[which], Qt::LeftButton);
+        reportScrn *report = shown<reportScrn>();
+        QVERIFY(report);
+        QVERIFY(!intro->isVisible());
+        QVERIFY(!startScrn1::instance() || !startScrn1::instance()->isVisible());
+        QCOMPARE(report->reportBox->headings(),
+                 QStringList({"First Name", "Last Name"}) + fixed + checked + QStringList{list->cell(last, 1)});
+    }
+
+    void battingWithNothingTicked()
+    {
+        BattingSeason f;
+        auto *intro = new reportIntroScrn;
+        intro->show();
+        for (int r = 0; r < intro->statsLB[0]->rowCount(); ++r)
+            intro->statsLB[0]->setCellCheck(r, 0, false);
+        QTest::mouseClick(intro->viewBtn[0], Qt::LeftButton);
+        reportScrn *report = shown<reportScrn>();
+        QVERIFY(report);
+        QCOMPARE(report->reportBox->headings(), (QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP"}));
+        QCOMPARE(report->reportBox->rowCells(0), (QStringList{"Al", "Ames", "10", ".400", ".500", ".800"}));
+        QCOMPARE(report->titleLbl->text(), QStringLiteral("Batting"));
+    }
+
+    void exportMatchesGoldenFile()
+    {
+        BattingSeason f;
+        reportScrn *report = openBattingReport();
+        QVERIFY(report);
+        const QString path = f.home.filePath(QStringLiteral("export.txt"));
+        f.platform.files.answers.enqueue(path);
+        report->menus()->item(QStringLiteral("FileExport"))->trigger();
+        QCOMPARE(f.platform.files.calls.size(), 1);
+        QCOMPARE(f.platform.files.calls.first().request.suggestedName, QStringLiteral("Batting Report"));
+        QFile written(path);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QFile golden(qEnvironmentVariable("TL_TEST_DATA") + QStringLiteral("/reports/batting_export.txt"));
+        QVERIFY(golden.open(QIODevice::ReadOnly));
+        QCOMPARE(written.readAll(), golden.readAll());
+    }
+
+    void filtersAndHeadingSort()
+    {
+        BattingSeason f;
+        reportScrn *report = openBattingReport();
+        QVERIFY(report);
+        qlmListBox *list = report->reportBox;
+        QCOMPARE(column(list, 1), (QStringList{"Ames", "Bell", "O'Neil"}));
+
+        // A click on "Avg" sorts by the figure, and keeps that order under a filter.
+        const int avg = 3;
+        QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {},
+                          QPoint(list->header()->sectionViewportPosition(avg) + 5, 5));
+        QCOMPARE(column(list, avg), (QStringList{".250", ".333", ".400"}));
+        report->teamFilter->setCurrentIndex(report->teamFilter->findText("Eagles"));
+        QCOMPARE(column(list, 1), (QStringList{"O'Neil", "Ames"}));
+
+        report->DivisionFilter->setCurrentIndex(report->DivisionFilter->findText("West"));
+        QCOMPARE(list->rowCount(), 0);
+        report->teamFilter->setCurrentIndex(0);
+        QCOMPARE(column(list, 1), (QStringList{"Bell"}));
+        report->leagueFilter->setCurrentIndex(report->leagueFilter->findText("North"));
+        report->DivisionFilter->setCurrentIndex(0);
+        QCOMPARE(list->rowCount(), 3);
+    }
+
+    // Wide print in landscape: the report's lines, or "No Data Available"
+    // when the filters leave none.
+    void print()
+    {
+        BattingSeason f;
+        reportScrn *report = openBattingReport();
+        QVERIFY(report);
+        report->menus()->item(QStringLiteral("FilePrint"))->trigger();
+        report->DivisionFilter->setCurrentIndex(report->DivisionFilter->findText("West"));
+        report->teamFilter->setCurrentIndex(report->teamFilter->findText("Eagles"));
+        report->menus()->item(QStringLiteral("FilePrint"))->trigger();
+        QCOMPARE(f.platform.printing.printed.size(), 2);
+        const QString full = fakes::pdfText(f.platform.printing.printed.at(0));
+        QVERIFY(full.contains(QStringLiteral("Batting Report")));
+        QVERIFY(full.contains(QStringLiteral("O'Neil")));
+        QVERIFY(!full.contains(QStringLiteral("No Data Available")));
+        QVERIFY(fakes::pdfText(f.platform.printing.printed.at(1)).contains(QStringLiteral("No Data Available")));
+        QVERIFY(!report->menus()->item(QStringLiteral("Help"))->isEnabled());
+        QVERIFY(!report->menus()->item(QStringLiteral("Abbrev"))->isEnabled());
+    }
+
+    // Every control a coach can reach from the keyboard has a name to be read.
+    void controlsHaveNames_data()
+    {
+        QTest::addColumn<int>("window");
+        QTest::newRow("reportIntroScrn") << 0;
+        QTest::newRow("reportScrn") << 1;
+        QTest::newRow("standingsScrn") << 2;
+    }
+    void controlsHaveNames()
+    {
+        QFETCH(int, window);
+        BattingSeason f;
+        QWidget *screen = window == 0   ? static_cast<QWidget *>(new reportIntroScrn)
+                          : window == 1 ? static_cast<QWidget *>(new reportScrn(0, {"First Name", "Last Name"}))
+                                        : static_cast<QWidget *>(new standingsScrn);
+        screen->show();
+        int checked = 0;
+        for (QWidget *w : screen->findChildren<QWidget *>()) {
+            if (!w->isVisibleTo(screen) || w->focusPolicy() == Qt::NoFocus || w->inherits("QMenuBar") ||
+                w->parentWidget()->inherits("QAbstractItemView") || w->parentWidget()->inherits("QComboBox"))
+                continue;
+            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(w);
+            QVERIFY2(face && !face->text(QAccessible::Name).isEmpty(), qPrintable(w->objectName()));
+            ++checked;
+        }
+        QVERIFY(checked >= 4);
+    }
+
+    void newReportAndClose()
+    {
+        ReportsFixture f;
+        reportScrn *report = openBattingReport();
+        QVERIFY(report);
+        QCOMPARE(report->reportBox->rowCount(), 0);
+        QTest::mouseClick(report->newRptBtn, Qt::LeftButton);
+        QVERIFY(shown<reportIntroScrn>());
+        QVERIFY(!startScrn1::instance() || !startScrn1::instance()->isVisible());
+
+        QTest::mouseClick(shown<reportIntroScrn>()->viewBtn[2], Qt::LeftButton);
+        report = shown<reportScrn>();
+        QCOMPARE(report->titleLbl->text(), QStringLiteral("Pitching"));
+        QTest::mouseClick(report->closeBtn, Qt::LeftButton);
+        QVERIFY(!shown<reportIntroScrn>());
+        QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
+    }
+};
+
+QTEST_MAIN(TestReportScreens)
+#include "tst_reportscreens.moc"

@@ -1,0 +1,259 @@
+// Recording games stored in a season: the season rows and team records
+// they leave, worked out by hand, and every way a recording can stop
+// leaving the file exactly as it was.
+
+#include "RecordTestSupport.h"
+
+#include "app/myDB.h"
+#include "gameday/GameStore.h"
+#include "stats/GameRecorder.h"
+#include "stats/SeasonFigures.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QTest>
+
+using recordtest::Card;
+using recordtest::Season;
+using stats::GameRecorder;
+
+namespace {
+
+// Two games between the same lineups. In the first the home team wins 2-0;
+// the second is a 1-1 tie.
+QStringList storeTwoGames(Season &s)
+{
+    const QStringList home = {"Ben Cole/201", "Cal Diaz/203", "Dan Ewing/205"};
+    const QStringList bears = {"Al Fox/301", "Bo Gray/302"};
+
+    const QString g1 = s.storeGame(Card{home, {"B1/G GO/R", "KS/R BB/Y", "HR/G FO/R"}, "1\t0\r0\t1\r1\t0"},
+                                   Card{bears, {"GO/R KS/R", "B2/Y FO/R"}, "0\t0\r0\t0"});
+    Season::panel(stats::Panel::Batting, g1, "201", "0\t3\t0\t0\t1");
+    Season::panel(stats::Panel::Fielding, g1, "203", "9\t5\t3\t2\t1\t0\t0\t0\t0\t0\t0\t0\t0");
+    Season::pitchPanel(g1, "205", {0, true, false, false, 30, 50, "4.1\t20\t5\t2\t1\t3\t4\t2\t0\t0\t6\t0\t1\t0\t0\t0\t0"});
+    Season::pitchPanel(g1, "302", {2, false, false, false, 0, 0, "4.2\t25\t7"});
+
+    const QString g2 = s.storeGame(Card{home, {"B2/G", "SAC/R", "CI/Y"}, "0\t0\r1\t0\r0\t0"},
+                                   Card{bears, {"HR/G", "KL/R"}, "1\t0\r0\t0"});
+    Season::panel(stats::Panel::Fielding, g2, "201", "7\t2\t2");
+    Season::panel(stats::Panel::Fielding, g2, "203", "9\t1\t1\t0\t0\t1");
+    Season::pitchPanel(g2, "205", {1, false, false, false, 10, 12, "2.2\t9"});
+    Season::pitchPanel(g2, "302", {3, false, false, false, 0, 0, "2.2"});
+    return {g1, g2};
+}
+
+int runsOf(const QString &schedID, int team)
+{
+    return GameRecorder::scoreboardRuns(gameday::GameStore(*gData).load(schedID)->teams[team]);
+}
+
+GameRecorder::Result recordWithBoard(const QString &schedID)
+{
+    return GameRecorder(*gData).record(schedID, runsOf(schedID, 0), runsOf(schedID, 1));
+}
+
+} // namespace
+
+class TestRecordGame : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void seasonRows_data()
+    {
+        QTest::addColumn<int>("games");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("player");
+        QTest::addColumn<QString>("expected"); // figures after "team= game=", "" for no row
+
+        // First game: every row is inserted.
+        QTest::newRow("single, run, RBI, user stats") << 1 << "Hitting" << "201" << "AB=2 B1=1 GO=1 Runs=1 RBI=1 UDB2=3 UDB5=1";
+        QTest::newRow("fielding panel") << 1 << "Fielding" << "203" << "IP=9 CH=5 PO=3 Asst=2 FE=1";
+        QTest::newRow("no fielding panel, no row") << 1 << "Fielding" << "201" << "";
+        QTest::newRow("no decision counts ND") << 1 << "Pitching" << "205"
+            << "ND=1 Start=1 Balls=30 Ks=50 PitCt=80 IP=41 BF=20 Hits=5 ErRuns=2 HRA=1 GrO=3 FlO=4 BB=2 Kouts=6 WldP=1";
+        QTest::newRow("no pitching panel, no row") << 1 << "Pitching" << "203" << "";
+        // Second game: the same rows are updated.
+        QTest::newRow("updated hitting") << 2 << "Hitting" << "201" << "AB=3 B1=1 B2=1 GO=1 Runs=2 RBI=1 UDB2=3 UDB5=1";
+        QTest::newRow("sacrifice is no at bat") << 2 << "Hitting" << "203" << "AB=1 BB=1 SAC=1 KS=1 RBI=1 SB=1 LOB=1";
+        QTest::newRow("home run for the other side") << 2 << "Hitting" << "301" << "AB=3 HR=1 GO=1 KS=1 Runs=1 RBI=1";
+        QTest::newRow("fielding first in the second game") << 2 << "Fielding" << "201" << "IP=7 CH=2 PO=2";
+        QTest::newRow("fielding updated") << 2 << "Fielding" << "203" << "IP=18 CH=6 PO=4 Asst=2 FE=1 TE=1";
+        QTest::newRow("4.1 + 2.2 = 7.0") << 2 << "Pitching" << "205"
+            << "Win=1 ND=1 Start=1 Balls=40 Ks=62 PitCt=102 IP=70 BF=29 Hits=5 ErRuns=2 HRA=1 GrO=3 FlO=4 BB=2 Kouts=6 WldP=1";
+        QTest::newRow("4.2 + 2.2 = 7.1") << 2 << "Pitching" << "302" << "Loss=1 Save=1 IP=71 BF=25 Hits=7";
+        // Team records, "W-L-Tie": a tie added to the rows of a win.
+        QTest::newRow("a tie added to a win") << 2 << "GameResultsByTeam" << "home" << "1-0-1";
+        QTest::newRow("a tie added to a loss") << 2 << "GameResultsByTeam" << "bears" << "0-1-1";
+    }
+    void seasonRows()
+    {
+        QFETCH(int, games);
+        QFETCH(QString, table);
+        QFETCH(QString, player);
+        QFETCH(QString, expected);
+        Season s;
+        const QStringList ids = storeTwoGames(s);
+        for (int g = 0; g < games; ++g)
+            QCOMPARE(recordWithBoard(ids.at(g)), GameRecorder::Result::Recorded);
+
+        if (table == u"GameResultsByTeam") {
+            QCOMPARE(Season::record(player == u"home" ? s.homeID : s.bearsID), expected);
+            return;
+        }
+        const QString team = player.startsWith(u'3') ? s.bearsID : s.homeID;
+        const QString head = QStringLiteral("team=") + team + QStringLiteral(" game=") + ids.at(games - 1);
+        QCOMPARE(Season::seasonRow(table, player), expected.isEmpty() ? QString() : head + u' ' + expected);
+        QVERIFY(Season::isRecorded(ids.at(games - 1)));
+        QCOMPARE(s.fake.messages.texts().last(), QStringLiteral("The game data has been successfully recorded."));
+    }
+
+    void scoreboardDecides_data()
+    {
+        QTest::addColumn<QString>("bears"); // run-entry string, "" for a grid team
+        QTest::addColumn<int>("bearsRuns");
+        QTest::addColumn<QString>("home");
+        QTest::addColumn<QString>("bearsRecord");
+        QTest::newRow("0-0 tie") << "" << 0 << "0-0-1" << "0-0-1";
+        QTest::newRow("run-entry team wins") << "xxx\t0\t2\t0\t1\t--\t--\t--\t--\t--\t--\t7\t1\t4" << 3 << "0-1-0" << "1-0-0";
+    }
+    void scoreboardDecides()
+    {
+        QFETCH(QString, bears);
+        Season s;
+        Card bearsCard;
+        bearsCard.runEntry = bears;
+        const QString game = s.storeGame(Card{{"Ben Cole/201"}, {"GO/R"}, "0\t0"}, bearsCard);
+        QTEST(runsOf(game, 1), "bearsRuns");
+        QCOMPARE(recordWithBoard(game), GameRecorder::Result::Recorded);
+        QTEST(Season::record(s.homeID), "home");
+        QTEST(Season::record(s.bearsID), "bearsRecord");
+        QCOMPARE(Season::seasonRow("Hitting", "201"), "team=" + s.homeID + " game=" + game + " AB=1 GO=1");
+    }
+
+    // The checks shown before recording, each failing once.
+    void checks_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::addColumn<QString>("passed");
+        QTest::newRow("clean game") << "" << "1111";
+        QTest::newRow("run-entry opponent passes for it") << "run entry" << "1111";
+        QTest::newRow("RBI short of the runs") << "rbi" << "0111";
+        QTest::newRow("no runs on either side") << "no runs" << "0111";
+        QTest::newRow("an inning with two outs") << "two outs" << "1011";
+        QTest::newRow("a batter on base without result") << "on base" << "1101";
+        QTest::newRow("no pitching panel saved") << "no pitching" << "1110";
+        QTest::newRow("no fielding panel saved") << "no fielding" << "1110";
+    }
+    void checks()
+    {
+        QFETCH(QString, damage);
+        Season s;
+        Card home({"A/1", "B/2", "C/3", "D/4"}, {"HR/G", "GO/R", "KS/R", "FO/R"}, "1\t0\r0\t0\r0\t0\r0\t0");
+        Card bears({"E/5", "F/6", "G/7", "H/8"}, {"GO/R", "KS/R", "B1/Y", "FO/R"}, "0\t0\r0\t0\r0\t0\r0\t0");
+        if (damage == u"run entry")
+            bears = Card(), bears.runEntry = "xxx\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0";
+        if (damage == u"rbi")
+            home.batterStats = "0\t0\r0\t0\r0\t0\r0\t0";
+        if (damage == u"no runs")
+            home.cells[0] = "BB/Y", home.batterStats = "0\t0\r0\t0\r0\t0\r0\t0";
+        if (damage == u"two outs")
+            bears.cells[3] = "B2/Y";
+        if (damage == u"on base")
+            bears.cells[2] = "B1";
+        const QString game = s.storeGame(home, bears);
+        if (damage != u"no fielding")
+            Season::panel(stats::Panel::Fielding, game, "2", "9");
+        if (damage != u"no pitching")
+            Season::pitchPanel(game, "5", {1, true, false, false, 5, 9, "1.0\t4"});
+
+        GameRecorder recorder(*gData);
+        QString passed;
+        for (const bool p : recorder.performPreChecks(*gameday::GameStore(*gData).load(game)))
+            passed += p ? u'1' : u'0';
+        QTEST(passed, "passed");
+    }
+
+    // Whatever stops a recording leaves the file as it was, so the coach
+    // corrects the game and records again.
+    void refusalsLeaveTheFile_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<GameRecorder::Result>("result");
+        QTest::newRow("lineup out of step") << "lineup" << "The lineup and hitting data are not in sync."
+                                            << GameRecorder::Result::NotInSync;
+        QTest::newRow("thirds digit above 2") << "innings" << "Incorrect 'IP' entry." << GameRecorder::Result::BadInnings;
+        QTest::newRow("season total thirds above 2") << "total" << "Incorrect 'IP' entry."
+                                                     << GameRecorder::Result::BadInnings;
+        QTest::newRow("texts longer than lineup") << "texts" << "There is an error in the saved data."
+                                                  << GameRecorder::Result::BadSavedData;
+        QTest::newRow("already recorded") << "recorded" << "" << GameRecorder::Result::AlreadyRecorded;
+    }
+    void refusalsLeaveTheFile()
+    {
+        QFETCH(QString, damage);
+        QFETCH(QString, message);
+        Season s;
+        const QString game = storeTwoGames(s).first();
+        if (damage == u"lineup")
+            gData->exec("UPDATE Games SET TeamBPlayers = ? WHERE schedID = ?", {"1\tP\tAl Fox\t301\r2\tP\tBo Gray", game});
+        else if (damage == u"innings")
+            gData->exec("UPDATE GamesIndivPitching SET stats = '6.3' WHERE playerID = '302'");
+        else if (damage == u"total")
+            gData->insert("Pitching", {{"playerID", 205}, {"IP", 55}});
+        else if (damage == u"texts")
+            gData->exec("UPDATE Games SET TeamAActions = TeamAActions || ? WHERE schedID = ?", {"\rB1", game});
+        else if (damage == u"recorded")
+            gData->exec("UPDATE Games SET recorded = 1 WHERE schedID = ?", {game});
+        const QByteArray before = Season::fileBytes();
+        s.fake.messages.clear();
+
+        QTEST(recordWithBoard(game), "result");
+        QCOMPARE(s.fake.messages.texts().value(0), message);
+        QCOMPARE(Season::fileBytes(), before);
+    }
+
+    // A database failure at any one of the game's writes takes back all of
+    // them; once nothing fails the same game records.
+    void failureAtEachWrite_data()
+    {
+        QTest::addColumn<int>("earlier");
+        QTest::addColumn<int>("writes");
+        // 5 hitting, 1 fielding and 2 pitching rows, 2 team records, the game.
+        QTest::newRow("first game inserts") << 0 << 11;
+        // Again 5 + 2 + 2 + 2 + 1, the fielding row of 201 inserted.
+        QTest::newRow("second game updates") << 1 << 12;
+    }
+    void failureAtEachWrite()
+    {
+        QFETCH(int, earlier);
+        QFETCH(int, writes);
+        Season s;
+        const QStringList ids = storeTwoGames(s);
+        for (int g = 0; g < earlier; ++g)
+            QCOMPARE(recordWithBoard(ids.at(g)), GameRecorder::Result::Recorded);
+        const QString game = ids.at(earlier);
+        const QString homeRow = Season::seasonRow("Hitting", "201");
+
+        int failed = 0;
+        for (int n = 1; n <= writes + 1; ++n) {
+            recordtest::failAtWrite(n);
+            const QByteArray before = Season::fileBytes();
+            s.fake.messages.clear();
+            if (recordWithBoard(game) == GameRecorder::Result::Recorded)
+                break;
+            ++failed;
+            QCOMPARE(s.fake.messages.texts().size(), 1);
+            QVERIFY(s.fake.messages.texts().first().startsWith("Database Error"));
+            QVERIFY2(Season::fileBytes() == before, qPrintable(QString::number(n)));
+            QVERIFY(!Season::isRecorded(game));
+            QCOMPARE(Season::seasonRow("Hitting", "201"), homeRow);
+        }
+        QCOMPARE(failed, writes);
+        QVERIFY(Season::isRecorded(game));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRecordGame)
+#include "tst_recordgame.moc"

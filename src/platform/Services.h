@@ -2,6 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/FileDialogs.h"
+#include "platform/Http.h"
 #include "platform/Messages.h"
 #include "platform/Printing.h"
 
@@ -18,6 +19,7 @@ struct Services
     UrlOpener *urls = nullptr;
     Beeper *beeper = nullptr;
     Clock *clock = nullptr;
+    HttpService *http = nullptr;
 };
 
 // Installs a set of services and returns the set that was there before.
@@ -32,6 +34,7 @@ PrintService &printing();
 UrlOpener &urls();
 Beeper &beeper();
 Clock &clock();
+HttpService &http();
 
 // Installs a set for the life of a scope, then puts the previous one back.
 class ScopedServices

@@ -5,6 +5,7 @@
 
 #include "platform/Services.h"
 
+#include <QHash>
 #include <QList>
 #include <QQueue>
 #include <QStringList>
@@ -105,6 +106,20 @@ public:
     QDateTime now() const override { return time; }
 };
 
+// Answers GETs from `pages` by URL, on the next turn of the event loop; a
+// URL that isn't there answers 404. With `silent` set nothing ever answers
+// until the transfer is aborted. Downloads write the page to the file.
+class FakeHttp final : public platform::HttpService
+{
+public:
+    QHash<QString, QByteArray> pages;
+    bool silent = false;
+    QStringList requested;
+
+    platform::HttpTransfer *get(const QUrl &url, int timeoutMs) override;
+    platform::HttpTransfer *download(const QUrl &url, const QString &path) override;
+};
+
 // All fakes together, installed for the life of the object.
 class FakePlatform
 {
@@ -120,6 +135,7 @@ public:
     FakeUrlOpener urls;
     FakeBeeper beeper;
     FixedClock clock;
+    FakeHttp http;
 
 private:
     platform::Services m_previous;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/QtHttp.h"
+
 #include "platform/Services.h"
 #include "platform/SystemClock.h"
 
@@ -50,8 +52,9 @@ struct QtServices
     QtUrlOpener urls;
     QtBeeper beeper;
     SystemClock clock;
+    QtHttpService http;
 
-    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock}; }
+    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock, &http}; }
 };
 
 } // namespace platform::qt

@@ -180,6 +180,18 @@ private Q_SLOTS:
         QCOMPARE(m_scr->Names_PosLB->rowCount(), 10);
         QCOMPARE(msgs.texts(), (QStringList{"Add a non-batting Pitcher to your lineup.",
                                             "You have reached max players as defined in Preferences."}));
+        // From the keyboard: Alt+Down moves the catcher to second, F2 types his position.
+        m_scr->Names_PosLB->setSelectedRow(0);
+        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(m_scr->Names_PosLB->rowCells(1), (QStringList{"2", "C", "Ann1 O'Neil"}));
+        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_F2);
+        QWidget *posEditor = m_scr->Names_PosLB->indexWidget(m_scr->Names_PosLB->currentIndex());
+        QVERIFY(posEditor);
+        QTest::keyClicks(posEditor, QStringLiteral("dh"));
+        QTest::keyClick(posEditor, Qt::Key_Return);
+        QTRY_COMPARE(readPlayers(GameStore(*gData).load(season.schedID())->teams[0].players).at(1).pos, QStringLiteral("DH"));
+        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(m_scr->Names_PosLB->cell(0, 2), QStringLiteral("Ann1 O'Neil"));
         // Team B: four batters and their pitcher.
         m_scr->TeamBtn[1]->click();
         QCOMPARE(m_scr->game().curSelTeam(), 1);

@@ -180,6 +180,18 @@ private Q_SLOTS:
         QCOMPARE(m_scr->Names_PosLB->rowCount(), 10);
         QCOMPARE(msgs.texts(), (QStringList{"Add a non-batting Pitcher to your lineup.",
                                             "You have reached max players as defined in Preferences."}));
+        // From the keyboard: Alt+Down moves the catcher to second, F2 types his position.
+        m_scr->Names_PosLB->setSelectedRow(0);
+        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(m_scr->Names_PosLB->rowCells(1), (QStringList{"2", "C", "Ann1 O'Neil"}));
+        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_F2);
+        QWidget *posEditor = m_scr->Names_PosLB->indexWidget(m_scr->Names_PosLB->currentIndex());
+        QVERIFY(posEditor);
+        QTest::keyClicks(posEditor, QStringLiteral("dh"));
+        QTest::keyClick(posEditor, Qt::Key_Return);
+        QTRY_COMPARE(readPlayers(GameStore(*gData).load(season.schedID())->teams[0].players).at(1).pos, QStringLiteral("DH"));
+        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(m_scr->Names_PosLB->cell(0, 2), QStringLiteral("Ann1 O'Neil"));
         // Team B: four batters and their pitcher.
         m_scr->TeamBtn[1]->click();
         QCOMPARE(m_scr->game().curSelTeam(), 1);
@@ -353,6 +365,55 @@ private Q_SLOTS:
         QCOMPARE(m_scr->finalizeBtn->isVisible(), button);
         QCOMPARE(m_scr->dataRecordedLabel->isVisible(), label);
         QCOMPARE(GameStore(*gData).load(season.schedID())->recorded, recorded);
+        m_scr->close();
+    }
+
+    // A panel writes its row only when something was changed in it.
+    void panelsWriteWhatWasTyped_data()
+    {
+        QTest::addColumn<QString>("panel");
+        QTest::addColumn<QString>("typed"); // keys into field 1 (\b Backspace); "Win" clicks the radio button
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("batting, nothing typed") << "UDBatStatsBtn" << "" << "";
+        QTest::newRow("batting, an emptied field") << "UDBatStatsBtn" << "\b++-" << "0\t1\t0\t0\t0";
+        QTest::newRow("fielding, nothing typed") << "fldStatsBtn" << "" << "";
+        QTest::newRow("fielding, digits") << "fldStatsBtn" << "12" << "0\t012\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0";
+        QTest::newRow("pitching, only the decision") << "pitchStatsBtn" << "Win" << QString("0\t").repeated(16) + "0";
+    }
+    void panelsWriteWhatWasTyped()
+    {
+        QFETCH(QString, panel);
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        addByPos({"RHP"});
+        m_scr->Names_PosLB->setSelectedRow(0);
+        m_scr->findChild<QPushButton *>(panel)->click();
+        StatPanel *open = panel == u"UDBatStatsBtn" ? static_cast<StatPanel *>(m_scr->myBatCtr)
+                          : panel == u"fldStatsBtn" ? static_cast<StatPanel *>(m_scr->myFldCtr)
+                                                    : static_cast<StatPanel *>(m_scr->myPitchCtr);
+        QVERIFY(open->isVisible());
+        if (typed == u"Win") {
+            m_scr->myPitchCtr->gameBtn(0)->click();
+        } else {
+            for (const QChar c : typed) {
+                if (c == u'\b')
+                    QTest::keyClick(open->dataFld(1), Qt::Key_Backspace);
+                else
+                    QTest::keyClick(open->dataFld(1), c.toLatin1());
+            }
+        }
+        QTest::keyClick(open->dataFld(0), Qt::Key_Escape);
+        QVERIFY(!open->isVisible());
+        const stats::Panel kind = panel == u"UDBatStatsBtn" ? stats::Panel::Batting
+                                  : panel == u"fldStatsBtn" ? stats::Panel::Fielding
+                                                            : stats::Panel::Pitching;
+        const QString player = m_scr->game().lineup().at(0).playerID;
+        const std::optional<QString> row = stats::GameStatStore(*gData).stats(kind, season.schedID(), player);
+        QCOMPARE(row.value_or(QString()), stored);
+        if (kind == stats::Panel::Pitching)
+            QCOMPARE(stats::GameStatStore(*gData).pitching(season.schedID(), player)->gameResult, 1);
         m_scr->close();
     }
 };

@@ -1,5 +1,7 @@
 #include "gameday/ui/BBPlayersLB.h"
 
+#include <QKeyEvent>
+
 BBPlayersLB::BBPlayersLB(QWidget *parent)
     : qlmListBox(parent)
 {
@@ -35,4 +37,17 @@ QString BBPlayersLB::getPlayerPos_Names(bool withID) const
         lines.append(cells.join(u'\t'));
     }
     return lines.join(u'\r');
+}
+
+void BBPlayersLB::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_F2 && selectedRow() >= 0) {
+        editCell(selectedRow(), 1);
+        return;
+    }
+    if (event->modifiers() == Qt::AltModifier && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        Q_EMIT orderKey(event->key() == Qt::Key_Up ? -1 : +1);
+        return;
+    }
+    qlmListBox::keyPressEvent(event);
 }

@@ -23,4 +23,10 @@ public:
 Q_SIGNALS:
     // The position of a row was typed (already upper-cased).
     void positionEdited(int row, const QString &pos);
+    // Alt+Up (-1) or Alt+Down (+1): the batting order arrows from the keyboard.
+    void orderKey(int delta);
+
+protected:
+    // F2 edits the selected row's position.
+    void keyPressEvent(QKeyEvent *event) override;
 };

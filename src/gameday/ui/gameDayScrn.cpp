@@ -233,6 +233,7 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
         Names_PosLB->setSelectedRow(to);
     };
     connect(moveUpBtn, &QToolButton::clicked, this, [move] { move(-1); });
+    connect(Names_PosLB, &BBPlayersLB::orderKey, this, [move](int delta) { move(delta); });
     connect(moveDownBtn, &QToolButton::clicked, this, [move] { move(+1); });
     connect(PlusMinusPlayers, &PlusMinusContainer::PlusPressed, this, [this] {
         m_game->addBenchPlayers(AddPlayersToGameScrn::getNewPlayers(m_game->teamPlayers(), this));

@@ -1,0 +1,256 @@
+#include "seasondata/SeasonBackup.h"
+
+#include "app/Schema.h"
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "app/myPrefs.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+#include <filesystem>
+
+namespace seasondata {
+
+namespace {
+
+const QString kBackupFolder = QStringLiteral("TLYN2_backup");
+
+QString integrityOf(sqlite3 *db)
+{
+    sqlite3_stmt *stmt = nullptr;
+    QString result;
+    if (sqlite3_prepare_v2(db, "PRAGMA integrity_check", -1, &stmt, nullptr) == SQLITE_OK
+        && sqlite3_step(stmt) == SQLITE_ROW)
+        result = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 0)));
+    sqlite3_finalize(stmt);
+    return result;
+}
+
+} // namespace
+
+QString dateFolderName(const QDate &date, const QLocale &locale)
+{
+    QString name = locale.toString(date, QLocale::ShortFormat);
+    for (QChar &c : name) {
+        if (c == u'/' || c == u'\\' || c == u':' || c == u'*' || c == u'?' || c == u'"' || c == u'<' || c == u'>'
+            || c == u'|' || c.category() == QChar::Other_Control)
+            c = u'_';
+    }
+    // Windows drops trailing dots and blanks from a name; a date that ends
+    // in one would name a different folder there.
+    while (name.endsWith(u'.') || name.endsWith(u' '))
+        name.chop(1);
+    return name.isEmpty() ? date.toString(Qt::ISODate) : name;
+}
+
+BackupJob::BackupJob(sqlite3 *source, QString targetFile) : m_source(source), m_target(std::move(targetFile)) {}
+
+BackupJob::~BackupJob()
+{
+    closeWork();
+    if (!m_done)
+        QFile::remove(workFile());
+}
+
+void BackupJob::closeWork()
+{
+    if (m_backup) {
+        sqlite3_backup_finish(m_backup);
+        m_backup = nullptr;
+    }
+    if (m_dest) {
+        sqlite3_close_v2(m_dest);
+        m_dest = nullptr;
+    }
+}
+
+bool BackupJob::fail(int code, const QString &message)
+{
+    m_errorCode = code ? code : SQLITE_ERROR;
+    m_errorMessage = message;
+    closeWork();
+    QFile::remove(workFile());
+    return false;
+}
+
+bool BackupJob::start()
+{
+    if (!m_source)
+        return fail(SQLITE_MISUSE, QStringLiteral("The season isn't open."));
+    QFile::remove(workFile());
+    const QByteArray path = workFile().toUtf8();
+    int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (rc != SQLITE_OK)
+        return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+    m_backup = sqlite3_backup_init(m_dest, "main", m_source, "main");
+    if (!m_backup)
+        return fail(sqlite3_errcode(m_dest), QString::fromUtf8(sqlite3_errmsg(m_dest)));
+    return true;
+}
+
+bool BackupJob::step(int pages)
+{
+    if (!m_backup)
+        return false;
+    const int rc = sqlite3_backup_step(m_backup, pages);
+    if (rc == SQLITE_OK || rc == SQLITE_BUSY || rc == SQLITE_LOCKED)
+        return true; // more to copy, or try again on the next step
+    if (rc == SQLITE_DONE)
+        return false;
+    fail(rc, QString::fromUtf8(sqlite3_errstr(rc)));
+    return false;
+}
+
+double BackupJob::progress() const
+{
+    if (!m_backup)
+        return m_done ? 1.0 : 0.0;
+    const int total = sqlite3_backup_pagecount(m_backup);
+    if (total <= 0)
+        return 0.0;
+    return double(total - sqlite3_backup_remaining(m_backup)) / total;
+}
+
+bool BackupJob::finish()
+{
+    if (!m_backup)
+        return m_errorCode == 0 && m_done;
+    const int rc = sqlite3_backup_finish(m_backup);
+    m_backup = nullptr;
+    if (rc != SQLITE_OK)
+        return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+    const QString check = integrityOf(m_dest);
+    if (check != u"ok")
+        return fail(SQLITE_CORRUPT, check);
+    sqlite3_close_v2(m_dest);
+    m_dest = nullptr;
+    // Replaces the day's earlier copy in one step; until here it stands.
+    std::error_code error;
+    std::filesystem::rename(std::filesystem::path(workFile().toStdU16String()),
+                            std::filesystem::path(m_target.toStdU16String()), error);
+    if (error)
+        return fail(SQLITE_CANTOPEN, QString::fromStdString(error.message()));
+    m_done = true;
+    return true;
+}
+
+bool BackupJob::runToEnd()
+{
+    if (!start())
+        return false;
+    while (step()) {
+    }
+    return m_errorCode == 0 && finish();
+}
+
+BackupPlan planBackup(myPrefs &prefs, const QDate &today)
+{
+    BackupPlan plan;
+    plan.source = QDir(prefs.strdDataLoc).filePath(myDB::getCurDBFileName(prefs.prSeason));
+    if (!QFileInfo::exists(plan.source)) {
+        plan.kind = BackupPlan::NoSource;
+        plan.status = QStringLiteral("Could not find the original data file.");
+        return plan;
+    }
+    QString location = prefs.prDataBackupLoc;
+    if (location.isEmpty())
+        location = prefs.getUserBUFolder();
+    if (location.isEmpty()) {
+        plan.kind = BackupPlan::Cancelled;
+        return plan;
+    }
+    const QString root = parseGSI(location);
+    const QDir backups(QDir(root).filePath(kBackupFolder));
+    if (root.isEmpty() || !backups.exists()) {
+        plan.kind = BackupPlan::NoDestination;
+        plan.status = QStringLiteral("Destination not found");
+        plan.detail = QStringLiteral("Set in the Preferences screen.");
+        return plan;
+    }
+    const QString dateName = dateFolderName(today);
+    if (!backups.exists(dateName) && !backups.mkdir(dateName)) {
+        plan.kind = BackupPlan::Failed;
+        plan.status = QStringLiteral("An unknown error occurred.");
+        return plan;
+    }
+    plan.target = QDir(backups.filePath(dateName)).filePath(QFileInfo(plan.source).fileName());
+    plan.kind = BackupPlan::Ready;
+    return plan;
+}
+
+int compactSeasonFile(const QString &file, QString *message)
+{
+    try {
+        SQLite::Database db(file.toStdString(), SQLite::OPEN_READWRITE);
+        db.setBusyTimeout(5000);
+        db.exec("VACUUM");
+        return 0;
+    } catch (const SQLite::Exception &e) {
+        if (message)
+            *message = QString::fromUtf8(e.what());
+        return e.getErrorCode() ? e.getErrorCode() : SQLITE_ERROR;
+    }
+}
+
+bool isSoundSeasonFile(const QString &file)
+{
+    if (!QFileInfo(file).isFile())
+        return false;
+    try {
+        SQLite::Database db(file.toStdString(), SQLite::OPEN_READONLY);
+        if (integrityOf(db.getHandle()) != u"ok")
+            return false;
+        for (const QString &table : schema::tableNames()) {
+            if (!db.tableExists(table.toStdString()))
+                return false;
+        }
+        return true;
+    } catch (const SQLite::Exception &) {
+        return false;
+    }
+}
+
+bool restoreSeason(myDB &live, const QString &backupFile, const QString &keepAs, QString *message)
+{
+    const auto failed = [message](const QString &why) {
+        if (message)
+            *message = why;
+        return false;
+    };
+    if (!live.tlynData)
+        return failed(QStringLiteral("The season isn't open."));
+    if (!isSoundSeasonFile(backupFile))
+        return failed(QStringLiteral("The chosen file isn't a sound season backup."));
+    BackupJob keep(live.tlynData->getHandle(), keepAs);
+    if (!keep.runToEnd())
+        return failed(keep.errorMessage());
+
+    // The backup's pages go into the open connection in one write
+    // transaction: the season is either all the old one or all the backup.
+    sqlite3 *source = nullptr;
+    const QByteArray path = backupFile.toUtf8();
+    if (sqlite3_open_v2(path.constData(), &source, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
+        sqlite3_close_v2(source);
+        return failed(QStringLiteral("The chosen file can't be read."));
+    }
+    sqlite3 *dest = live.tlynData->getHandle();
+    sqlite3_backup *copy = sqlite3_backup_init(dest, "main", source, "main");
+    int rc = copy ? sqlite3_backup_step(copy, -1) : sqlite3_errcode(dest);
+    if (copy) {
+        const int finish = sqlite3_backup_finish(copy);
+        if (rc == SQLITE_DONE)
+            rc = finish;
+    }
+    sqlite3_close_v2(source);
+    if (rc != SQLITE_OK && rc != SQLITE_DONE)
+        return failed(QString::fromUtf8(sqlite3_errstr(rc)));
+    return true;
+}
+
+} // namespace seasondata

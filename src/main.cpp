@@ -9,6 +9,9 @@
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
 #include "schedule/ui/scheduleScrn.h"
+#include "seasondata/ui/TransferDataScrn.h"
+#include "seasondata/ui/backUpDlog.h"
+#include "seasondata/ui/prefScrn.h"
 
 namespace {
 
@@ -18,6 +21,13 @@ void registerScreens()
     screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
     screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::TransferDataScrn, [] { return new TransferDataScrn; });
+    screens::registerScreen(ScreenId::backUpDlog, [] { return new backUpDlog(backUpDlog::Mode::Backup); });
+    screens::registerScreen(ScreenId::restoreDlog, [] { return new backUpDlog(backUpDlog::Mode::Restore); });
+    // No argument: opened from the start screen, which shows again on close.
+    screens::registerScreen(ScreenId::prefScrn, screens::Factory([](const QVariant &fromStart) {
+                                return new prefScrn(!fromStart.isValid() || fromStart.toBool());
+                            }));
 }
 
 } // namespace
@@ -35,6 +45,7 @@ int main(int argc, char *argv[])
     if (app.Event_Open() != App::OpenResult::Ok)
         return 0;
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &app, &App::Event_Close);
+    backUpDlog::connectTimer(app.BUTimer);
 
     auto *splash = new splashScrn;
     splash->show();

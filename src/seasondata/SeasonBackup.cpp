@@ -117,14 +117,21 @@ double BackupJob::progress() const
     return double(total - sqlite3_backup_remaining(m_backup)) / total;
 }
 
-bool BackupJob::finish()
+bool BackupJob::endCopy()
 {
     if (!m_backup)
-        return m_errorCode == 0 && m_done;
+        return false;
     const int rc = sqlite3_backup_finish(m_backup);
     m_backup = nullptr;
     if (rc != SQLITE_OK)
         return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+    return true;
+}
+
+bool BackupJob::checkAndPlace()
+{
+    if (!m_dest || m_backup)
+        return false;
     const QString check = integrityOf(m_dest);
     if (check != u"ok")
         return fail(SQLITE_CORRUPT, check);

@@ -41,7 +41,11 @@ public:
     // 0 to 1.
     double progress() const;
     // After the last step: integrity_check of the copy, then the rename.
-    bool finish();
+    bool finish() { return endCopy() && checkAndPlace(); }
+    // The two halves of finish(). endCopy lets go of the source connection;
+    // checkAndPlace uses only the copy's own, so it may run on another thread.
+    bool endCopy();
+    bool checkAndPlace();
     // start, every step and finish at once.
     bool runToEnd();
 

@@ -151,6 +151,7 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
         bool closeStart;
     } menuTargets[] = {
         {"FileBackup", ScreenId::backUpDlog, false},
+        {"FileRestore", ScreenId::restoreDlog, false},
         {"HelpUpdateCheck", ScreenId::updateDlog, false},
         {"Abbrev", ScreenId::HelpAbbrevScrn, false},
         {"Help", ScreenId::helpScrn2, false},

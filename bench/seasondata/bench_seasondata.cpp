@@ -46,13 +46,13 @@ private Q_SLOTS:
     {
         m_app = std::make_unique<App>(m_home.path());
         QCOMPARE(m_app->Event_Open(), App::OpenResult::Ok);
-        // A big season: 30 teams of 25 players, each with a 200 KB photo,
-        // and two thousand schedule rows: about 150 MB.
+        // A big season: 20 teams of 25 players, each with a 200 KB photo,
+        // and two thousand schedule rows: about 100 MB.
         QByteArray photo(200 * 1024, Qt::Uninitialized);
         for (char &c : photo)
             c = char(QRandomGenerator::global()->generate());
         QVERIFY(gData->runInTransaction([&] {
-            for (int t = 0; t < 30; ++t) {
+            for (int t = 0; t < 20; ++t) {
                 const qint64 team = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), t}});
                 for (int p = 0; p < 25; ++p)
                     gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), team},
@@ -70,7 +70,7 @@ private Q_SLOTS:
         const QString safeFile = m_home.filePath(QStringLiteral("safe.sqlite"));
         const QString plainFile = m_home.filePath(QStringLiteral("plain.sqlite"));
         double safe = 0, plain = 0, longestStep = 0, checking = 0;
-        const int rounds = 5;
+        const int rounds = 3;
         for (int round = 0; round < rounds; ++round) {
             plain += plainCopy(source, plainFile);
             QElapsedTimer t;

@@ -63,6 +63,15 @@ void wire(PlusMinusContainer *pair, qlmListBox *list, int columns)
     });
 }
 
+// A button at the left of its form row, at its own width.
+QLayout *leftAligned(QWidget *button)
+{
+    auto *row = new QHBoxLayout;
+    row->addWidget(button);
+    row->addStretch(1);
+    return row;
+}
+
 QStringList column(const qlmListBox *list, int c)
 {
     QStringList out;
@@ -108,22 +117,17 @@ void prefScrn::buildControls()
     backupLocFld->setWordWrap(true);
     setBULocBtn = form::button(central, QStringLiteral("setBULocBtn"), QStringLiteral("Set &Location..."),
                                QStringLiteral("Set the backup location"));
-    auto *locRow = new QHBoxLayout;
-    locRow->addWidget(backupLocFld, 1);
-    locRow->addWidget(setBULocBtn);
-    rows.addRow(QStringLiteral("Backup Location:"), locRow, setBULocBtn);
+    // The path takes a row of its own: a long one wraps rather than hides.
+    gameForm->addRow(QStringLiteral("Backup Location:"), backupLocFld);
+    rows.addRow(QString(), leftAligned(setBULocBtn), setBULocBtn);
     emailAddrFld = form::valueLabel(central, QStringLiteral("emailAddrFld"), QStringLiteral("Mail user"));
     setEmailBtn = form::button(central, QStringLiteral("setEmailBtn"), QStringLiteral("&Email Settings..."));
-    auto *mailRow = new QHBoxLayout;
-    mailRow->addWidget(emailAddrFld, 1);
-    mailRow->addWidget(setEmailBtn);
-    rows.addRow(QStringLiteral("Email:"), mailRow, setEmailBtn);
+    gameForm->addRow(QStringLiteral("Email:"), emailAddrFld);
+    rows.addRow(QString(), leftAligned(setEmailBtn), setEmailBtn);
     curSeasonLbl = form::valueLabel(central, QStringLiteral("curSeasonLbl"), QStringLiteral("Current season"));
     showDataBtn = form::button(central, QStringLiteral("showDataBtn"), QStringLiteral("Show &Data Folder"));
-    auto *seasonRow = new QHBoxLayout;
-    seasonRow->addWidget(curSeasonLbl, 1);
-    seasonRow->addWidget(showDataBtn);
-    rows.addRow(QStringLiteral("Current Season:"), seasonRow, showDataBtn);
+    gameForm->addRow(QStringLiteral("Current Season:"), curSeasonLbl);
+    rows.addRow(QString(), leftAligned(showDataBtn), showDataBtn);
     left->addLayout(gameForm);
     setUDVBtn = form::button(central, QStringLiteral("setUDVBtn"), QStringLiteral("&User-Defined Stats..."));
     left->addWidget(setUDVBtn, 0, Qt::AlignLeft);

@@ -45,8 +45,11 @@ public:
 // when the call returns. A step of several writes goes through
 // runInTransaction so it happens whole or not at all.
 //
-// Errors are reported where they happen through DisplayDatabaseError, which
-// keeps constraint violations (code 19) quiet as screens expect.
+// Outside a transaction, errors are reported where they happen through
+// DisplayDatabaseError, which keeps constraint violations (code 19) quiet as
+// screens expect. Inside runInTransaction a failing exec, select, insert or
+// update throws instead, so the step stops at the first failure; the
+// transaction rolls it back whole and shows the error once.
 class myDB
 {
 public:
@@ -75,7 +78,9 @@ public:
     void cleanUpDB();
 
     // Runs one statement with bound values. On failure the error is kept,
-    // shown through DisplayDatabaseError, and false comes back.
+    // shown through DisplayDatabaseError, and false comes back (inside
+    // runInTransaction the failure throws SQLite::Exception instead).
+    // Without a connection every write says so and fails.
     bool exec(const QString &sql, const QVariantList &params = {});
     // All rows of a query; empty on failure (the error is shown).
     QList<Record> select(const QString &sql, const QVariantList &params = {});
@@ -85,9 +90,13 @@ public:
     qint64 insert(const QString &table, const Fields &fields);
     // UPDATE table SET columns WHERE keyColumn = key.
     bool update(const QString &table, const Fields &fields, const QString &keyColumn, const QVariant &key);
-    // Runs `body` inside one transaction; any database error in it rolls
-    // everything back, is shown, and gives false.
+    // Runs `body` inside one transaction. A database error anywhere in it
+    // (through this object or a statement on tlynData) rolls the whole step
+    // back, is shown once, whatever its code, and gives false. Any other
+    // exception rolls back too and goes on to the caller. A call inside a
+    // running step joins it.
     bool runInTransaction(const std::function<void()> &body);
+    bool inTransaction() const { return m_transactionDepth > 0; }
 
     qint64 lastRowId() const;
 
@@ -98,13 +107,20 @@ private:
     void check4Database(const QString &dataFolder, const QString &season);
     bool connectToDB(const QString &file);
     bool createDBFile(const QString &file);
+    bool createSchema(const QString &file);
+    static void creationFailed(const QString &file);
+    void notOpened(const QString &message, const QString &explanation);
     void configureConnection();
     bool verifyIntegrity();
     void rememberError(int code, const QString &message);
     void clearError();
-    void report(const SQLite::Exception &e);
+    // A statement failed: inside a step the exception goes on (the step
+    // rolls back), outside it is shown here.
+    void fail(const SQLite::Exception &e);
+    bool refuseWriteWithoutSeason();
 
     QString m_filePath;
     int m_lastErrorCode = 0;
     QString m_lastErrorMessage;
+    int m_transactionDepth = 0;
 };

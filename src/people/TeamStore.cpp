@@ -74,22 +74,12 @@ bool TeamStore::update(const TeamRecord &team)
 
 bool TeamStore::deleteTeam(const QString &teamID)
 {
-    // exec() shows its own error and gives false; leaving the body by an
-    // exception rolls the transaction back, so a team never loses only half
-    // of its rows.
-    struct Abandoned
-    {
-    };
-    try {
-        return m_db.runInTransaction([&] {
-            if (!m_db.exec(QStringLiteral("DELETE FROM Players WHERE TeamNum = ?"), {teamID}))
-                throw Abandoned{};
-            if (!m_db.exec(QStringLiteral("DELETE FROM Teams WHERE teamID = ?"), {teamID}))
-                throw Abandoned{};
-        });
-    } catch (const Abandoned &) {
-        return false;
-    }
+    // Inside the step a failing statement throws, so a team never loses
+    // only half of its rows.
+    return m_db.runInTransaction([&] {
+        m_db.exec(QStringLiteral("DELETE FROM Players WHERE TeamNum = ?"), {teamID});
+        m_db.exec(QStringLiteral("DELETE FROM Teams WHERE teamID = ?"), {teamID});
+    });
 }
 
 } // namespace people

@@ -6,12 +6,60 @@
 #include "fakes/FakePlatform.h"
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+// Makes a file that can't be opened for writing, even by root: without
+// write permission, and immutable where the file system allows it.
+class ReadOnlyFile
+{
+public:
+    bool make(const QString &path)
+    {
+        m_path = path;
+        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther);
+        if (!QFileInfo(path).isWritable() || !canWrite())
+            return true;
+        m_immutable = setImmutable(true);
+        return m_immutable && !canWrite();
+    }
+    ~ReadOnlyFile()
+    {
+        if (m_immutable)
+            setImmutable(false);
+    }
+
+private:
+    bool canWrite() const { return ::access(QFile::encodeName(m_path).constData(), W_OK) == 0 && QFile(m_path).open(QIODevice::ReadWrite); }
+    bool setImmutable(bool on) const
+    {
+        const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY);
+        if (fd < 0)
+            return false;
+        int flags = 0;
+        bool ok = ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
+        flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
+        ok = ok && ::ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
+        ::close(fd);
+        return ok;
+    }
+    QString m_path;
+    bool m_immutable = false;
+};
 
 class TestDatabase : public QObject
 {
@@ -211,18 +259,76 @@ private Q_SLOTS:
         QCOMPARE(db.DisplayDatabaseError(), false);
     }
 
-    void transactionRollsBackWhole()
+    // One step of five writes, through every path a store uses. A trigger
+    // that raises stops it at each statement in turn: the step must leave
+    // the file exactly as it was and say so once, whatever the error code.
+    void transactionIsAllOrNothing_data()
     {
+        QTest::addColumn<QString>("trigger");
+        QTest::newRow("nothing fails") << QString();
+        QTest::newRow("insert()") << QStringLiteral("BEFORE INSERT ON Teams");
+        QTest::newRow("update()") << QStringLiteral("BEFORE UPDATE ON Teams");
+        QTest::newRow("exec()") << QStringLiteral("BEFORE INSERT ON Players");
+        QTest::newRow("statement on tlynData") << QStringLiteral("BEFORE DELETE ON Schedule");
+        QTest::newRow("last write, nested step") << QStringLiteral("BEFORE INSERT ON Drills");
+    }
+    void transactionIsAllOrNothing()
+    {
+        QFETCH(QString, trigger);
         fakes::FakePlatform fake;
         QTemporaryDir dir;
+        QByteArray before;
+        {
+            myDB db(dir.path(), QStringLiteral("2026"));
+            QVERIFY(db.exec(QStringLiteral("INSERT INTO Schedule (Event, position) VALUES ('Game', 0)")));
+        }
+        const QString path = QDir(dir.path()).filePath(myDB::getCurDBFileName(QStringLiteral("2026")));
+        {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::ReadOnly));
+            before = f.readAll();
+        }
         myDB db(dir.path(), QStringLiteral("2026"));
+        if (!trigger.isEmpty())
+            QVERIFY(db.exec(QStringLiteral("CREATE TEMP TRIGGER forced ") + trigger +
+                            QStringLiteral(" BEGIN SELECT RAISE(ABORT, 'forced'); END")));
+        int reached = 0;
         const bool ok = db.runInTransaction([&] {
-            db.tlynData->exec("INSERT INTO Teams (TeamName) VALUES ('one')");
-            db.tlynData->exec("INSERT INTO Nowhere VALUES (1)");
+            const qint64 team = db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Hawks")}});
+            ++reached;
+            db.update(QStringLiteral("Teams"), {{QStringLiteral("League"), QStringLiteral("North")}},
+                      QStringLiteral("teamID"), team);
+            ++reached;
+            db.exec(QStringLiteral("INSERT INTO Players (TeamNum, First) VALUES (?, 'Al')"), {team});
+            ++reached;
+            SQLite::Statement raw(*db.tlynData, "DELETE FROM Schedule");
+            raw.exec();
+            ++reached;
+            QVERIFY(db.runInTransaction([&] { db.exec(QStringLiteral("INSERT INTO Drills (Drill) VALUES ('Bunts')")); }));
+            ++reached;
         });
+        const QString counts = QStringLiteral("SELECT (SELECT COUNT(*) FROM Teams WHERE League = 'North') || ',' || "
+                                              "(SELECT COUNT(*) FROM Players) || ',' || (SELECT COUNT(*) FROM Schedule) "
+                                              "|| ',' || (SELECT COUNT(*) FROM Drills)");
+        if (trigger.isEmpty()) {
+            QVERIFY(ok);
+            QCOMPARE(reached, 5);
+            QVERIFY(fake.messages.shown.isEmpty());
+            QCOMPARE(db.scalar(counts).toString(), QStringLiteral("1,1,0,1"));
+            return;
+        }
         QVERIFY(!ok);
-        QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM Teams")).toInt(), 0);
+        QCOMPARE(db.scalar(counts).toString(), QStringLiteral("0,0,1,0"));
         QCOMPARE(fake.messages.shown.size(), 1);
+        QVERIFY2(fake.messages.shown.first().message.startsWith(QStringLiteral("Database Error: 19\n")),
+                 qPrintable(fake.messages.shown.first().message));
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QVERIFY(f.readAll() == before);
+        // The connection is usable again at once.
+        QVERIFY(db.exec(QStringLiteral("DROP TRIGGER temp.forced")));
+        QVERIFY(db.runInTransaction([&] { db.exec(QStringLiteral("DELETE FROM Schedule")); }));
+        QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM Schedule")).toInt(), 0);
     }
 
     void refusedSeasonNames_data()
@@ -242,9 +348,12 @@ private Q_SLOTS:
         QCOMPARE(fake.messages.shown.first().message,
                  QStringLiteral("Database Error\nThere was an error when creating the database at <") +
                      QDir::toNativeSeparators(QDir(dir.path()).filePath(myDB::getCurDBFileName(season))) + u'>');
-        // An unconnected season answers nothing and writes nothing.
+        // An unconnected season answers nothing, and a write says it failed.
         QVERIFY(db.select(QStringLiteral("SELECT * FROM Teams")).isEmpty());
         QVERIFY(!db.exec(QStringLiteral("DELETE FROM Teams")));
+        QVERIFY(!db.runInTransaction([] {}));
+        QCOMPARE(fake.messages.shown.size(), 3);
+        QCOMPARE(fake.messages.shown.at(2).message, QStringLiteral("Nothing was saved: no season is open."));
         QCOMPARE(db.getTeamNameFromID(QStringLiteral("1"), true), QString());
     }
 
@@ -267,6 +376,63 @@ private Q_SLOTS:
         QFile f(path);
         QVERIFY(f.open(QIODevice::ReadOnly));
         QCOMPARE(f.readAll(), junk);
+    }
+
+    // What an existing season file turns into when it is opened.
+    void openingExistingFile_data()
+    {
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<bool>("connected");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("held by another program for a moment") << QStringLiteral("locked") << true << QString();
+        QTest::newRow("0 bytes: a new season") << QStringLiteral("empty") << true << QString();
+        QTest::newRow("read only: named now") << QStringLiteral("readonly") << false << QStringLiteral("\" can only be read.");
+    }
+    void openingExistingFile()
+    {
+        QFETCH(QString, state);
+        QFETCH(bool, connected);
+        QFETCH(QString, message);
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        const QString path = QDir(dir.path()).filePath(myDB::getCurDBFileName(QStringLiteral("2026")));
+        if (state == u"empty") {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+        } else {
+            myDB made(dir.path(), QStringLiteral("2026"));
+        }
+        std::thread holder;
+        std::atomic<bool> held = false;
+        if (state == u"locked") {
+            holder = std::thread([&] {
+                SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
+                other.exec("BEGIN EXCLUSIVE");
+                held = true;
+                std::this_thread::sleep_for(std::chrono::milliseconds(300));
+                other.exec("COMMIT");
+            });
+            while (!held)
+                std::this_thread::yield();
+        }
+        ReadOnlyFile readOnly;
+        if (state == u"readonly" && !readOnly.make(path))
+            QSKIP("this file system lets the test's user write to any file");
+
+        myDB db(dir.path(), QStringLiteral("2026"));
+        if (holder.joinable())
+            holder.join();
+        QCOMPARE(db.isConnected(), connected);
+        if (message.isEmpty()) {
+            QCOMPARE(fake.messages.texts(), QStringList());
+            QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name <> "
+                                              "'sqlite_sequence'")).toInt(), int(schema::tableNames().size()));
+            QVERIFY(db.exec(QStringLiteral("INSERT INTO Teams (TeamName) VALUES ('Hawks')")));
+        } else {
+            QCOMPARE(fake.messages.shown.size(), 1);
+            QCOMPARE(fake.messages.shown.first().message,
+                     QStringLiteral("The season file \"") + QDir::toNativeSeparators(path) + message);
+        }
     }
 
     void cleanUpCompacts()

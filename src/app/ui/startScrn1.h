@@ -35,6 +35,8 @@ public:
 
     QComboBox *SelectSeasonPop = nullptr;
     QLabel *teamNameLabel = nullptr;
+    // Names the season file that could not be opened; hidden while a season is open.
+    QLabel *seasonProblemLabel = nullptr;
     LogoCanvas *LogoHolder = nullptr;
     QPushButton *helpBtn = nullptr;
     MainMenuBar *menuBar() const { return m_menuBar; }
@@ -46,11 +48,14 @@ private:
     QPushButton *addTargetButton(const QString &objectName, const QString &caption, ScreenId target);
     void openTarget(ScreenId target, bool closeStart);
     void seasonChosen(int row);
+    // Screens that write into the season can't open while none is open.
+    void showSeasonState();
     void showAbout();
 
     MainMenuBar *m_menuBar = nullptr;
     bool m_fillingPopup = false;
     bool m_placed = false;
+    QList<std::pair<QPushButton *, ScreenId>> m_targets;
 };
 
 // Paints the home team's logo scaled to its area.

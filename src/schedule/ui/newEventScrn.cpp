@@ -42,6 +42,17 @@ QIcon calendarIcon()
     return QIcon(pixmap);
 }
 
+// A three-state box whose undecided state only the program sets: a click
+// goes between checked and unchecked.
+class TwoWayCheckBox : public QCheckBox
+{
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
+};
+
 QComboBox *editableBox(QWidget *parent, const QString &name, const QString &accessible, const QStringList &items)
 {
     auto *box = new QComboBox(parent);
@@ -133,7 +144,7 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
     locationLabel->setBuddy(locationBox);
     form->addRow(locationLabel, locationBox);
 
-    homeCheck = new QCheckBox(QStringLiteral("&Home Game"), this);
+    homeCheck = new TwoWayCheckBox(QStringLiteral("&Home Game"), this);
     homeCheck->setObjectName(QStringLiteral("homeCheck"));
     homeCheck->setAccessibleName(QStringLiteral("Home Game"));
     homeCheck->setTristate(true);
@@ -174,6 +185,9 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
 QComboBox *newEventScrn::timeBox(const QString &name, const QString &accessible, const QStringList &items, bool numbers)
 {
     QComboBox *box = editableBox(this, name, accessible, items);
+    // A typed "5" is five minutes, not the list's "55".
+    if (numbers)
+        box->setCompleter(nullptr);
     box->lineEdit()->setMaxLength(2);
     box->setMinimumContentsLength(3);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -189,8 +203,8 @@ void newEventScrn::fill()
     {
         const QSignalBlocker block(opponentBox);
         opponentBox->clear();
-        for (const OpponentEntry &entry : m_form.opponents)
-            opponentBox->addItem(entry.name, entry.tag);
+        for (int i = 0; i < m_form.opponents.size(); ++i)
+            opponentBox->addItem(m_form.opponentLabel(i), m_form.opponents.at(i).tag);
         opponentBox->setCurrentIndex(-1);
     }
     const QSignalBlocker block(locationBox);
@@ -239,7 +253,8 @@ void newEventScrn::readForm()
     m_form.gameAMPM = gameAMPM->currentText();
     m_form.eventType = eventTypeBox->currentText();
     m_form.opponentIndex = opponentBox->currentIndex();
-    m_form.opponentText = opponentBox->currentText();
+    const bool listed = m_form.opponentIndex >= 0 && m_form.opponentIndex < m_form.opponents.size();
+    m_form.opponentText = listed ? m_form.opponents.at(m_form.opponentIndex).name : QString();
     m_form.location = locationBox->currentText();
     m_form.homeState = homeCheck->checkState();
 }

@@ -67,7 +67,7 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     ScheduleListbox->setColumnWidths(QStringLiteral("95,85,85,110,150,*,30"));
     ScheduleListbox->setRowsMovable(true);
     ScheduleListbox->setToolTip(QStringLiteral("Enter edits the event, Delete removes it; drag a row, or press "
-                                               "Alt+Up / Alt+Down, to change the order"));
+                                               "Ctrl+Up / Ctrl+Down, to change the order"));
     ScheduleListbox->installEventFilter(this);
     outer->addWidget(ScheduleListbox, 1);
 
@@ -252,12 +252,12 @@ void scheduleScrn::deleteEvent()
     selectionChanged();
 }
 
-void scheduleScrn::rowMoved(int, int to)
+void scheduleScrn::rowMoved(int, int)
 {
     QList<qint64> order;
     for (int r = 0; r < ScheduleListbox->rowCount(); ++r)
         order.append(ScheduleListbox->rowTag(r).toLongLong());
-    m_schedule.rowsReordered(order, ScheduleListbox->rowTag(to).toLongLong());
+    m_schedule.rowsReordered(order);
 }
 
 void scheduleScrn::saveLBandPos()

@@ -26,7 +26,7 @@ bool checkName(const QString &name)
         gMsgBox(kNoName);
         return false;
     }
-    if (!isUsableSeasonName(name)) {
+    if (!myPrefs::isUsableSeasonName(name)) {
         gShowMsgDlog(QStringLiteral("A season's name can't hold a slash, a backslash or a control character."),
                      QStringLiteral("Please choose another name for the new season."), QStringLiteral("OK"));
         return false;
@@ -58,17 +58,6 @@ QList<TeamRow> seasonTeams(myDB &db)
         teams.append({r.text(QStringLiteral("teamID")),
                       r.text(QStringLiteral("SchoolName")) + u' ' + r.text(QStringLiteral("TeamName"))});
     return teams;
-}
-
-bool isUsableSeasonName(const QString &name)
-{
-    if (name.isEmpty() || name == u"." || name == u"..")
-        return false;
-    for (const QChar c : name) {
-        if (c == u'/' || c == u'\\' || c.category() == QChar::Other_Control)
-            return false;
-    }
-    return true;
 }
 
 QString SeasonTransfer::partFileName(const QString &seasonFile)

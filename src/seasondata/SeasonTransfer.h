@@ -24,10 +24,6 @@ struct TeamRow
 // Every team of `db`, in the order the database gives.
 QList<TeamRow> seasonTeams(myDB &db);
 
-// Whether `name` can name a season file: not empty, no path separator, no
-// control character, not "." or "..".
-bool isUsableSeasonName(const QString &name);
-
 class SeasonTransfer
 {
 public:

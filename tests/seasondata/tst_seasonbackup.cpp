@@ -1,6 +1,5 @@
 // Backups as files: the date folder's name, a copy taken while the season
-// is written, one copy per season and day, and a restore that gives back
-// exactly the rows that were backed up.
+// is written, and one copy per season and day.
 
 #include "SeasonFixture.h"
 #include "seasondata/SeasonBackup.h"
@@ -26,13 +25,6 @@ class TestSeasonBackup : public QObject
     {
         SQLite::Database db(file.toStdString(), SQLite::OPEN_READONLY);
         return db.execAndGet(std::string("SELECT COUNT(*) FROM ") + table).getInt();
-    }
-    static QString chooseBackupFolder(SeasonFixture &f)
-    {
-        const QString chosen = f.home.filePath(QStringLiteral("drive"));
-        QDir().mkpath(chosen);
-        f.fake.files.answers.enqueue(chosen);
-        return chosen;
     }
 
 private Q_SLOTS:
@@ -82,7 +74,8 @@ private Q_SLOTS:
     void oneCopyPerSeasonAndDay()
     {
         SeasonFixture f;
-        chooseBackupFolder(f);
+        QDir().mkpath(f.home.filePath(QStringLiteral("drive")));
+        f.fake.files.answers.enqueue(f.home.filePath(QStringLiteral("drive")));
         const QDate today = f.fake.clock.time.date();
         f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
 
@@ -109,86 +102,6 @@ private Q_SLOTS:
         QCOMPARE(day.dirName(), seasondata::dateFolderName(today));
         QCOMPARE(day.entryList(QDir::Files, QDir::Name),
                  QStringList({myDB::getCurDBFileName(firstSeason), myDB::getCurDBFileName(QStringLiteral("Fall Ball"))}));
-    }
-
-    void aDamagedCopyNeverReplacesTheLastGoodOne()
-    {
-        SeasonFixture f;
-        const QString target = f.home.filePath(QStringLiteral("copy.sqlite"));
-        {
-            BackupJob good(gData->tlynData->getHandle(), target);
-            QVERIFY(good.runToEnd());
-        }
-        const QByteArray kept = [&] { QFile in(target); in.open(QIODevice::ReadOnly); return in.readAll(); }();
-        // A source that isn't there fails at the start and leaves the old copy.
-        BackupJob none(nullptr, target);
-        QVERIFY(!none.runToEnd());
-        QVERIFY(none.errorCode() != 0);
-        QFile in(target);
-        QVERIFY(in.open(QIODevice::ReadOnly));
-        QCOMPARE(in.readAll(), kept);
-    }
-
-    void restore_data()
-    {
-        QTest::addColumn<bool>("sound");
-        QTest::newRow("a backup") << true;
-        QTest::newRow("a file that isn't a season") << false;
-    }
-    void restore()
-    {
-        QFETCH(bool, sound);
-        SeasonFixture f;
-        const qint64 lions = f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
-        f.addMember(QStringLiteral("Players"), lions, QStringLiteral("Ruth"));
-        const QString backup = f.home.filePath(QStringLiteral("backup.sqlite"));
-        if (sound) {
-            BackupJob job(gData->tlynData->getHandle(), backup);
-            QVERIFY(job.runToEnd());
-        } else {
-            QFile junk(backup);
-            QVERIFY(junk.open(QIODevice::WriteOnly));
-            junk.write("not a season");
-        }
-        const QStringList backedUpTeams = f.dump(*gData, QStringLiteral("Teams"));
-        const QStringList backedUpPlayers = f.dump(*gData, QStringLiteral("Players"));
-
-        // The season goes on after the backup.
-        gData->exec(QStringLiteral("DELETE FROM Players"));
-        f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
-        const QStringList laterTeams = f.dump(*gData, QStringLiteral("Teams"));
-
-        const QString keep = f.home.filePath(QStringLiteral("kept.sqlite"));
-        QString why;
-        QCOMPARE(restoreSeason(*gData, backup, keep, &why), sound);
-        if (!sound) {
-            QVERIFY(!why.isEmpty());
-            QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), laterTeams);
-            QVERIFY(!QFileInfo::exists(keep));
-            return;
-        }
-        QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), backedUpTeams);
-        QCOMPARE(f.dump(*gData, QStringLiteral("Players")), backedUpPlayers);
-        // The season as it was before the restore is kept whole.
-        QCOMPARE(rows(keep, "Teams"), int(laterTeams.size()));
-        QCOMPARE(rows(keep, "Players"), 0);
-        // And the program goes on with it after a restart.
-        f.restart();
-        QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), backedUpTeams);
-    }
-
-    void compaction()
-    {
-        SeasonFixture f;
-        gData->runInTransaction([&] {
-            for (int i = 0; i < 200; ++i)
-                gData->insert(QStringLiteral("Players"), {{QStringLiteral("Last"), QString(1000, u'y')}});
-        });
-        gData->exec(QStringLiteral("DELETE FROM Players"));
-        QVERIFY(gData->scalar(QStringLiteral("PRAGMA freelist_count")).toInt() > 0);
-        QCOMPARE(compactSeasonFile(gData->filePath()), 0);
-        QCOMPARE(gData->scalar(QStringLiteral("PRAGMA freelist_count")).toInt(), 0);
-        QVERIFY(compactSeasonFile(f.home.filePath(QStringLiteral("nowhere/x.sqlite"))) != 0);
     }
 };
 

@@ -15,6 +15,7 @@
 #include "seasondata/ui/UDVStatsScrn.h"
 #include "seasondata/ui/backUpDlog.h"
 #include "seasondata/ui/prefScrn.h"
+#include "support/ui/PlusMinusContainer.h"
 #include "support/ui/qlmCheckBox.h"
 
 #include <SQLiteCpp/Database.h>
@@ -30,7 +31,6 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include <functional>
 
 using screentest::choose;
 using screentest::clickHalf;
@@ -97,129 +97,21 @@ void typeInCell(qlmListBox *list, const QString &text, Qt::Key then)
     QTest::keyClick(QApplication::focusWidget(), then);
 }
 
-// One preference control: what the coach does with it (returning the
-// value the file must then hold, or a note of what went wrong on the way),
-// and how that value is read from the preferences.
-struct PrefRow
+// A preference as the file gives it back; the lists' two halves joined by "|".
+QString field(const myPrefs &p, const QString &name)
 {
-    const char *name;
-    std::function<QString(prefScrn *, Session &)> act;
-    std::function<QString(const myPrefs &)> read;
-};
-
-QString flag(bool on)
-{
-    return on ? QStringLiteral("1") : QStringLiteral("0");
-}
-
-const QList<PrefRow> &prefRows()
-{
-    static const QList<PrefRow> rows = {
-        {"LogoOnStartCheck",
-         [](prefScrn *s, Session &) -> QString {
-             QTest::mouseClick(s->LogoOnStartCheck, Qt::LeftButton);
-             return flag(false);
-         },
-         [](const myPrefs &p) -> QString { return flag(p.prLogoOnStart); }},
-        {"LogoOnReportsCheck",
-         [](prefScrn *s, Session &) -> QString {
-             s->LogoOnReportsCheck->setFocus();
-             QTest::keyClick(s->LogoOnReportsCheck, Qt::Key_Space);
-             return flag(false);
-         },
-         [](const myPrefs &p) -> QString { return flag(p.prLogoOnReport); }},
-        {"InnPerGamePop",
-         [](prefScrn *s, Session &) -> QString {
-             choose(s->InnPerGamePop, QStringLiteral("7 Innings"));
-             return s->SelectedInnings == 7 ? QStringLiteral("7 Innings") : QStringLiteral("SelectedInnings wrong");
-         },
-         [](const myPrefs &p) -> QString { return p.prInnings; }},
-        {"maxLineupPop",
-         [](prefScrn *s, Session &) -> QString {
-             choose(s->maxLineupPop, QStringLiteral("15 Players"));
-             return QStringLiteral("15 Players");
-         },
-         [](const myPrefs &p) -> QString { return p.prLineUp; }},
-        {"homeTeamPop",
-         [](prefScrn *s, Session &) -> QString {
-             choose(s->homeTeamPop, QStringLiteral("Central Cubs"));
-             return s->teamIDNums.value(s->homeTeamPop->currentIndex());
-         },
-         [](const myPrefs &p) -> QString { return p.prHomeTeam; }},
-        {"PositionLB, a typed row with commas",
-         [](prefScrn *s, Session &) -> QString {
-             const QString before = gPrefs->prAbbrevPos + u'|' + gPrefs->prPositions;
-             clickHalf(s->PlusMinusPositions, true);
-             typeInCell(s->PositionLB, QStringLiteral("D,H2"), Qt::Key_Tab);
-             typeInCell(s->PositionLB, QStringLiteral("Designated, Hitter"), Qt::Key_Return);
-             return before.section(u'|', 0, 0) + QStringLiteral(",DH2|") + before.section(u'|', 1) +
-                    QStringLiteral(",Designated Hitter");
-         },
-         [](const myPrefs &p) -> QString { return p.prAbbrevPos + u'|' + p.prPositions; }},
-        {"PositionLB, a row removed",
-         [](prefScrn *s, Session &) -> QString {
-             s->PositionLB->setSelectedRow(0);
-             clickHalf(s->PlusMinusPositions, false);
-             return gPrefs->prAbbrevPos.section(u',', 1) + u'|' + gPrefs->prPositions.section(u',', 1);
-         },
-         [](const myPrefs &p) -> QString { return p.prAbbrevPos + u'|' + p.prPositions; }},
-        {"PositionLB, lists of different lengths",
-         [](prefScrn *s, Session &) -> QString {
-             gPrefs->prPositions = QStringLiteral("Pitcher");
-             s->scrnSetup();
-             return s->PositionLB->rowCount() == 1 ? QStringLiteral("Data Error|") : QStringLiteral("rows");
-         },
-         [](const myPrefs &p) -> QString { return p.prAbbrevPos + u'|' + p.prPositions; }},
-        {"gameTypeLB, a typed row and an empty one",
-         [](prefScrn *s, Session &) -> QString {
-             const QString before = gPrefs->prGameTypes;
-             clickHalf(s->plusMinusGames, true);
-             typeInCell(s->gameTypeLB, QStringLiteral("Scrim,mage"), Qt::Key_Return);
-             clickHalf(s->plusMinusGames, true);
-             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-             return before + QStringLiteral(",Scrimmage,");
-         },
-         [](const myPrefs &p) -> QString { return p.prGameTypes; }},
-        {"backupPop",
-         [](prefScrn *s, Session &) -> QString {
-             choose(s->backupPop, QStringLiteral("30 min."));
-             return QStringLiteral("30");
-         },
-         [](const myPrefs &p) -> QString { return QString::number(p.prBackupFreq); }},
-        {"backupPop, a value not offered",
-         [](prefScrn *s, Session &) -> QString {
-             gPrefs->prBackupFreq = 7;
-             s->scrnSetup();
-             return s->backupPop->currentText() == u"Never" ? QStringLiteral("0") : s->backupPop->currentText();
-         },
-         [](const myPrefs &p) -> QString { return QString::number(p.prBackupFreq); }},
-        {"setBULocBtn",
-         [](prefScrn *s, Session &f) -> QString {
-             const QString drive = f.home.filePath(QStringLiteral("stick"));
-             QDir().mkpath(drive);
-             f.fake.files.answers.enqueue(drive);
-             QTest::mouseClick(s->setBULocBtn, Qt::LeftButton);
-             if (s->backupLocFld->text() != QDir::toNativeSeparators(drive))
-                 return QString(QStringLiteral("label: ") + s->backupLocFld->text());
-             return QDir(drive).exists(QStringLiteral("TLYN2_backup")) ? drive : QStringLiteral("no TLYN2_backup");
-         },
-         [](const myPrefs &p) -> QString { return parseGSI(p.prDataBackupLoc); }},
-        {"setUDVBtn",
-         [](prefScrn *s, Session &) -> QString {
-             QTest::mouseClick(s->setUDVBtn, Qt::LeftButton);
-             auto *sheet = s->findChild<UDVStatsScrn *>();
-             if (!sheet || sheet->windowModality() != Qt::WindowModal)
-                 return QStringLiteral("no sheet");
-             sheet->batAbbrev.at(0)->clear();
-             sheet->fldDesc.at(2)->setText(QStringLiteral("Diving\tcatches"));
-             QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
-             return QStringLiteral("--|Caught Stealing|Diving catches");
-         },
-         [](const myPrefs &p) -> QString {
-             return p.prUDB.section(u'\t', 0, 1).replace(u'\t', u'|') + u'|' + p.prUDF.section(u'\t', 5, 5);
-         }},
-    };
-    return rows;
+    const auto flag = [](bool on) { return on ? QStringLiteral("1") : QStringLiteral("0"); };
+    if (name == u"prLogoOnStart") return flag(p.prLogoOnStart);
+    if (name == u"prLogoOnReport") return flag(p.prLogoOnReport);
+    if (name == u"prInnings") return p.prInnings;
+    if (name == u"prLineUp") return p.prLineUp;
+    if (name == u"prHomeTeam") return p.prHomeTeam;
+    if (name == u"prBackupFreq") return QString::number(p.prBackupFreq);
+    if (name == u"positions") return p.prAbbrevPos + u'|' + p.prPositions;
+    if (name == u"prGameTypes") return p.prGameTypes;
+    if (name == u"prDataBackupLoc") return parseGSI(p.prDataBackupLoc);
+    if (name == u"user-defined") return p.prUDB.section(u'\t', 0, 1) + u'\t' + p.prUDF.section(u'\t', 5, 5);
+    return QStringLiteral("no field ") + name;
 }
 
 } // namespace
@@ -245,7 +137,6 @@ private Q_SLOTS:
         const qint64 lions = f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
         f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
         const qint64 owls = f.addTeam(QStringLiteral("O'Brien's"), QStringLiteral("Owls"));
-        f.addMember(QStringLiteral("Players"), lions, QStringLiteral("Ruth"));
         gData->insert(QStringLiteral("TeamInventory"), {{QStringLiteral("teamID"), QString::number(lions)}});
 
         QTest::mouseClick(f.start->findChild<QPushButton *>(QStringLiteral("newSeasonBtn")), Qt::LeftButton);
@@ -286,9 +177,7 @@ private Q_SLOTS:
         f.fake.messages.clear();
         QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
         QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("The transfer was successful")});
-        QCOMPARE(gPrefs->prSeason, QStringLiteral("2027"));
         QCOMPARE(f.count(QStringLiteral("Teams")), 2);
-        QCOMPARE(f.count(QStringLiteral("Players")), 1);
         QCOMPARE(f.count(QStringLiteral("TeamInventory")), 1);
         QCOMPARE(sheet->TransferBtn->text(), QStringLiteral("Close"));
         QVERIFY(!sheet->addAllBtn->isEnabled());
@@ -313,6 +202,8 @@ private Q_SLOTS:
         QCOMPARE(gPrefs->prSeason, QStringLiteral("Fall Ball"));
         QVERIFY(QFileInfo::exists(f.seasonFile(QStringLiteral("Fall Ball"))));
         QCOMPARE(f.start->SelectSeasonPop->currentText(), QStringLiteral("Fall Ball"));
+        f.restart();
+        QCOMPARE(gPrefs->prSeason, QStringLiteral("Fall Ball"));
     }
 
     void backupDialog_data()
@@ -415,17 +306,25 @@ private Q_SLOTS:
     void restoreByMenu_data()
     {
         QTest::addColumn<int>("answer");
-        QTest::newRow("the coach restores") << int(platform::MsgAction);
-        QTest::newRow("the coach cancels") << int(platform::MsgCancel);
+        QTest::addColumn<bool>("sound");
+        QTest::addColumn<QString>("status");
+        QTest::newRow("the coach restores") << int(platform::MsgAction) << true << "The season was restored.";
+        QTest::newRow("the coach cancels") << int(platform::MsgCancel) << true << "";
+        QTest::newRow("a file that isn't a season")
+            << int(platform::MsgAction) << false << "The season could not be restored.";
     }
     void restoreByMenu()
     {
         QFETCH(int, answer);
+        QFETCH(bool, sound);
+        QFETCH(QString, status);
         Session f;
         f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
         const QString backup = f.home.filePath(QStringLiteral("tlData_old.sqlite"));
         seasondata::BackupJob job(gData->tlynData->getHandle(), backup);
         QVERIFY(job.runToEnd());
+        if (!sound)
+            QFile::resize(backup, 3000);
         const QStringList backedUp = f.dump(*gData, QStringLiteral("Teams"));
         f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
         const QStringList later = f.dump(*gData, QStringLiteral("Teams"));
@@ -437,41 +336,116 @@ private Q_SLOTS:
         item->trigger();
         QTRY_COMPARE(f.fake.messages.shown.size(), 1);
         QVERIFY(f.fake.messages.shown.first().message.startsWith(QStringLiteral("Replace the season ")));
-        const bool restored = answer == platform::MsgAction;
+        const bool restored = status == u"The season was restored.";
         QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), restored ? backedUp : later);
+        // The season as it stood is kept first, and only when it is replaced.
         const QStringList kept = QDir(f.dataFolder()).entryList({QStringLiteral("*.kept")}, QDir::Files);
         QCOMPARE(kept.size(), restored ? 1 : 0);
         if (restored) {
-            auto *dialog = Session::window<backUpDlog>(QStringLiteral("restoreDlog"));
-            QVERIFY(dialog);
-            QCOMPARE(dialog->statusLbl->text(), QStringLiteral("The season was restored."));
+            SQLite::Database copy(QDir(f.dataFolder()).filePath(kept.first()).toStdString(), SQLite::OPEN_READONLY);
+            QCOMPARE(copy.execAndGet("SELECT COUNT(*) FROM Teams").getInt(), int(later.size()));
         }
+        auto *dialog = Session::window<backUpDlog>(QStringLiteral("restoreDlog"));
+        QCOMPARE(dialog ? dialog->statusLbl->text() : QString(), status);
+        // The restored season is what the program opens next time.
+        f.restart();
+        QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), restored ? backedUp : later);
     }
 
     void preferencesSavedAndReadBack_data()
     {
-        QTest::addColumn<int>("row");
-        for (int i = 0; i < prefRows().size(); ++i)
-            QTest::newRow(prefRows().at(i).name) << i;
+        QTest::addColumn<QString>("stored");  // "field=value" put in the preferences first
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("input");   // a row's text; list rows "cell|cell", several by "/"
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("expected"); // {a} {p} {g}: the stored lists before; {drive}
+
+        QTest::newRow("LogoOnStartCheck") << "" << "LogoOnStartCheck" << "click" << "prLogoOnStart" << "0";
+        QTest::newRow("LogoOnReportsCheck by Space") << "" << "LogoOnReportsCheck" << "space" << "prLogoOnReport"
+                                                     << "0";
+        QTest::newRow("InnPerGamePop") << "" << "InnPerGamePop" << "7 Innings" << "prInnings" << "7 Innings";
+        QTest::newRow("maxLineupPop") << "" << "maxLineupPop" << "15 Players" << "prLineUp" << "15 Players";
+        QTest::newRow("homeTeamPop") << "" << "homeTeamPop" << "Central Cubs" << "prHomeTeam" << "2";
+        QTest::newRow("backupPop") << "" << "backupPop" << "30 min." << "prBackupFreq" << "30";
+        QTest::newRow("backupPop, 7 isn't offered") << "prBackupFreq=7" << "backupPop" << "" << "prBackupFreq" << "0";
+        QTest::newRow("PositionLB, typed commas go") << "" << "PositionLB" << "D,H2|Designated, Hitter"
+                                                     << "positions" << "{a},DH2|{p},Designated Hitter";
+        QTest::newRow("PositionLB, a row removed") << "prAbbrevPos=C,SS" << "PositionLB" << "-" << "positions"
+                                                   << "SS|Shortstop";
+        QTest::newRow("PositionLB, lists of different lengths")
+            << "prPositions=Pitcher" << "PositionLB" << "" << "positions" << "Data Error|";
+        QTest::newRow("gameTypeLB, a typed and an empty row") << "" << "gameTypeLB" << "Scrim,mage/" << "prGameTypes"
+                                                              << "{g},Scrimmage,";
+        QTest::newRow("setBULocBtn") << "" << "setBULocBtn" << "" << "prDataBackupLoc" << "{drive}";
+        QTest::newRow("setUDVBtn") << "" << "setUDVBtn" << "\tDiving\tcatches" << "user-defined"
+                                   << "--\tCaught Stealing\tDiving catches";
     }
     void preferencesSavedAndReadBack()
     {
-        QFETCH(int, row);
-        const PrefRow &control = prefRows().at(row);
+        QFETCH(QString, stored);
+        QFETCH(QString, control);
+        QFETCH(QString, input);
+        QFETCH(QString, field);
+        QFETCH(QString, expected);
         Session f;
         f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
         f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
+        if (stored.startsWith(u"prBackupFreq"))
+            gPrefs->prBackupFreq = stored.section(u'=', 1).toInt();
+        if (stored.startsWith(u"prAbbrevPos")) {
+            gPrefs->prAbbrevPos = stored.section(u'=', 1);
+            gPrefs->prPositions = QStringLiteral("Catcher,Shortstop");
+        }
+        if (stored.startsWith(u"prPositions"))
+            gPrefs->prPositions = stored.section(u'=', 1);
+        const QString drive = f.home.filePath(QStringLiteral("stick"));
+        expected.replace(QStringLiteral("{a}"), gPrefs->prAbbrevPos)
+            .replace(QStringLiteral("{p}"), gPrefs->prPositions)
+            .replace(QStringLiteral("{g}"), gPrefs->prGameTypes)
+            .replace(QStringLiteral("{drive}"), drive);
         QPointer<prefScrn> screen = f.openPrefs();
         QVERIFY(screen);
         QTRY_VERIFY(!f.start);
 
-        const QString expected = control.act(screen, f);
+        QWidget *w = screen->findChild<QWidget *>(control);
+        if (auto *box = qobject_cast<QComboBox *>(w); box && !input.isEmpty()) {
+            QVERIFY(choose(box, input));
+        } else if (auto *check = qobject_cast<qlmCheckBox *>(w)) {
+            check->setFocus();
+            input == u"click" ? QTest::mouseClick(check, Qt::LeftButton) : QTest::keyClick(check, Qt::Key_Space);
+        } else if (auto *list = qobject_cast<qlmListBox *>(w); list && !input.isEmpty()) {
+            PlusMinusContainer *pair = list == screen->PositionLB ? screen->PlusMinusPositions : screen->plusMinusGames;
+            if (input == u"-") {
+                list->setSelectedRow(0);
+                clickHalf(pair, false);
+            }
+            for (const QString &row : input == u"-" ? QStringList() : input.split(u'/')) {
+                clickHalf(pair, true);
+                const QStringList cells = row.split(u'|');
+                for (int c = 0; c < cells.size(); ++c)
+                    typeInCell(list, cells.at(c), c + 1 < cells.size() ? Qt::Key_Tab : Qt::Key_Return);
+            }
+        } else if (control == u"setBULocBtn") {
+            QDir().mkpath(drive);
+            f.fake.files.answers.enqueue(drive);
+            QTest::mouseClick(screen->setBULocBtn, Qt::LeftButton);
+            QCOMPARE(screen->backupLocFld->text(), QDir::toNativeSeparators(drive));
+            QVERIFY(QDir(drive).exists(QStringLiteral("TLYN2_backup")));
+        } else if (control == u"setUDVBtn") {
+            QTest::mouseClick(screen->setUDVBtn, Qt::LeftButton);
+            auto *sheet = screen->findChild<UDVStatsScrn *>();
+            QVERIFY(sheet && sheet->windowModality() == Qt::WindowModal);
+            sheet->batAbbrev.at(0)->setText(input.section(u'\t', 0, 0));
+            sheet->fldDesc.at(2)->setText(input.section(u'\t', 1));
+            QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
+        }
+        if (control == u"InnPerGamePop")
+            QCOMPARE(screen->SelectedInnings, 7);
         QTest::mouseClick(screen->prefsavebutton, Qt::LeftButton);
         QTRY_VERIFY(!screen);
         QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
 
-        const myPrefs reread(f.dataRoot());
-        QCOMPARE(control.read(reread), expected);
+        QCOMPARE(::field(myPrefs(f.dataRoot()), field), expected);
     }
 
     void returnLeavesWithoutSaving_data()

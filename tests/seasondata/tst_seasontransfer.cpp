@@ -121,26 +121,6 @@ private Q_SLOTS:
         // The old season is untouched.
         QVERIFY(QFileInfo::exists(f.seasonFile(oldSeason)));
     }
-
-    void emptySeasonKeepsNothingAndReopensAnExistingOne()
-    {
-        SeasonFixture f;
-        const QString first = gPrefs->prSeason;
-        f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
-
-        QVERIFY(SeasonTransfer::createNewDB(QStringLiteral("Fall Ball")));
-        QCOMPARE(gPrefs->prSeason, QStringLiteral("Fall Ball"));
-        QVERIFY(gPrefs->prefsDirty);
-        QCOMPARE(f.count(QStringLiteral("Teams")), 0);
-
-        // A name in use opens that season, rows and all.
-        QVERIFY(SeasonTransfer::createNewDB(first));
-        QCOMPARE(f.count(QStringLiteral("Teams")), 1);
-
-        // The choice is still there after a restart.
-        f.restart();
-        QCOMPARE(gPrefs->prSeason, first);
-    }
 };
 
 QTEST_GUILESS_MAIN(TestSeasonTransfer)

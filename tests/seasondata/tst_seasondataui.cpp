@@ -448,15 +448,20 @@ private Q_SLOTS:
         QCOMPARE(::field(myPrefs(f.dataRoot()), field), expected);
     }
 
-    void returnLeavesWithoutSaving_data()
+    void returnKey_data()
     {
         QTest::addColumn<bool>("fromStart");
-        QTest::newRow("opened from the start screen") << true;
-        QTest::newRow("opened over another screen") << false;
+        QTest::addColumn<QString>("focus"); // where Return is pressed
+        QTest::addColumn<QString>("innings"); // in the file after the restart
+        QTest::newRow("from the start screen") << true << "InnPerGamePop" << "9 Innings";
+        QTest::newRow("over another screen") << false << "InnPerGamePop" << "9 Innings";
+        QTest::newRow("on the Save button") << true << "prefsavebutton" << "5 Innings";
     }
-    void returnLeavesWithoutSaving()
+    void returnKey()
     {
         QFETCH(bool, fromStart);
+        QFETCH(QString, focus);
+        QFETCH(QString, innings);
         Session f;
         f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
         const QString cubs = QString::number(f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs")));
@@ -465,14 +470,17 @@ private Q_SLOTS:
         screentest::showActive(screen);
         choose(screen->InnPerGamePop, QStringLiteral("5 Innings"));
         choose(screen->homeTeamPop, QStringLiteral("Central Cubs"));
-        QTest::keyClick(screen->InnPerGamePop, Qt::Key_Return);
+        QWidget *at = screen->findChild<QWidget *>(focus);
+        at->setFocus();
+        QTest::keyClick(at, Qt::Key_Return);
         QTRY_VERIFY(!screen);
         QCOMPARE(f.start->isVisible(), fromStart);
 
-        // The home team acted at once and survives the restart; the innings didn't.
+        // The home team acted at once and survives the restart; the innings
+        // only when saved.
         f.restart();
         QCOMPARE(gPrefs->prHomeTeam, cubs);
-        QCOMPARE(gPrefs->prInnings, QStringLiteral("9 Innings"));
+        QCOMPARE(gPrefs->prInnings, innings);
     }
 
     void userDefinedNamesAtNextStart_data()

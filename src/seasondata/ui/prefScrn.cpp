@@ -275,10 +275,14 @@ void prefScrn::setValues()
 
 void prefScrn::keyPressEvent(QKeyEvent *event)
 {
-    // Return or Enter leaves without saving.
+    // Return or Enter leaves without saving; on a button it presses that
+    // button, so Return on Save saves.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         event->accept();
-        close();
+        if (auto *button = qobject_cast<QPushButton *>(focusWidget()); button && button->isEnabled())
+            button->click();
+        else
+            close();
         return;
     }
     ScreenBase::keyPressEvent(event);

@@ -92,6 +92,22 @@ private Q_SLOTS:
             checking += check.nsecsElapsed() / 1e6;
             safe += t.nsecsElapsed() / 1e6;
         }
+        // A restore of that copy into the open season, a batch of pages a step.
+        double longestRestoreStep = 0;
+        QElapsedTimer restoreTime;
+        restoreTime.start();
+        auto restore = seasondata::BackupJob::restoreInto(source, safeFile);
+        QVERIFY(restore->start());
+        for (;;) {
+            QElapsedTimer step;
+            step.start();
+            const bool more = restore->step(256);
+            longestRestoreStep = std::max(longestRestoreStep, step.nsecsElapsed() / 1e6);
+            if (!more)
+                break;
+        }
+        QVERIFY(restore->finish());
+        qInfo("restore %.1f ms, longest step %.1f ms", restoreTime.nsecsElapsed() / 1e6, longestRestoreStep);
         qInfo("season %.1f MB; plain copy %.1f ms, stepped copy with check and rename %.1f ms, ratio %.2f; "
               "longest step on the window's thread %.1f ms; the check (on its own thread) %.1f ms",
               QFile(safeFile).size() / 1048576.0, plain / rounds, safe / rounds, safe / plain, longestStep,

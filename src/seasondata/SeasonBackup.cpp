@@ -70,10 +70,17 @@ QString dateFolderName(const QDate &date, const QLocale &locale)
 
 BackupJob::BackupJob(sqlite3 *source, QString targetFile) : m_source(source), m_target(std::move(targetFile)) {}
 
+std::unique_ptr<BackupJob> BackupJob::restoreInto(sqlite3 *live, const QString &backupFile)
+{
+    auto job = std::make_unique<BackupJob>(live, backupFile);
+    job->m_intoLive = true;
+    return job;
+}
+
 BackupJob::~BackupJob()
 {
     closeWork();
-    if (!m_done)
+    if (!m_done && !m_intoLive)
         QFile::remove(workFile());
 }
 
@@ -94,7 +101,8 @@ bool BackupJob::fail(int code, const QString &message)
     m_errorCode = code ? code : SQLITE_ERROR;
     m_errorMessage = message;
     closeWork();
-    QFile::remove(workFile());
+    if (!m_intoLive)
+        QFile::remove(workFile());
     return false;
 }
 
@@ -102,6 +110,16 @@ bool BackupJob::start()
 {
     if (!m_source)
         return fail(SQLITE_MISUSE, QStringLiteral("The season isn't open."));
+    if (m_intoLive) {
+        const QByteArray path = m_target.toUtf8();
+        int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READONLY, nullptr);
+        if (rc != SQLITE_OK)
+            return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+        m_backup = sqlite3_backup_init(m_source, "main", m_dest, "main");
+        if (!m_backup)
+            return fail(sqlite3_errcode(m_source), QString::fromUtf8(sqlite3_errmsg(m_source)));
+        return true;
+    }
     QFile::remove(workFile());
     const QByteArray path = workFile().toUtf8();
     int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
@@ -147,12 +165,18 @@ bool BackupJob::endCopy()
     const int rc = sqlite3_backup_finish(m_backup);
     m_backup = nullptr;
     if (rc != SQLITE_OK)
-        return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+        return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_intoLive ? m_source : m_dest)));
+    if (m_intoLive) {
+        closeWork();
+        m_done = true;
+    }
     return true;
 }
 
 bool BackupJob::checkAndPlace()
 {
+    if (m_intoLive)
+        return m_done;
     if (!m_dest || m_backup)
         return false;
     const QString check = integrityOf(m_dest);
@@ -246,43 +270,6 @@ bool isSoundSeasonFile(const QString &file)
     } catch (const SQLite::Exception &) {
         return false;
     }
-}
-
-bool restoreSeason(myDB &live, const QString &backupFile, const QString &keepAs, QString *message)
-{
-    const auto failed = [message](const QString &why) {
-        if (message)
-            *message = why;
-        return false;
-    };
-    if (!live.tlynData)
-        return failed(QStringLiteral("The season isn't open."));
-    if (!isSoundSeasonFile(backupFile))
-        return failed(QStringLiteral("The chosen file isn't a sound season backup."));
-    BackupJob keep(live.tlynData->getHandle(), keepAs);
-    if (!keep.runToEnd())
-        return failed(keep.errorMessage());
-
-    // The backup's pages go into the open connection in one write
-    // transaction: the season is either all the old one or all the backup.
-    sqlite3 *source = nullptr;
-    const QByteArray path = backupFile.toUtf8();
-    if (sqlite3_open_v2(path.constData(), &source, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
-        sqlite3_close_v2(source);
-        return failed(QStringLiteral("The chosen file can't be read."));
-    }
-    sqlite3 *dest = live.tlynData->getHandle();
-    sqlite3_backup *copy = sqlite3_backup_init(dest, "main", source, "main");
-    int rc = copy ? sqlite3_backup_step(copy, -1) : sqlite3_errcode(dest);
-    if (copy) {
-        const int finish = sqlite3_backup_finish(copy);
-        if (rc == SQLITE_DONE)
-            rc = finish;
-    }
-    sqlite3_close_v2(source);
-    if (rc != SQLITE_OK && rc != SQLITE_DONE)
-        return failed(QString::fromUtf8(sqlite3_errstr(rc)));
-    return true;
 }
 
 } // namespace seasondata

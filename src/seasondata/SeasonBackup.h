@@ -4,6 +4,8 @@
 #include <QLocale>
 #include <QString>
 
+#include <memory>
+
 struct sqlite3;
 struct sqlite3_backup;
 class myDB;
@@ -30,6 +32,11 @@ public:
     // `source` is a live connection ("main" is copied); `targetFile` is
     // replaced only when the copy is complete and sound.
     BackupJob(sqlite3 *source, QString targetFile);
+    // The other way: the pages of `backupFile` replace those of the live
+    // connection `live`, in one write transaction held from the first step
+    // to the last, so the season is all the old one or all the backup.
+    // Nothing else may use `live` meanwhile.
+    static std::unique_ptr<BackupJob> restoreInto(sqlite3 *live, const QString &backupFile);
     ~BackupJob();
     BackupJob(const BackupJob &) = delete;
     BackupJob &operator=(const BackupJob &) = delete;
@@ -60,7 +67,8 @@ private:
 
     sqlite3 *m_source;
     QString m_target;
-    sqlite3 *m_dest = nullptr;
+    bool m_intoLive = false; // restoring: m_target is the source file
+    sqlite3 *m_dest = nullptr; // the connection this job opened on its file
     sqlite3_backup *m_backup = nullptr;
     bool m_done = false;
     int m_errorCode = 0;
@@ -92,10 +100,5 @@ int compactSeasonFile(const QString &file, QString *message = nullptr);
 // holds the season's tables.
 bool isSoundSeasonFile(const QString &file);
 
-// Puts the rows of the backup `backupFile` in place of the open season's,
-// through the open connection, after keeping the current season as
-// `keepAs`. Returns false (and nothing changes) when the backup isn't a
-// sound season or the current season can't be kept.
-bool restoreSeason(myDB &live, const QString &backupFile, const QString &keepAs, QString *message = nullptr);
 
 } // namespace seasondata

@@ -23,7 +23,6 @@
 #include <QThread>
 #include <QVBoxLayout>
 
-#include <atomic>
 
 using seasondata::BackupJob;
 using seasondata::BackupPlan;
@@ -148,14 +147,22 @@ void backUpDlog::doBackUp()
                    plan.detail, false);
         return;
     }
-    m_job = std::make_unique<BackupJob>(gData->tlynData->getHandle(), plan.target);
+    setLines(QStringLiteral("Backing up ") + gPrefs->prSeason + QStringLiteral("..."),
+             QDir::toNativeSeparators(plan.target));
+    startCopy(std::make_unique<BackupJob>(gData->tlynData->getHandle(), plan.target), [this] { backupCopied(); });
+}
+
+void backUpDlog::startCopy(std::unique_ptr<BackupJob> job, std::function<void()> then)
+{
+    m_job = std::move(job);
+    m_afterCopy = std::move(then);
     if (!m_job->start()) {
-        copied();
+        const auto after = m_afterCopy; // it may start the next copy
+        after();
         return;
     }
     m_working = true;
-    setLines(QStringLiteral("Backing up ") + gPrefs->prSeason + QStringLiteral("..."),
-             QDir::toNativeSeparators(plan.target));
+    progressBar->setRange(0, 100);
     progressBar->setValue(0);
     progressBar->show();
     m_stepTimer.start();
@@ -172,21 +179,28 @@ void backUpDlog::copyStep()
     m_stepTimer.stop();
     progressBar->setValue(100);
     if (m_job->errorCode() != 0 || !m_job->endCopy()) {
-        copied();
+        const auto after = m_afterCopy; // it may start the next copy
+        after();
         return;
     }
     // The check reads the whole copy: on a thread of its own, since only
     // the copy's own connection is used from here on.
-    m_checking = QThread::create([job = m_job.get()] { job->checkAndPlace(); });
-    connect(m_checking, &QThread::finished, this, [this] {
+    onThread([job = m_job.get()] { job->checkAndPlace(); }, m_afterCopy);
+}
+
+void backUpDlog::onThread(std::function<void()> work, std::function<void()> then)
+{
+    m_working = true;
+    m_checking = QThread::create(std::move(work));
+    connect(m_checking, &QThread::finished, this, [this, then = std::move(then)] {
         m_checking->deleteLater();
         m_checking = nullptr;
-        copied();
+        then();
     });
     m_checking->start();
 }
 
-void backUpDlog::copied()
+void backUpDlog::backupCopied()
 {
     const int code = m_job->errorCode();
     m_job.reset();
@@ -271,12 +285,34 @@ void backUpDlog::doRestore()
         close();
         return;
     }
-    QString why;
-    if (!seasondata::restoreSeason(*gData, chosen, keep, &why)) {
-        finishWith(QStringLiteral("The season could not be restored."), why, false);
-        return;
-    }
-    if (startScrn1 *start = startScrn1::instance())
-        start->setLogo_Name();
-    finishWith(QStringLiteral("The season was restored."), {}, true);
+    // First the backup is read through; then the season as it stands is
+    // kept; only then do the backup's pages replace it.
+    setLines(QStringLiteral("Checking the backup..."), QDir::toNativeSeparators(chosen));
+    progressBar->setRange(0, 0);
+    progressBar->show();
+    auto sound = std::make_shared<bool>(false);
+    onThread([chosen, sound] { *sound = seasondata::isSoundSeasonFile(chosen); }, [this, chosen, keep, sound] {
+        if (!*sound) {
+            finishWith(QStringLiteral("The season could not be restored."),
+                       QStringLiteral("The chosen file isn't a sound season backup."), false);
+            return;
+        }
+        setLines(QStringLiteral("Keeping the season as it is now..."), QDir::toNativeSeparators(keep));
+        startCopy(std::make_unique<BackupJob>(gData->tlynData->getHandle(), keep), [this, chosen] {
+            if (m_job->errorCode() != 0) {
+                finishWith(QStringLiteral("The season could not be restored."), m_job->errorMessage(), false);
+                return;
+            }
+            setLines(QStringLiteral("Restoring the season..."), QDir::toNativeSeparators(chosen));
+            startCopy(BackupJob::restoreInto(gData->tlynData->getHandle(), chosen), [this] {
+                if (m_job->errorCode() != 0) {
+                    finishWith(QStringLiteral("The season could not be restored."), m_job->errorMessage(), false);
+                    return;
+                }
+                if (startScrn1 *start = startScrn1::instance())
+                    start->setLogo_Name();
+                finishWith(QStringLiteral("The season was restored."), {}, true);
+            });
+        });
+    });
 }

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 class QLabel;
@@ -54,8 +55,12 @@ protected:
     void reject() override;
 
 private:
+    // Runs `job` a batch of pages per turn of the event loop, its check on a
+    // thread, then `then` (the job's error code tells how it went).
+    void startCopy(std::unique_ptr<seasondata::BackupJob> job, std::function<void()> then);
     void copyStep();
-    void copied();
+    void onThread(std::function<void()> work, std::function<void()> then);
+    void backupCopied();
     void compactionEnded();
     void cleanUpTimer_Action();
     void closeTimer_Action();
@@ -70,4 +75,5 @@ private:
     QThread *m_checking = nullptr;
     QThread *m_compaction = nullptr;
     QTimer m_stepTimer;
+    std::function<void()> m_afterCopy;
 };

@@ -11,6 +11,9 @@
 #include "reports/ui/standingsScrn.h"
 #include "schedule/ui/eventsCalendarScrn.h"
 #include "schedule/ui/scheduleScrn.h"
+#include "seasondata/ui/TransferDataScrn.h"
+#include "seasondata/ui/backUpDlog.h"
+#include "seasondata/ui/prefScrn.h"
 #include "support/HelpRequests.h"
 #include "support/ui/updateDlog.h"
 
@@ -29,6 +32,13 @@ void registerScreens()
                             [](const QVariant &topic) { return new helpScrn2(topic.isValid() ? topic.toInt() : 0); });
     screens::registerScreen(ScreenId::HelpAbbrevScrn, [] { return HelpAbbrevScrn::instance(); });
     screens::registerScreen(ScreenId::formsScrn, [] { return new formsScrn; });
+    screens::registerScreen(ScreenId::TransferDataScrn, [] { return new TransferDataScrn; });
+    screens::registerScreen(ScreenId::backUpDlog, [] { return new backUpDlog(backUpDlog::Mode::Backup); });
+    screens::registerScreen(ScreenId::restoreDlog, [] { return new backUpDlog(backUpDlog::Mode::Restore); });
+    // No argument: opened from the start screen, which shows again on close.
+    screens::registerScreen(ScreenId::prefScrn, screens::Factory([](const QVariant &fromStart) {
+                                return new prefScrn(!fromStart.isValid() || fromStart.toBool());
+                            }));
 
     // Every "?" button of the program opens help at its topic; connected
     // once, however often the screens are registered.

@@ -5,6 +5,7 @@
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
 #include "platform/qt/QtServices.h"
+#include "seasondata/ui/backUpDlog.h"
 #include "support/ui/expReporterScrn.h"
 #include "Screens.h"
 
@@ -22,6 +23,8 @@ int main(int argc, char *argv[])
     if (app.Event_Open() != App::OpenResult::Ok)
         return 0;
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &app, &App::Event_Close);
+    backUpDlog::connectTimer(app.BUTimer);
+    backUpDlog::connectTimer(app.BUTimer);
 
     auto *splash = new splashScrn;
     splash->show();

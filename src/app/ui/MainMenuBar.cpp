@@ -32,6 +32,7 @@ MainMenuBar::MainMenuBar(QWidget *parent) : QMenuBar(parent)
     addItem(file, QStringLiteral("FilePrint"), QStringLiteral("Print"), QKeySequence(QStringLiteral("Ctrl+P")));
     addItem(file, QStringLiteral("FileExport"), QStringLiteral("Export Data"), QKeySequence(QStringLiteral("Ctrl+Shift+E")));
     addItem(file, QStringLiteral("FileBackup"), QStringLiteral("Backup Data"));
+    addItem(file, QStringLiteral("FileRestore"), QStringLiteral("Restore Data..."));
     file->addSeparator();
     QAction *quit = addItem(file, QStringLiteral("FileQuit"), QStringLiteral("&Quit"), QKeySequence(QStringLiteral("Ctrl+Q")));
     quit->setMenuRole(QAction::QuitRole);

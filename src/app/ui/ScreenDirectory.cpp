@@ -21,6 +21,7 @@ QString screenName(ScreenId id)
     case ScreenId::prefScrn: return QStringLiteral("prefScrn");
     case ScreenId::TransferDataScrn: return QStringLiteral("TransferDataScrn");
     case ScreenId::backUpDlog: return QStringLiteral("backUpDlog");
+    case ScreenId::restoreDlog: return QStringLiteral("restoreDlog");
     case ScreenId::updateDlog: return QStringLiteral("updateDlog");
     case ScreenId::helpScrn2: return QStringLiteral("helpScrn2");
     case ScreenId::HelpAbbrevScrn: return QStringLiteral("HelpAbbrevScrn");

@@ -22,6 +22,7 @@ enum class ScreenId {
     prefScrn,
     TransferDataScrn,
     backUpDlog,
+    restoreDlog,        // puts a chosen backup in place of the current season
     updateDlog,
     helpScrn2,          // argument: the topic number, or none for the index
     HelpAbbrevScrn,

@@ -164,6 +164,7 @@ void startScrn1::installMenuHandlers()
         bool closeStart;
     } menuTargets[] = {
         {"FileBackup", ScreenId::backUpDlog, false},
+        {"FileRestore", ScreenId::restoreDlog, false},
         {"HelpUpdateCheck", ScreenId::updateDlog, false},
         {"Abbrev", ScreenId::HelpAbbrevScrn, false},
         {"Help", ScreenId::helpScrn2, false},

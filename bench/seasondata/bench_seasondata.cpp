@@ -1,0 +1,119 @@
+// What a safe backup costs: the stepped copy with its integrity check and
+// rename, against the leanest copy SQLite offers (one backup step of every
+// page into a file, no check), interleaved on the same season. Also the
+// longest single step, which is how long the window waits at most (the
+// check runs on a thread of its own in the dialog).
+
+#include "app/App.h"
+#include "app/globals.h"
+#include "fakes/FakePlatform.h"
+#include "seasondata/SeasonBackup.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sqlite3.h>
+
+class BenchSeasonData : public QObject
+{
+    Q_OBJECT
+
+    fakes::FakePlatform m_fake;
+    QTemporaryDir m_home;
+    std::unique_ptr<App> m_app;
+
+    static double plainCopy(sqlite3 *source, const QString &file)
+    {
+        QElapsedTimer t;
+        t.start();
+        QFile::remove(file);
+        sqlite3 *dest = nullptr;
+        sqlite3_open(file.toUtf8().constData(), &dest);
+        sqlite3_backup *b = sqlite3_backup_init(dest, "main", source, "main");
+        sqlite3_backup_step(b, -1);
+        sqlite3_backup_finish(b);
+        sqlite3_close(dest);
+        return t.nsecsElapsed() / 1e6;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_app = std::make_unique<App>(m_home.path());
+        QCOMPARE(m_app->Event_Open(), App::OpenResult::Ok);
+        // A big season: 20 teams of 25 players, each with a 200 KB photo,
+        // and two thousand schedule rows: about 100 MB.
+        QByteArray photo(200 * 1024, Qt::Uninitialized);
+        for (char &c : photo)
+            c = char(QRandomGenerator::global()->generate());
+        QVERIFY(gData->runInTransaction([&] {
+            for (int t = 0; t < 20; ++t) {
+                const qint64 team = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), t}});
+                for (int p = 0; p < 25; ++p)
+                    gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), team},
+                                                              {QStringLiteral("Last"), p},
+                                                              {QStringLiteral("PlayerPic"), photo}});
+            }
+            for (int e = 0; e < 2000; ++e)
+                gData->insert(QStringLiteral("Schedule"), {{QStringLiteral("Event"), QStringLiteral("Game")}});
+        }));
+    }
+
+    void backupAgainstPlainCopy()
+    {
+        sqlite3 *source = gData->tlynData->getHandle();
+        const QString safeFile = m_home.filePath(QStringLiteral("safe.sqlite"));
+        const QString plainFile = m_home.filePath(QStringLiteral("plain.sqlite"));
+        double safe = 0, plain = 0, longestStep = 0, checking = 0;
+        const int rounds = 3;
+        for (int round = 0; round < rounds; ++round) {
+            plain += plainCopy(source, plainFile);
+            QElapsedTimer t;
+            t.start();
+            seasondata::BackupJob job(source, safeFile);
+            QVERIFY(job.start());
+            for (;;) {
+                QElapsedTimer step;
+                step.start();
+                const bool more = job.step(256);
+                longestStep = std::max(longestStep, step.nsecsElapsed() / 1e6);
+                if (!more)
+                    break;
+            }
+            QVERIFY(job.endCopy());
+            QElapsedTimer check;
+            check.start();
+            QVERIFY(job.checkAndPlace());
+            checking += check.nsecsElapsed() / 1e6;
+            safe += t.nsecsElapsed() / 1e6;
+        }
+        // A restore of that copy into the open season, a batch of pages a step.
+        double longestRestoreStep = 0;
+        QElapsedTimer restoreTime;
+        restoreTime.start();
+        auto restore = seasondata::BackupJob::restoreInto(source, safeFile);
+        QVERIFY(restore->start());
+        for (;;) {
+            QElapsedTimer step;
+            step.start();
+            const bool more = restore->step(256);
+            longestRestoreStep = std::max(longestRestoreStep, step.nsecsElapsed() / 1e6);
+            if (!more)
+                break;
+        }
+        QVERIFY(restore->finish());
+        qInfo("restore %.1f ms, longest step %.1f ms", restoreTime.nsecsElapsed() / 1e6, longestRestoreStep);
+        qInfo("season %.1f MB; plain copy %.1f ms, stepped copy with check and rename %.1f ms, ratio %.2f; "
+              "longest step on the window's thread %.1f ms; the check (on its own thread) %.1f ms",
+              QFile(safeFile).size() / 1048576.0, plain / rounds, safe / rounds, safe / plain, longestStep,
+              checking / rounds);
+    }
+};
+
+QTEST_GUILESS_MAIN(BenchSeasonData)
+#include "bench_seasondata.moc"

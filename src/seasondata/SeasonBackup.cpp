@@ -1,0 +1,275 @@
+#include "seasondata/SeasonBackup.h"
+
+#include "app/Schema.h"
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "app/myPrefs.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+#include <filesystem>
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace seasondata {
+
+namespace {
+
+const QString kBackupFolder = QStringLiteral("TLYN2_backup");
+
+QString integrityOf(sqlite3 *db)
+{
+    sqlite3_stmt *stmt = nullptr;
+    QString result;
+    if (sqlite3_prepare_v2(db, "PRAGMA integrity_check", -1, &stmt, nullptr) == SQLITE_OK
+        && sqlite3_step(stmt) == SQLITE_ROW)
+        result = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 0)));
+    sqlite3_finalize(stmt);
+    return result;
+}
+
+// Waits until the file's bytes are on the disk.
+bool syncToDisk(const QString &file)
+{
+    QFile f(file);
+    if (!f.open(QIODevice::ReadWrite))
+        return false;
+#ifdef Q_OS_WIN
+    return _commit(f.handle()) == 0;
+#else
+    return ::fsync(f.handle()) == 0;
+#endif
+}
+
+} // namespace
+
+QString dateFolderName(const QDate &date, const QLocale &locale)
+{
+    QString name = locale.toString(date, QLocale::ShortFormat);
+    for (QChar &c : name) {
+        if (c == u'/' || c == u'\\' || c == u':' || c == u'*' || c == u'?' || c == u'"' || c == u'<' || c == u'>'
+            || c == u'|' || c.category() == QChar::Other_Control)
+            c = u'_';
+    }
+    // Windows drops trailing dots and blanks from a name; a date that ends
+    // in one would name a different folder there.
+    while (name.endsWith(u'.') || name.endsWith(u' '))
+        name.chop(1);
+    return name.isEmpty() ? date.toString(Qt::ISODate) : name;
+}
+
+BackupJob::BackupJob(sqlite3 *source, QString targetFile) : m_source(source), m_target(std::move(targetFile)) {}
+
+std::unique_ptr<BackupJob> BackupJob::restoreInto(sqlite3 *live, const QString &backupFile)
+{
+    auto job = std::make_unique<BackupJob>(live, backupFile);
+    job->m_intoLive = true;
+    return job;
+}
+
+BackupJob::~BackupJob()
+{
+    closeWork();
+    if (!m_done && !m_intoLive)
+        QFile::remove(workFile());
+}
+
+void BackupJob::closeWork()
+{
+    if (m_backup) {
+        sqlite3_backup_finish(m_backup);
+        m_backup = nullptr;
+    }
+    if (m_dest) {
+        sqlite3_close_v2(m_dest);
+        m_dest = nullptr;
+    }
+}
+
+bool BackupJob::fail(int code, const QString &message)
+{
+    m_errorCode = code ? code : SQLITE_ERROR;
+    m_errorMessage = message;
+    closeWork();
+    if (!m_intoLive)
+        QFile::remove(workFile());
+    return false;
+}
+
+bool BackupJob::start()
+{
+    if (!m_source)
+        return fail(SQLITE_MISUSE, QStringLiteral("The season isn't open."));
+    if (m_intoLive) {
+        const QByteArray path = m_target.toUtf8();
+        int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READONLY, nullptr);
+        if (rc != SQLITE_OK)
+            return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+        m_backup = sqlite3_backup_init(m_source, "main", m_dest, "main");
+        if (!m_backup)
+            return fail(sqlite3_errcode(m_source), QString::fromUtf8(sqlite3_errmsg(m_source)));
+        return true;
+    }
+    QFile::remove(workFile());
+    const QByteArray path = workFile().toUtf8();
+    int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (rc != SQLITE_OK)
+        return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+    // The working file is thrown away on any failure, so it needs no journal,
+    // and it is synced once, whole, off the window's thread (checkAndPlace)
+    // rather than by the last copy step.
+    sqlite3_exec(m_dest, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF", nullptr, nullptr, nullptr);
+    m_backup = sqlite3_backup_init(m_dest, "main", m_source, "main");
+    if (!m_backup)
+        return fail(sqlite3_errcode(m_dest), QString::fromUtf8(sqlite3_errmsg(m_dest)));
+    return true;
+}
+
+bool BackupJob::step(int pages)
+{
+    if (!m_backup)
+        return false;
+    const int rc = sqlite3_backup_step(m_backup, pages);
+    if (rc == SQLITE_OK || rc == SQLITE_BUSY || rc == SQLITE_LOCKED)
+        return true; // more to copy, or try again on the next step
+    if (rc == SQLITE_DONE)
+        return false;
+    fail(rc, QString::fromUtf8(sqlite3_errstr(rc)));
+    return false;
+}
+
+double BackupJob::progress() const
+{
+    if (!m_backup)
+        return m_done ? 1.0 : 0.0;
+    const int total = sqlite3_backup_pagecount(m_backup);
+    if (total <= 0)
+        return 0.0;
+    return double(total - sqlite3_backup_remaining(m_backup)) / total;
+}
+
+bool BackupJob::endCopy()
+{
+    if (!m_backup)
+        return false;
+    const int rc = sqlite3_backup_finish(m_backup);
+    m_backup = nullptr;
+    if (rc != SQLITE_OK)
+        return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_intoLive ? m_source : m_dest)));
+    if (m_intoLive) {
+        closeWork();
+        m_done = true;
+    }
+    return true;
+}
+
+bool BackupJob::checkAndPlace()
+{
+    if (m_intoLive)
+        return m_done;
+    if (!m_dest || m_backup)
+        return false;
+    const QString check = integrityOf(m_dest);
+    if (check != u"ok")
+        return fail(SQLITE_CORRUPT, check);
+    sqlite3_close_v2(m_dest);
+    m_dest = nullptr;
+    if (!syncToDisk(workFile()))
+        return fail(SQLITE_IOERR, QStringLiteral("The copy couldn't be written to the disk."));
+    // Replaces the day's earlier copy in one step; until here it stands.
+    std::error_code error;
+    std::filesystem::rename(std::filesystem::path(workFile().toStdU16String()),
+                            std::filesystem::path(m_target.toStdU16String()), error);
+    if (error)
+        return fail(SQLITE_CANTOPEN, QString::fromStdString(error.message()));
+    m_done = true;
+    return true;
+}
+
+bool BackupJob::runToEnd()
+{
+    if (!start())
+        return false;
+    while (step()) {
+    }
+    return m_errorCode == 0 && finish();
+}
+
+BackupPlan planBackup(myPrefs &prefs, const QDate &today)
+{
+    BackupPlan plan;
+    plan.source = QDir(prefs.strdDataLoc).filePath(myDB::getCurDBFileName(prefs.prSeason));
+    if (!QFileInfo::exists(plan.source)) {
+        plan.kind = BackupPlan::NoSource;
+        plan.status = QStringLiteral("Could not find the original data file.");
+        return plan;
+    }
+    QString location = prefs.prDataBackupLoc;
+    if (location.isEmpty())
+        location = prefs.getUserBUFolder();
+    if (location.isEmpty()) {
+        plan.kind = BackupPlan::Cancelled;
+        return plan;
+    }
+    const QString root = parseGSI(location);
+    const QDir backups(QDir(root).filePath(kBackupFolder));
+    if (root.isEmpty() || !backups.exists()) {
+        plan.kind = BackupPlan::NoDestination;
+        plan.status = QStringLiteral("Destination not found");
+        plan.detail = QStringLiteral("Set in the Preferences screen.");
+        return plan;
+    }
+    const QString dateName = dateFolderName(today);
+    if (!backups.exists(dateName) && !backups.mkdir(dateName)) {
+        plan.kind = BackupPlan::Failed;
+        plan.status = QStringLiteral("An unknown error occurred.");
+        return plan;
+    }
+    plan.target = QDir(backups.filePath(dateName)).filePath(QFileInfo(plan.source).fileName());
+    plan.kind = BackupPlan::Ready;
+    return plan;
+}
+
+int compactSeasonFile(const QString &file, QString *message)
+{
+    try {
+        SQLite::Database db(file.toStdString(), SQLite::OPEN_READWRITE);
+        db.setBusyTimeout(5000);
+        db.exec("VACUUM");
+        return 0;
+    } catch (const SQLite::Exception &e) {
+        if (message)
+            *message = QString::fromUtf8(e.what());
+        return e.getErrorCode() ? e.getErrorCode() : SQLITE_ERROR;
+    }
+}
+
+bool isSoundSeasonFile(const QString &file)
+{
+    if (!QFileInfo(file).isFile())
+        return false;
+    try {
+        SQLite::Database db(file.toStdString(), SQLite::OPEN_READONLY);
+        if (integrityOf(db.getHandle()) != u"ok")
+            return false;
+        for (const QString &table : schema::tableNames()) {
+            if (!db.tableExists(table.toStdString()))
+                return false;
+        }
+        return true;
+    } catch (const SQLite::Exception &) {
+        return false;
+    }
+}
+
+} // namespace seasondata

@@ -1,0 +1,607 @@
+// The season-care windows driven as the coach drives them: the new-season
+// sheet from the start screen, backups by the menu and the timer, a
+// restore, the preference screen saved and read back from the file, and the
+// user-defined names at the next start.
+
+#include "SeasonFixture.h"
+#include "app/myDictionaries.h"
+#include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenDirectory.h"
+#include "app/ui/startScrn1.h"
+#include "people/ScreenTestSupport.h"
+#include "reports/ui/qlmListBox.h"
+#include "seasondata/SeasonBackup.h"
+#include "seasondata/ui/TransferDataScrn.h"
+#include "seasondata/ui/UDVStatsScrn.h"
+#include "seasondata/ui/backUpDlog.h"
+#include "seasondata/ui/prefScrn.h"
+#include "support/ui/PlusMinusContainer.h"
+#include "support/ui/qlmCheckBox.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+
+using screentest::choose;
+using screentest::clickHalf;
+
+namespace {
+
+// A session with the windows of the program registered and the start screen up.
+struct Session : SeasonFixture
+{
+    QPointer<startScrn1> start;
+    Session()
+    {
+        backUpDlog::connectTimer(app->BUTimer);
+        start = startScrn1::showStartScreen();
+    }
+    ~Session() { closeAll(); }
+
+    static void closeAll()
+    {
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (auto *dialog = qobject_cast<backUpDlog *>(w); dialog && dialog->isWorking())
+                QTRY_VERIFY(!dialog->isWorking());
+        }
+        QApplication::closeAllWindows();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    template<class W>
+    static W *window(const QString &name)
+    {
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (w->objectName() == name && w->isVisible())
+                return qobject_cast<W *>(w);
+        }
+        return nullptr;
+    }
+    QString chosenDrive()
+    {
+        const QString drive = home.filePath(QStringLiteral("drive"));
+        QDir().mkpath(drive + QStringLiteral("/TLYN2_backup"));
+        return drive;
+    }
+    // Leaves free pages in the season, which a compaction takes away.
+    void leaveFreePages()
+    {
+        gData->runInTransaction([] {
+            for (int i = 0; i < 100; ++i)
+                gData->insert(QStringLiteral("Coaches"), {{QStringLiteral("Last"), QString(1000, u'z')}});
+        });
+        gData->exec(QStringLiteral("DELETE FROM Coaches"));
+    }
+    prefScrn *openPrefs()
+    {
+        QTest::mouseClick(start->findChild<QPushButton *>(QStringLiteral("prefBtn")), Qt::LeftButton);
+        auto *screen = window<prefScrn>(QStringLiteral("prefScrn"));
+        if (screen)
+            screentest::showActive(screen);
+        return screen;
+    }
+};
+
+void typeInCell(qlmListBox *list, const QString &text, Qt::Key then)
+{
+    list->setEditorText(text);
+    QTest::keyClick(QApplication::focusWidget(), then);
+}
+
+// A preference as the file gives it back; the lists' two halves joined by "|".
+QString field(const myPrefs &p, const QString &name)
+{
+    const auto flag = [](bool on) { return on ? QStringLiteral("1") : QStringLiteral("0"); };
+    if (name == u"prLogoOnStart") return flag(p.prLogoOnStart);
+    if (name == u"prLogoOnReport") return flag(p.prLogoOnReport);
+    if (name == u"prInnings") return p.prInnings;
+    if (name == u"prLineUp") return p.prLineUp;
+    if (name == u"prHomeTeam") return p.prHomeTeam;
+    if (name == u"prBackupFreq") return QString::number(p.prBackupFreq);
+    if (name == u"positions") return p.prAbbrevPos + u'|' + p.prPositions;
+    if (name == u"prGameTypes") return p.prGameTypes;
+    if (name == u"prDataBackupLoc") return parseGSI(p.prDataBackupLoc);
+    if (name == u"user-defined") return p.prUDB.section(u'\t', 0, 1) + u'\t' + p.prUDF.section(u'\t', 5, 5);
+    return QStringLiteral("no field ") + name;
+}
+
+} // namespace
+
+class TestSeasonDataUi : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        screens::registerScreen(ScreenId::TransferDataScrn, [] { return new TransferDataScrn; });
+        screens::registerScreen(ScreenId::backUpDlog, [] { return new backUpDlog(backUpDlog::Mode::Backup); });
+        screens::registerScreen(ScreenId::restoreDlog, [] { return new backUpDlog(backUpDlog::Mode::Restore); });
+        screens::registerScreen(ScreenId::prefScrn, screens::Factory([](const QVariant &fromStart) {
+                                    return new prefScrn(!fromStart.isValid() || fromStart.toBool());
+                                }));
+    }
+
+    void newSeasonSheet()
+    {
+        Session f;
+        const qint64 lions = f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
+        f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
+        const qint64 owls = f.addTeam(QStringLiteral("O'Brien's"), QStringLiteral("Owls"));
+        gData->insert(QStringLiteral("TeamInventory"), {{QStringLiteral("teamID"), QString::number(lions)}});
+
+        QTest::mouseClick(f.start->findChild<QPushButton *>(QStringLiteral("newSeasonBtn")), Qt::LeftButton);
+        QPointer<TransferDataScrn> sheet = f.start->findChild<TransferDataScrn *>();
+        QVERIFY(sheet && sheet->isVisible());
+        QCOMPARE(sheet->windowModality(), Qt::WindowModal);
+        QCOMPARE(sheet->fromLB->rowCount(), 3);
+        QCOMPARE(sheet->fromLB->cell(2, 0), QStringLiteral("O'Brien's Owls"));
+
+        // The lists slide in and out over a quarter second.
+        const int small = sheet->height();
+        QTest::mouseClick(sheet->transferRadio, Qt::LeftButton);
+        QVERIFY(!sheet->createBtn->isVisible());
+        QTRY_COMPARE(sheet->height(), small + TransferDataScrn::kListsHeight);
+        QTest::mouseClick(sheet->emptyRadio, Qt::LeftButton);
+        QTRY_COMPARE(sheet->height(), small);
+        QTRY_VERIFY(!sheet->teamArea->isVisible());
+        QTest::mouseClick(sheet->transferRadio, Qt::LeftButton);
+        QTRY_COMPARE(sheet->height(), small + TransferDataScrn::kListsHeight);
+
+        QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
+        QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Please add teams for transferring")});
+
+        QVERIFY(!sheet->addBtn->isEnabled());
+        sheet->fromLB->setSelectedRow(0);
+        QVERIFY(sheet->addBtn->isEnabled());
+        QTest::mouseClick(sheet->addBtn, Qt::LeftButton);
+        QTest::mouseClick(sheet->addAllBtn, Qt::LeftButton);
+        QCOMPARE(sheet->fromLB->rowCount(), 0);
+        sheet->toLB->setSelectedRow(1);
+        QTest::mouseClick(sheet->removeBtn, Qt::LeftButton);
+        QCOMPARE(sheet->fromLB->rowCount(), 1);
+        QCOMPARE(sheet->fromLB->cell(0, 0), QStringLiteral("Central Cubs"));
+        QCOMPARE(sheet->toLB->rowTag(1), QString::number(owls));
+
+        screentest::typeInto(sheet->newNameFld, QStringLiteral("2027"));
+        QTest::mouseClick(sheet->transInvCheck, Qt::LeftButton);
+        f.fake.messages.clear();
+        QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
+        QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("The transfer was successful")});
+        QCOMPARE(f.count(QStringLiteral("Teams")), 2);
+        QCOMPARE(f.count(QStringLiteral("TeamInventory")), 1);
+        QCOMPARE(sheet->TransferBtn->text(), QStringLiteral("Close"));
+        QVERIFY(!sheet->addAllBtn->isEnabled());
+
+        QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
+        QTRY_VERIFY(!sheet);
+        QCOMPARE(f.start->SelectSeasonPop->currentText(), QStringLiteral("2027"));
+    }
+
+    void emptySeasonSheet()
+    {
+        Session f;
+        QTest::mouseClick(f.start->findChild<QPushButton *>(QStringLiteral("newSeasonBtn")), Qt::LeftButton);
+        QPointer<TransferDataScrn> sheet = f.start->findChild<TransferDataScrn *>();
+        QVERIFY(sheet);
+        QTest::mouseClick(sheet->createBtn, Qt::LeftButton);
+        QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Please provide a name for the new season.")});
+        QVERIFY(sheet->isVisible());
+        screentest::typeInto(sheet->newNameFld, QStringLiteral("Fall Ball"));
+        QTest::mouseClick(sheet->createBtn, Qt::LeftButton);
+        QTRY_VERIFY(!sheet);
+        QCOMPARE(gPrefs->prSeason, QStringLiteral("Fall Ball"));
+        QVERIFY(QFileInfo::exists(f.seasonFile(QStringLiteral("Fall Ball"))));
+        QCOMPARE(f.start->SelectSeasonPop->currentText(), QStringLiteral("Fall Ball"));
+        f.restart();
+        QCOMPARE(gPrefs->prSeason, QStringLiteral("Fall Ball"));
+    }
+
+    void backupDialog_data()
+    {
+        QTest::addColumn<QString>("location"); // "drive", "removed", "none", "ask"
+        QTest::addColumn<int>("daysSinceCompaction");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<QString>("detail");
+        QTest::addColumn<bool>("copied");
+        QTest::addColumn<bool>("compacted");
+
+        QTest::newRow("a backup") << "drive" << 0 << "Backup was successful" << "" << true << false;
+        QTest::newRow("compaction not yet due at 14 days")
+            << "drive" << 14 << "Backup was successful" << "" << true << false;
+        QTest::newRow("compaction due after 14 days")
+            << "drive" << 15 << "Backup was successful" << "" << true << true;
+        QTest::newRow("backup drive removed")
+            << "removed" << 0 << "Destination not found" << "Set in the Preferences screen." << false << false;
+        QTest::newRow("no location, the coach picks one") << "ask" << 0 << "Backup was successful" << "" << true << false;
+        QTest::newRow("no location, the coach cancels") << "none" << 0 << "" << "" << false << false;
+    }
+
+    void backupDialog()
+    {
+        QFETCH(QString, location);
+        QFETCH(int, daysSinceCompaction);
+        QFETCH(QString, status);
+        QFETCH(QString, detail);
+        QFETCH(bool, copied);
+        QFETCH(bool, compacted);
+
+        Session f;
+        f.leaveFreePages();
+        const QString drive = f.chosenDrive();
+        if (location == u"drive")
+            gPrefs->prDataBackupLoc = createGSI(drive);
+        if (location == u"removed")
+            gPrefs->prDataBackupLoc = createGSI(f.home.filePath(QStringLiteral("unplugged")));
+        if (location == u"ask")
+            f.fake.files.answers.enqueue(drive);
+        const double now = double(f.fake.clock.time.toSecsSinceEpoch());
+        // "15" stands for one second past the 14 days.
+        gPrefs->prLastDBClean = daysSinceCompaction == 15 ? now - 14 * 86400.0 - 1 : now - daysSinceCompaction * 86400.0;
+
+        const double lastClean = gPrefs->prLastDBClean;
+        QAction *item = f.start->menuBar()->item(QStringLiteral("FileBackup"));
+        QVERIFY(item->isEnabled());
+        item->trigger();
+        QPointer<backUpDlog> dialog = Session::window<backUpDlog>(QStringLiteral("backUpDlog"));
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowModality(), Qt::ApplicationModal);
+        if (location == u"none") {
+            QTRY_VERIFY(!dialog);
+            QVERIFY(!QDir(drive + QStringLiteral("/TLYN2_backup")).exists(seasondata::dateFolderName(QDate(2026, 4, 15))));
+            return;
+        }
+        if (compacted)
+            QTRY_COMPARE(dialog->statusLbl->text(), QStringLiteral("Cleaning up the database..."));
+        QTRY_VERIFY_WITH_TIMEOUT(dialog->CloseBtn->isVisible(), 10000);
+        QCOMPARE(dialog->statusLbl->text(), status);
+        QCOMPARE(dialog->detailLbl->text(), detail);
+        QVERIFY(dialog->CloseBtn->isVisible());
+
+        const QString copy = drive + QStringLiteral("/TLYN2_backup/") +
+                             seasondata::dateFolderName(f.fake.clock.time.date()) + u'/' +
+                             myDB::getCurDBFileName(gPrefs->prSeason);
+        QCOMPARE(QFileInfo::exists(copy), copied);
+        QCOMPARE(gData->scalar(QStringLiteral("PRAGMA freelist_count")).toInt() == 0, compacted);
+        QCOMPARE(gPrefs->prLastDBClean != lastClean, compacted);
+        if (compacted)
+            QCOMPARE(gPrefs->prLastDBClean, now);
+        if (copied)
+            QCOMPARE(seasondata::isSoundSeasonFile(copy), true);
+    }
+
+    void timerOpensTheBackup()
+    {
+        Session f;
+        gPrefs->prDataBackupLoc = createGSI(f.chosenDrive());
+        gPrefs->prBackupFreq = 5;
+        for (int minute = 1; minute < 5; ++minute)
+            f.app->BUTimer->Event_Action();
+        QVERIFY(!Session::window<backUpDlog>(QStringLiteral("backUpDlog")));
+        f.app->BUTimer->Event_Action();
+        QPointer<backUpDlog> dialog = Session::window<backUpDlog>(QStringLiteral("backUpDlog"));
+        QVERIFY(dialog);
+        QTRY_COMPARE(dialog->statusLbl->text(), QStringLiteral("Backup was successful"));
+        QTRY_COMPARE(dialog->detailLbl->text(), QStringLiteral("Closing in 5 secs."));
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog, 8000);
+    }
+
+    void restoreByMenu_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("sound");
+        QTest::addColumn<QString>("status");
+        QTest::newRow("the coach restores") << int(platform::MsgAction) << true << "The season was restored.";
+        QTest::newRow("the coach cancels") << int(platform::MsgCancel) << true << "";
+        QTest::newRow("a file that isn't a season")
+            << int(platform::MsgAction) << false << "The season could not be restored.";
+    }
+    void restoreByMenu()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, sound);
+        QFETCH(QString, status);
+        Session f;
+        f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
+        const QString backup = f.home.filePath(QStringLiteral("tlData_old.sqlite"));
+        seasondata::BackupJob job(gData->tlynData->getHandle(), backup);
+        QVERIFY(job.runToEnd());
+        if (!sound)
+            QFile::resize(backup, 3000);
+        const QStringList backedUp = f.dump(*gData, QStringLiteral("Teams"));
+        f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
+        const QStringList later = f.dump(*gData, QStringLiteral("Teams"));
+
+        f.fake.files.answers.enqueue(backup);
+        f.fake.messages.answers.enqueue(std::uint8_t(answer));
+        QAction *item = f.start->menuBar()->item(QStringLiteral("FileRestore"));
+        QVERIFY(item->isEnabled());
+        item->trigger();
+        QTRY_COMPARE(f.fake.messages.shown.size(), 1);
+        QVERIFY(f.fake.messages.shown.first().message.startsWith(QStringLiteral("Replace the season ")));
+        QPointer<backUpDlog> dialog = Session::window<backUpDlog>(QStringLiteral("restoreDlog"));
+        if (status.isEmpty())
+            QTRY_VERIFY(!dialog);
+        else
+            QTRY_COMPARE(dialog->statusLbl->text(), status);
+        const bool restored = status == u"The season was restored.";
+        QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), restored ? backedUp : later);
+        // The season as it stood is kept first, and only when it is replaced.
+        const QStringList kept = QDir(f.dataFolder()).entryList({QStringLiteral("*.kept")}, QDir::Files);
+        QCOMPARE(kept.size(), restored ? 1 : 0);
+        if (restored) {
+            SQLite::Database copy(QDir(f.dataFolder()).filePath(kept.first()).toStdString(), SQLite::OPEN_READONLY);
+            QCOMPARE(copy.execAndGet("SELECT COUNT(*) FROM Teams").getInt(), int(later.size()));
+        }
+        // The restored season is what the program opens next time.
+        f.restart();
+        QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), restored ? backedUp : later);
+    }
+
+    void preferencesSavedAndReadBack_data()
+    {
+        QTest::addColumn<QString>("stored");  // "field=value" put in the preferences first
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("input");   // a row's text; list rows "cell|cell", several by "/"
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("expected"); // {a} {p} {g}: the stored lists before; {drive}
+
+        QTest::newRow("LogoOnStartCheck") << "" << "LogoOnStartCheck" << "click" << "prLogoOnStart" << "0";
+        QTest::newRow("LogoOnReportsCheck by Space") << "" << "LogoOnReportsCheck" << "space" << "prLogoOnReport"
+                                                     << "0";
+        QTest::newRow("InnPerGamePop") << "" << "InnPerGamePop" << "7 Innings" << "prInnings" << "7 Innings";
+        QTest::newRow("maxLineupPop") << "" << "maxLineupPop" << "15 Players" << "prLineUp" << "15 Players";
+        QTest::newRow("homeTeamPop") << "" << "homeTeamPop" << "Central Cubs" << "prHomeTeam" << "2";
+        QTest::newRow("backupPop") << "" << "backupPop" << "30 min." << "prBackupFreq" << "30";
+        QTest::newRow("backupPop, 7 isn't offered") << "prBackupFreq=7" << "backupPop" << "" << "prBackupFreq" << "0";
+        QTest::newRow("PositionLB, typed commas go") << "" << "PositionLB" << "D,H2|Designated, Hitter"
+                                                     << "positions" << "{a},DH2|{p},Designated Hitter";
+        QTest::newRow("PositionLB, a row removed") << "prAbbrevPos=C,SS" << "PositionLB" << "-" << "positions"
+                                                   << "SS|Shortstop";
+        QTest::newRow("PositionLB, lists of different lengths")
+            << "prPositions=Pitcher" << "PositionLB" << "" << "positions" << "Data Error|";
+        QTest::newRow("gameTypeLB, a typed and an empty row") << "" << "gameTypeLB" << "Scrim,mage/" << "prGameTypes"
+                                                              << "{g},Scrimmage,";
+        QTest::newRow("setBULocBtn") << "" << "setBULocBtn" << "" << "prDataBackupLoc" << "{drive}";
+        QTest::newRow("setUDVBtn") << "" << "setUDVBtn" << "\tDiving\tcatches" << "user-defined"
+                                   << "--\tCaught Stealing\tDiving catches";
+    }
+    void preferencesSavedAndReadBack()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QString, control);
+        QFETCH(QString, input);
+        QFETCH(QString, field);
+        QFETCH(QString, expected);
+        Session f;
+        f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
+        f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
+        if (stored.startsWith(u"prBackupFreq"))
+            gPrefs->prBackupFreq = stored.section(u'=', 1).toInt();
+        if (stored.startsWith(u"prAbbrevPos")) {
+            gPrefs->prAbbrevPos = stored.section(u'=', 1);
+            gPrefs->prPositions = QStringLiteral("Catcher,Shortstop");
+        }
+        if (stored.startsWith(u"prPositions"))
+            gPrefs->prPositions = stored.section(u'=', 1);
+        const QString drive = f.home.filePath(QStringLiteral("stick"));
+        expected.replace(QStringLiteral("{a}"), gPrefs->prAbbrevPos)
+            .replace(QStringLiteral("{p}"), gPrefs->prPositions)
+            .replace(QStringLiteral("{g}"), gPrefs->prGameTypes)
+            .replace(QStringLiteral("{drive}"), drive);
+        QPointer<prefScrn> screen = f.openPrefs();
+        QVERIFY(screen);
+        QTRY_VERIFY(!f.start);
+
+        QWidget *w = screen->findChild<QWidget *>(control);
+        if (auto *box = qobject_cast<QComboBox *>(w); box && !input.isEmpty()) {
+            QVERIFY(choose(box, input));
+        } else if (auto *check = qobject_cast<qlmCheckBox *>(w)) {
+            check->setFocus();
+            input == u"click" ? QTest::mouseClick(check, Qt::LeftButton) : QTest::keyClick(check, Qt::Key_Space);
+        } else if (auto *list = qobject_cast<qlmListBox *>(w); list && !input.isEmpty()) {
+            PlusMinusContainer *pair = list == screen->PositionLB ? screen->PlusMinusPositions : screen->plusMinusGames;
+            if (input == u"-") {
+                list->setSelectedRow(0);
+                clickHalf(pair, false);
+            }
+            for (const QString &row : input == u"-" ? QStringList() : input.split(u'/')) {
+                clickHalf(pair, true);
+                const QStringList cells = row.split(u'|');
+                for (int c = 0; c < cells.size(); ++c)
+                    typeInCell(list, cells.at(c), c + 1 < cells.size() ? Qt::Key_Tab : Qt::Key_Return);
+            }
+        } else if (control == u"setBULocBtn") {
+            QDir().mkpath(drive);
+            f.fake.files.answers.enqueue(drive);
+            QTest::mouseClick(screen->setBULocBtn, Qt::LeftButton);
+            QCOMPARE(screen->backupLocFld->text(), QDir::toNativeSeparators(drive));
+            QVERIFY(QDir(drive).exists(QStringLiteral("TLYN2_backup")));
+        } else if (control == u"setUDVBtn") {
+            QTest::mouseClick(screen->setUDVBtn, Qt::LeftButton);
+            auto *sheet = screen->findChild<UDVStatsScrn *>();
+            QVERIFY(sheet && sheet->windowModality() == Qt::WindowModal);
+            sheet->batAbbrev.at(0)->setText(input.section(u'\t', 0, 0));
+            sheet->fldDesc.at(2)->setText(input.section(u'\t', 1));
+            QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
+        }
+        if (control == u"InnPerGamePop")
+            QCOMPARE(screen->SelectedInnings, 7);
+        QTest::mouseClick(screen->prefsavebutton, Qt::LeftButton);
+        QTRY_VERIFY(!screen);
+        QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
+
+        QCOMPARE(::field(myPrefs(f.dataRoot()), field), expected);
+    }
+
+    void returnKey_data()
+    {
+        QTest::addColumn<bool>("fromStart");
+        QTest::addColumn<QString>("focus"); // where Return is pressed
+        QTest::addColumn<QString>("innings"); // in the file after the restart
+        QTest::newRow("from the start screen") << true << "InnPerGamePop" << "9 Innings";
+        QTest::newRow("over another screen") << false << "InnPerGamePop" << "9 Innings";
+        QTest::newRow("on the Save button") << true << "prefsavebutton" << "5 Innings";
+    }
+    void returnKey()
+    {
+        QFETCH(bool, fromStart);
+        QFETCH(QString, focus);
+        QFETCH(QString, innings);
+        Session f;
+        f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
+        const QString cubs = QString::number(f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs")));
+        f.start->hide();
+        QPointer<prefScrn> screen = qobject_cast<prefScrn *>(screens::create(ScreenId::prefScrn, fromStart));
+        screentest::showActive(screen);
+        choose(screen->InnPerGamePop, QStringLiteral("5 Innings"));
+        choose(screen->homeTeamPop, QStringLiteral("Central Cubs"));
+        QWidget *at = screen->findChild<QWidget *>(focus);
+        at->setFocus();
+        QTest::keyClick(at, Qt::Key_Return);
+        QTRY_VERIFY(!screen);
+        QCOMPARE(f.start->isVisible(), fromStart);
+
+        // The home team acted at once and survives the restart; the innings
+        // only when saved.
+        f.restart();
+        QCOMPARE(gPrefs->prHomeTeam, cubs);
+        QCOMPARE(gPrefs->prInnings, innings);
+    }
+
+    void userDefinedNamesAtNextStart_data()
+    {
+        QTest::addColumn<QStringList>("abbrevs"); // the five batting abbreviations typed
+        QTest::addColumn<QString>("description"); // typed as every batting description
+        QTest::addColumn<QStringList>("keys");     // hitD's user-defined keys at the next start
+        QTest::addColumn<QList<int>>("indexes");
+        QTest::addColumn<bool>("shortened");
+
+        QTest::newRow("new names") << QStringList{"XBH", "RISP", "HSP", "TOH", "QAB"} << "Counted"
+                                   << QStringList{"XBH", "RISP", "HSP", "TOH", "QAB"} << QList<int>{21, 22, 23, 24, 25}
+                                   << false;
+        QTest::newRow("two empty abbreviations share one key at the later slot")
+            << QStringList{"", "RISP", "", "TOH", "QAB"} << "Counted" << QStringList{"--", "RISP", "TOH", "QAB"}
+            << QList<int>{23, 22, 24, 25} << false;
+        QTest::newRow("descriptions too long for the field")
+            << QStringList{"XBH", "RISP", "HSP", "TOH", "QAB"} << QString(80, u'd')
+            << QStringList{"XBH", "RISP", "HSP", "TOH", "QAB"} << QList<int>{21, 22, 23, 24, 25} << true;
+    }
+    void userDefinedNamesAtNextStart()
+    {
+        QFETCH(QStringList, abbrevs);
+        QFETCH(QString, description);
+        QFETCH(QStringList, keys);
+        QFETCH(QList<int>, indexes);
+        QFETCH(bool, shortened);
+
+        Session f;
+        QPointer<prefScrn> screen = f.openPrefs();
+        QTest::mouseClick(screen->setUDVBtn, Qt::LeftButton);
+        QPointer<UDVStatsScrn> sheet = screen->findChild<UDVStatsScrn *>();
+        QVERIFY(sheet);
+        for (int i = 0; i < 5; ++i) {
+            sheet->batAbbrev.at(i)->setText(abbrevs.at(i));
+            sheet->batDesc.at(i)->setText(description);
+        }
+        QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
+        QTRY_VERIFY(!sheet);
+        QCOMPARE(!f.fake.messages.shown.isEmpty(), shortened);
+        // The dictionaries change only at the next start.
+        QVERIFY(hitD.hasKey(QStringLiteral("CS")));
+        screen->close();
+        f.restart();
+
+        QVERIFY(gPrefs->prUDB.toUtf8().size() <= myPrefs::kPascalMax);
+        QCOMPARE(gPrefs->prUDB.split(u'\t').size(), 10);
+        QCOMPARE(hitD.keys().mid(hitD.keys().size() - keys.size()), keys);
+        for (int i = 0; i < keys.size(); ++i)
+            QCOMPARE(hitD.value(keys.at(i)), indexes.at(i));
+        QVERIFY(!hitD.hasKey(QStringLiteral("CS")));
+    }
+
+    void mailDoor_data()
+    {
+        QTest::addColumn<bool>("registered");
+        QTest::newRow("mail settings not built in") << false;
+        QTest::newRow("mail settings there") << true;
+    }
+    void mailDoor()
+    {
+        QFETCH(bool, registered);
+        if (registered) {
+            screens::registerScreen(ScreenId::emailInfoScrn, [] {
+                auto *mail = new QWidget;
+                mail->setObjectName(QStringLiteral("emailInfoScrn"));
+                mail->setAttribute(Qt::WA_DeleteOnClose);
+                return mail;
+            });
+        }
+        Session f;
+        QPointer<prefScrn> screen = f.openPrefs();
+        QCOMPARE(screen->setEmailBtn->isEnabled(), registered);
+        if (registered) {
+            QTest::mouseClick(screen->setEmailBtn, Qt::LeftButton);
+            QWidget *mail = Session::window<QWidget>(QStringLiteral("emailInfoScrn"));
+            QVERIFY(mail);
+            gPrefs->prEmailUser = QStringLiteral("coach@example.org");
+            mail->close();
+            QTRY_COMPARE(screen->emailAddrFld->text(), QStringLiteral("coach@example.org"));
+            screens::unregisterScreen(ScreenId::emailInfoScrn);
+        }
+    }
+
+    void everyControlHasANameAndTheKeyboard_data()
+    {
+        QTest::addColumn<QString>("window");
+        QTest::newRow("TransferDataScrn") << "TransferDataScrn";
+        QTest::newRow("prefScrn") << "prefScrn";
+        QTest::newRow("UDVStatsScrn") << "UDVStatsScrn";
+        QTest::newRow("backUpDlog") << "backUpDlog";
+    }
+    void everyControlHasANameAndTheKeyboard()
+    {
+        QFETCH(QString, window);
+        Session f;
+        gPrefs->prDataBackupLoc = createGSI(f.chosenDrive());
+        QWidget *w = nullptr;
+        if (window == u"TransferDataScrn") {
+            w = new TransferDataScrn;
+            static_cast<TransferDataScrn *>(w)->teamArea->show();
+        } else if (window == u"prefScrn") {
+            w = new prefScrn;
+        } else if (window == u"UDVStatsScrn") {
+            w = new UDVStatsScrn;
+        } else {
+            auto *dialog = new backUpDlog;
+            dialog->show();
+            QTRY_VERIFY(dialog->CloseBtn->isVisible());
+            w = dialog;
+        }
+        w->show();
+        int controls = 0;
+        for (QWidget *child : w->findChildren<QWidget *>()) {
+            if (!child->isVisibleTo(w) || child->focusPolicy() == Qt::NoFocus || child->inherits("QMenuBar")
+                || child->inherits("QLabel") || child->parentWidget()->inherits("QAbstractScrollArea"))
+                continue;
+            ++controls;
+            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(child);
+            QVERIFY2(face && !face->text(QAccessible::Name).isEmpty(), qPrintable(child->objectName()));
+            QVERIFY2(child->focusPolicy() & Qt::TabFocus, qPrintable(child->objectName()));
+        }
+        QVERIFY(controls > 0);
+        w->close();
+    }
+};
+
+QTEST_MAIN(TestSeasonDataUi)
+#include "tst_seasondataui.moc"

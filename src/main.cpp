@@ -5,9 +5,13 @@
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
+#include "people/ui/InventoryScrn.h"
+#include "people/ui/contactInfoScrn.h"
+#include "people/ui/emailInfoScrn.h"
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
+#include "schedule/ui/practicePlanScrn.h"
 #include "schedule/ui/scheduleScrn.h"
 
 namespace {
@@ -18,6 +22,12 @@ void registerScreens()
     screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
     screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::InventoryScrn, [] { return new InventoryScrn; });
+    screens::registerScreen(ScreenId::contactInfoScrn, [] { return new contactInfoScrn; });
+    // A modal dialog: the opener runs it, reads "rtrnEmail" and deletes it.
+    screens::registerScreen(ScreenId::emailInfoScrn, [] { return new emailInfoScrn; });
+    screens::registerScreen(ScreenId::practicePlanScrn,
+                            [](const QVariant &eventID) { return new practicePlanScrn(eventID.toString()); });
 }
 
 } // namespace

@@ -35,5 +35,6 @@ PrintService &printing() { return need(g_services.printing, "printing"); }
 UrlOpener &urls() { return need(g_services.urls, "urls"); }
 Beeper &beeper() { return need(g_services.beeper, "beeper"); }
 Clock &clock() { return need(g_services.clock, "clock"); }
+SecretStore &secrets() { return need(g_services.secrets, "secrets"); }
 
 } // namespace platform

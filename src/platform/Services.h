@@ -4,6 +4,7 @@
 #include "platform/FileDialogs.h"
 #include "platform/Messages.h"
 #include "platform/Printing.h"
+#include "platform/SecretStore.h"
 
 namespace platform {
 
@@ -18,6 +19,7 @@ struct Services
     UrlOpener *urls = nullptr;
     Beeper *beeper = nullptr;
     Clock *clock = nullptr;
+    SecretStore *secrets = nullptr;
 };
 
 // Installs a set of services and returns the set that was there before.
@@ -32,6 +34,7 @@ PrintService &printing();
 UrlOpener &urls();
 Beeper &beeper();
 Clock &clock();
+SecretStore &secrets();
 
 // Installs a set for the life of a scope, then puts the previous one back.
 class ScopedServices

@@ -97,7 +97,7 @@ std::unique_ptr<platform::PrintJob> PdfPrintService::printDialog(const platform:
 
 FakePlatform::FakePlatform(const QString &printDirectory) : printing(printDirectory)
 {
-    m_previous = platform::install({&messages, &files, &printing, &urls, &beeper, &clock});
+    m_previous = platform::install({&messages, &files, &printing, &urls, &beeper, &clock, &secrets});
 }
 
 FakePlatform::~FakePlatform()

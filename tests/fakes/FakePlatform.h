@@ -5,6 +5,7 @@
 
 #include "platform/Services.h"
 
+#include <QHash>
 #include <QList>
 #include <QQueue>
 #include <QStringList>
@@ -105,6 +106,38 @@ public:
     QDateTime now() const override { return time; }
 };
 
+// The desktop's secret store: a map of secrets, or no answer at all while
+// `answers` is false (a build machine, a bare desktop).
+class FakeSecretStore final : public platform::SecretStore
+{
+public:
+    bool answers = true;
+    QHash<QString, QString> secrets;
+    int writes = 0;
+
+    ReadResult readSecret(const QString &key) override
+    {
+        if (!answers)
+            return {};
+        if (!secrets.contains(key))
+            return {Status::Missing, {}};
+        return {Status::Found, secrets.value(key)};
+    }
+    bool writeSecret(const QString &key, const QString &secret) override
+    {
+        ++writes;
+        if (answers)
+            secrets.insert(key, secret);
+        return answers;
+    }
+    bool deleteSecret(const QString &key) override
+    {
+        if (answers)
+            secrets.remove(key);
+        return answers;
+    }
+};
+
 // All fakes together, installed for the life of the object.
 class FakePlatform
 {
@@ -120,6 +153,7 @@ public:
     FakeUrlOpener urls;
     FakeBeeper beeper;
     FixedClock clock;
+    FakeSecretStore secrets;
 
 private:
     platform::Services m_previous;

@@ -2,6 +2,7 @@
 
 #include "platform/Services.h"
 #include "platform/SystemClock.h"
+#include "platform/qt/QtSecretStore.h"
 
 namespace platform::qt {
 
@@ -50,8 +51,9 @@ struct QtServices
     QtUrlOpener urls;
     QtBeeper beeper;
     SystemClock clock;
+    QtSecretStore secrets;
 
-    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock}; }
+    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock, &secrets}; }
 };
 
 } // namespace platform::qt

@@ -108,6 +108,13 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     connect(deleteEvBtn, &QPushButton::clicked, this, &scheduleScrn::deleteEvent);
     connect(printBtn, &QPushButton::clicked, this, &scheduleScrn::doPrintSchedule);
     connect(exportBtn, &QPushButton::clicked, this, &scheduleScrn::exportSchedule);
+    connect(enterDataBtn, &QPushButton::clicked, this, [this] {
+        const int row = ScheduleListbox->selectedRow();
+        if (row < 0 || enterDataBtn->text() != u"Practice Plan")
+            return;
+        if (QWidget *plan = screens::create(ScreenId::practicePlanScrn, ScheduleListbox->rowTag(row)))
+            plan->show();
+    });
     connect(viewCalendarBtn, &QPushButton::clicked, this, [] {
         if (QWidget *calendar = screens::create(ScreenId::eventsCalendarScrn))
             calendar->show();
@@ -201,9 +208,9 @@ void scheduleScrn::selectionChanged()
     deleteEvBtn->setEnabled(row >= 0);
     enterDataBtn->setText(row >= 0 ? ScheduleList::dataButtonCaption(ScheduleListbox->cell(row, 3))
                                    : QStringLiteral("---"));
-    // The game screen and the practice plans aren't part of the program
-    // yet: the caption tells what the event has, the button stays off.
-    enterDataBtn->setEnabled(false);
+    // The caption tells what the event has; the button opens what is part
+    // of the program already.
+    enterDataBtn->setEnabled(enterDataBtn->text() == u"Practice Plan" && screens::has(ScreenId::practicePlanScrn));
     schedIDLabel->setText(row >= 0 ? QStringLiteral("Schedule ID = ") + ScheduleListbox->rowTag(row)
                                    : QStringLiteral("No Selection"));
 }

@@ -75,6 +75,8 @@ void practicePlanScrn::buildControls()
     }
     for (QComboBox *box : {activityBox, drillBox, coachBox})
         box->setMinimumContentsLength(16);
+    for (QComboBox *box : {startBox, endBox})
+        box->setMinimumContentsLength(8);
     boxes->addWidget(form::buddyLabel(activityBox, QStringLiteral("&1 - Pick Activity"), central), 0, 0);
     boxes->addWidget(form::buddyLabel(drillBox, QStringLiteral("&2 - Pick Drill"), central), 0, 1);
     boxes->addWidget(form::buddyLabel(startBox, QStringLiteral("&TIme Blocks"), central), 0, 2, 1, 2);

@@ -5,6 +5,7 @@
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
+#include "people/MailSettings.h"
 #include "people/ui/InventoryScrn.h"
 #include "people/ui/contactInfoScrn.h"
 #include "people/ui/emailInfoScrn.h"
@@ -45,6 +46,8 @@ int main(int argc, char *argv[])
     if (app.Event_Open() != App::OpenResult::Ok)
         return 0;
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &app, &App::Event_Close);
+    // The mail password lives in the desktop's secret store, not in the file.
+    people::MailSettings::moveOldPassword(*app.prefs());
 
     auto *splash = new splashScrn;
     splash->show();

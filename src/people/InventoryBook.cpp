@@ -1,5 +1,6 @@
 #include "people/InventoryBook.h"
 
+#include "app/FileTypes.h"
 #include "app/globals.h"
 #include "app/myDB.h"
 #include "support/NumberKeyRule.h"
@@ -278,7 +279,7 @@ InventoryBook::ImportResult InventoryBook::importInvItems(const QByteArray &byte
 InventoryBook::ImportResult InventoryBook::importInvFile(const QString &path)
 {
     // A file of another type is ignored, as the file dialog offers text only.
-    if (!QMimeDatabase().mimeTypeForFile(path).inherits(QStringLiteral("text/plain")))
+    if (!FileTypes::pText.matches(path) && !QMimeDatabase().mimeTypeForFile(path).inherits(QStringLiteral("text/plain")))
         return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxImportBytes)

@@ -28,6 +28,7 @@ MailSettings MailSettings::load(const myPrefs &prefs)
     s.port = QString::number(prefs.prEmailPort);
     s.auth = prefs.prEmailAuth;
     const platform::SecretStore::ReadResult stored = platform::secrets().readSecret(kPasswordKey);
+    s.sessionOnly = stored.status == platform::SecretStore::Status::NoAnswer;
     if (stored.status == platform::SecretStore::Status::Found)
         s.password = stored.secret;
     else if (!sessionPassword().isEmpty())
@@ -55,6 +56,17 @@ quint16 MailSettings::portNumber() const
     return quint16(limitValueRange(support::numberFieldValue(port.trimmed()), 0, 65535));
 }
 
+void MailSettings::moveOldPassword(myPrefs &prefs)
+{
+    if (prefs.prEmailPW.isEmpty())
+        return;
+    const QString old = prefs.prEmailPW;
+    prefs.prEmailPW.clear();
+    prefs.prefsDirty = true;
+    if (!platform::secrets().writeSecret(kPasswordKey, old))
+        sessionPassword() = old;
+}
+
 bool MailSettings::save(myPrefs &prefs) const
 {
     prefs.prEmailServer = server.trimmed();
@@ -69,11 +81,6 @@ bool MailSettings::save(myPrefs &prefs) const
     const bool kept = secret.isEmpty() ? store.deleteSecret(kPasswordKey) : store.writeSecret(kPasswordKey, secret);
     sessionPassword() = kept ? QString() : secret;
     return kept;
-}
-
-bool MailSettings::secretStoreAnswers()
-{
-    return platform::secrets().readSecret(kPasswordKey).status != platform::SecretStore::Status::NoAnswer;
 }
 
 QString MailSettings::sessionOnlyNote()

@@ -20,6 +20,9 @@ struct MailSettings
     QString password;
     QString port; // as typed
     bool auth = false;
+    // Set by load() when no secret store answered: the password lasts
+    // only until the program quits.
+    bool sessionOnly = false;
 
     // The settings as stored, with the password from the secret store (or
     // the session, or a preference file of an older version).
@@ -33,11 +36,14 @@ struct MailSettings
     // password is kept for this session only.
     bool save(myPrefs &prefs) const;
 
+    // A password that an older version left in the preference file moves to
+    // the secret store (or, with none answering, to this session), and the
+    // file's field is emptied. Run once at start.
+    static void moveOldPassword(myPrefs &prefs);
+
     // The port as stored: the number the text begins with, within 0..65535.
     quint16 portNumber() const;
 
-    // Whether the desktop's secret store answers.
-    static bool secretStoreAnswers();
     // Said in the settings window where no secret store answers.
     static QString sessionOnlyNote();
 };

@@ -165,7 +165,14 @@ private Q_SLOTS:
         Session s;
         s.fake.secrets.answers = storeAnswers;
         const QString password = QStringLiteral("Sl1der&Curve#9");
-        gPrefs->prEmailPW = QStringLiteral("older-version-pw"); // as an older version left it
+        // An older version left a password in the file; the start moves it.
+        gPrefs->prEmailPW = QStringLiteral("older-version-pw");
+        people::MailSettings::moveOldPassword(*gPrefs);
+        QVERIFY(gPrefs->prEmailPW.isEmpty());
+        QVERIFY(gPrefs->prefsDirty);
+        QCOMPARE(s.fake.secrets.secrets.value(QStringLiteral("mail password")),
+                 storeAnswers ? QStringLiteral("older-version-pw") : QString());
+        gPrefs->prefsDirty = false;
         QString note;
         const auto [shown, closed] = runSettings([&](emailInfoScrn *d) {
             note = d->storeNoteLbl->isVisible() ? d->storeNoteLbl->text() : QString();

@@ -260,6 +260,12 @@ private Q_SLOTS:
         enterDrill(screen, {QStringLiteral("Hit & run?"), QStringLiteral("3:00 PM"), QString(), QStringLiteral("Dee 100%")},
                    false);
         enterDrill(screen, {QStringLiteral("Laps")}, false);
+        // Tab from the coach goes back to the drill, ready for the next one.
+        screen->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(screen));
+        screen->coachBox->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(screen->coachBox, Qt::Key_Tab);
+        QVERIFY(screen->drillBox->hasFocus());
 
         // Nobody checked: nothing opens.
         whenShown<emailRecipientsDlog>([](emailRecipientsDlog *d) { QTest::mouseClick(d->setBtn, Qt::LeftButton); });

@@ -1,5 +1,6 @@
 #include "people/ui/InventoryScrn.h"
 
+#include "app/FileTypes.h"
 #include "app/globals.h"
 #include "app/myPrefs.h"
 #include "app/ui/Form.h"
@@ -335,7 +336,7 @@ void InventoryScrn::importInvItems()
     request.prompt =
         QStringLiteral("Select a text file (TSV) containing quantities and items. See HELP for formatting info.");
     request.initialDir = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    request.nameFilters = {QStringLiteral("Text files (*.txt *.tsv *.text)")};
+    request.nameFilters = {FileTypes::pText.nameFilter(), QStringLiteral("Tab-separated text (*.tsv)")};
     const QString path = platform::files().openFile(request);
     if (path.isEmpty())
         return;

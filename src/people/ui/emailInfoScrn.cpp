@@ -63,7 +63,7 @@ emailInfoScrn::emailInfoScrn(QWidget *parent) : QDialog(parent)
     passwordFld->setText(stored.password);
     portFld->setText(stored.port);
     authReqBox->setChecked(stored.auth);
-    if (!people::MailSettings::secretStoreAnswers())
+    if (stored.sessionOnly)
         storeNoteLbl->setText(people::MailSettings::sessionOnlyNote());
     storeNoteLbl->setVisible(!storeNoteLbl->text().isEmpty());
     resize(420, sizeHint().height());
@@ -80,7 +80,8 @@ QString emailInfoScrn::getMyInfo(QWidget *parent)
 
 people::MailSettings emailInfoScrn::entries() const
 {
-    return {serverFld->text(), usernameFld->text(), passwordFld->text(), portFld->text(), authReqBox->isChecked()};
+    return {serverFld->text(), usernameFld->text(), passwordFld->text(), portFld->text(), authReqBox->isChecked(),
+            false};
 }
 
 bool emailInfoScrn::validateEntries()

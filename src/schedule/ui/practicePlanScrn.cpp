@@ -1,5 +1,6 @@
 #include "schedule/ui/practicePlanScrn.h"
 
+#include "app/FileTypes.h"
 #include "app/globals.h"
 #include "app/myPrefs.h"
 #include "app/ui/Form.h"
@@ -236,7 +237,7 @@ void practicePlanScrn::recallPlan()
     platform::FileRequest request;
     request.title = QStringLiteral("Select a Practice Plan file");
     request.initialDir = folder;
-    request.nameFilters = {QStringLiteral("PlanFile (*.pplan)")};
+    request.nameFilters = {FileTypes::PlanFile().nameFilter()};
     const QString path = platform::files().openFile(request);
     if (path.isEmpty())
         return;

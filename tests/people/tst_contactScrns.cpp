@@ -30,25 +30,26 @@ class TestContactScrns : public QObject
     struct Session
     {
         QTemporaryDir home;
-        fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
-        App app{home.filePath(QStringLiteral("data"))};
+        fakes::FakePlatform fake { home.filePath(QStringLiteral("prints")) };
+        App app { home.filePath(QStringLiteral("data")) };
         QString team;
         Session()
         {
             QDir(home.path()).mkpath(QStringLiteral("prints"));
             app.Event_Open();
-            team = QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Ann & Bo's #1 Nine?")}}));
-            gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")}});
+            team = QString::number(gData->insert(
+                QStringLiteral("Teams"), { { QStringLiteral("TeamName"), QStringLiteral("Ann & Bo's #1 Nine?") } }));
+            gData->insert(QStringLiteral("Teams"), { { QStringLiteral("TeamName"), QStringLiteral("Bears") } });
             gPrefs->prHomeTeam = team;
         }
         ~Session() { screentest::closeAllWindows(); }
         void person(const char *table, const QString &first, const QString &email)
         {
-            gData->insert(QString::fromLatin1(table), {{QStringLiteral("TeamNum"), team.toLongLong()},
-                                                       {QStringLiteral("First"), first},
-                                                       {QStringLiteral("Last"), QStringLiteral("Zed")},
-                                                       {QStringLiteral("PhoneNumber"), QStringLiteral("6145551234")},
-                                                       {QStringLiteral("Email"), email}});
+            gData->insert(QString::fromLatin1(table),
+                { { QStringLiteral("TeamNum"), team.toLongLong() }, { QStringLiteral("First"), first },
+                    { QStringLiteral("Last"), QStringLiteral("Zed") },
+                    { QStringLiteral("PhoneNumber"), QStringLiteral("6145551234") },
+                    { QStringLiteral("Email"), email } });
         }
     };
 
@@ -67,7 +68,7 @@ class TestContactScrns : public QObject
             dialog.reject();
         });
         dialog.exec();
-        return {message, closed};
+        return { message, closed };
     }
 
 private Q_SLOTS:
@@ -96,10 +97,11 @@ private Q_SLOTS:
         QCOMPARE(s.fake.urls.opened.size(), 1);
         const QUrl url = s.fake.urls.opened.first();
         QCOMPARE(QUrl::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()),
-                 QStringLiteral("ann@example.org,bo+team@example.org"));
+            QStringLiteral("ann@example.org,bo+team@example.org"));
         const QUrlQuery query(url);
         QCOMPARE(query.queryItems(QUrl::FullyDecoded).size(), 1);
-        QCOMPARE(query.queryItemValue(QStringLiteral("subject"), QUrl::FullyDecoded), QStringLiteral("Ann & Bo's #1 Nine?"));
+        QCOMPARE(
+            query.queryItemValue(QStringLiteral("subject"), QUrl::FullyDecoded), QStringLiteral("Ann & Bo's #1 Nine?"));
 
         // Back to the coaches; the other team's lists are empty.
         screen->coachesList->setSelectedRow(0);
@@ -123,16 +125,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         const QString server = QStringLiteral("smtp.example.org");
         const QString user = QStringLiteral("coach@example.org");
-        QTest::newRow("no server") << QStringList{QStringLiteral("  "), QString(), QString()} << true
+        QTest::newRow("no server") << QStringList { QStringLiteral("  "), QString(), QString() } << true
                                    << QStringLiteral("Please enter the SMTP server info.");
-        QTest::newRow("no user") << QStringList{server, QString(), QString()} << true
+        QTest::newRow("no user") << QStringList { server, QString(), QString() } << true
                                  << QStringLiteral("Please enter a valid user name.");
-        QTest::newRow("not an address") << QStringList{server, QStringLiteral("coach at home"), QString()} << true
+        QTest::newRow("not an address") << QStringList { server, QStringLiteral("coach at home"), QString() } << true
                                         << QStringLiteral("The email address you entered does not appear to be valid.");
-        QTest::newRow("no password") << QStringList{server, user, QString()} << true
+        QTest::newRow("no password") << QStringList { server, user, QString() } << true
                                      << QStringLiteral("Please enter the email password.");
-        QTest::newRow("no password needed") << QStringList{server, user, QString()} << false << QString();
-        QTest::newRow("all there") << QStringList{server, user, QStringLiteral("pw")} << true << QString();
+        QTest::newRow("no password needed") << QStringList { server, user, QString() } << false << QString();
+        QTest::newRow("all there") << QStringList { server, user, QStringLiteral("pw") } << true << QString();
     }
     void settingsMessages()
     {
@@ -171,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(gPrefs->prEmailPW.isEmpty());
         QVERIFY(gPrefs->prefsDirty);
         QCOMPARE(s.fake.secrets.secrets.value(QStringLiteral("mail password")),
-                 storeAnswers ? QStringLiteral("older-version-pw") : QString());
+            storeAnswers ? QStringLiteral("older-version-pw") : QString());
         gPrefs->prefsDirty = false;
         QString note;
         const auto [shown, closed] = runSettings([&](emailInfoScrn *d) {

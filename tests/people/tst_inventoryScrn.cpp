@@ -31,21 +31,24 @@ class TestInventoryScrn : public QObject
     struct Session
     {
         QTemporaryDir home;
-        fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
-        App app{home.filePath(QStringLiteral("data"))};
+        fakes::FakePlatform fake { home.filePath(QStringLiteral("prints")) };
+        App app { home.filePath(QStringLiteral("data")) };
         QString cougars;
         Session()
         {
             QDir(home.path()).mkpath(QStringLiteral("prints"));
             app.Event_Open();
-            cougars = QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("O'Brien's")},
-                                                                             {QStringLiteral("TeamName"), QStringLiteral("Nine")}}));
-            gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("East")},
-                                                    {QStringLiteral("TeamName"), QStringLiteral("Bears")}});
-            for (const char *first : {"Ann", "Bo"})
-                gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), cougars.toLongLong()},
-                                                          {QStringLiteral("First"), QString::fromLatin1(first)},
-                                                          {QStringLiteral("Last"), QStringLiteral("Ames")}});
+            cougars = QString::number(gData->insert(QStringLiteral("Teams"),
+                { { QStringLiteral("SchoolName"), QStringLiteral("O'Brien's") },
+                    { QStringLiteral("TeamName"), QStringLiteral("Nine") } }));
+            gData->insert(QStringLiteral("Teams"),
+                { { QStringLiteral("SchoolName"), QStringLiteral("East") },
+                    { QStringLiteral("TeamName"), QStringLiteral("Bears") } });
+            for (const char *first : { "Ann", "Bo" })
+                gData->insert(QStringLiteral("Players"),
+                    { { QStringLiteral("TeamNum"), cougars.toLongLong() },
+                        { QStringLiteral("First"), QString::fromLatin1(first) },
+                        { QStringLiteral("Last"), QStringLiteral("Ames") } });
             gPrefs->prHomeTeam = cougars;
         }
         ~Session() { screentest::closeAllWindows(); }
@@ -83,7 +86,7 @@ private Q_SLOTS:
         QTest::keyClick(screen->inputFld[2], Qt::Key_Tab);
         QVERIFY(screen->inputFld[0]->hasFocus());
         QTest::keyClick(screen->inputFld[0], Qt::Key_Return);
-        QCOMPARE(rows(screen->teamInvList), QStringList{QStringLiteral("4|Helmet|H-1")});
+        QCOMPARE(rows(screen->teamInvList), QStringList { QStringLiteral("4|Helmet|H-1") });
         QVERIFY(screen->inputFld[1]->text().isEmpty());
 
         // The plus button adds only with a count.
@@ -107,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(screen->addBtn->isEnabled());
         screen->teamInvList->setSelectedRow(0);
         QTest::mouseClick(screen->addBtn, Qt::LeftButton);
-        QCOMPARE(rows(screen->IndivList), QStringList{QStringLiteral("Helmet|H-1")});
+        QCOMPARE(rows(screen->IndivList), QStringList { QStringLiteral("Helmet|H-1") });
         QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("2|Helmet|H-1"));
         QVERIFY(!screen->RemoveBtn->isEnabled());
         screen->IndivList->setSelectedRow(0);
@@ -116,7 +119,7 @@ private Q_SLOTS:
         QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("3|Helmet|H-1"));
         screen->teamInvList->setSelectedRow(1);
         screentest::clickHalf(screen->TeamInvPlusMinus, false);
-        QCOMPARE(rows(screen->teamInvList), QStringList{QStringLiteral("3|Helmet|H-1")});
+        QCOMPARE(rows(screen->teamInvList), QStringList { QStringLiteral("3|Helmet|H-1") });
 
         screen->close();
         QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeOff);
@@ -129,8 +132,8 @@ private Q_SLOTS:
         Session s;
         auto *screen = new InventoryScrn;
         QVERIFY(screentest::showActive(screen));
-        const QStringList pool{QStringLiteral("12|Baseballs|"), QStringLiteral("1|Catcher's mask|C #2"),
-                               QStringLiteral("-1|Rosin & tar|R?%")};
+        const QStringList pool { QStringLiteral("12|Baseballs|"), QStringLiteral("1|Catcher's mask|C #2"),
+            QStringLiteral("-1|Rosin & tar|R?%") };
         for (const QString &row : pool) {
             const QStringList f = row.split(u'|');
             QVERIFY(screen->book().enterItem(-1, f[0], f[1], f[2]));
@@ -155,7 +158,7 @@ private Q_SLOTS:
         QVERIFY(s.fake.messages.shown.isEmpty());
 
         // A file that isn't text is ignored.
-        const QString picture = screentest::writePicture(s.home.filePath(QStringLiteral("p.png")), {4, 4}, Qt::red);
+        const QString picture = screentest::writePicture(s.home.filePath(QStringLiteral("p.png")), { 4, 4 }, Qt::red);
         s.fake.files.answers.enqueue(picture);
         import->trigger();
         QCOMPARE(screen->teamInvList->rowCount(), 3);
@@ -178,7 +181,7 @@ private Q_SLOTS:
         QCOMPARE(s.fake.printing.printed.size(), 2);
         const QString team = fakes::pdfText(s.fake.printing.printed.at(0));
         QVERIFY2(team.contains(QStringLiteral("O'Brien's Nine's Inventory")) && team.contains(QStringLiteral("Glove")),
-                 qPrintable(team));
+            qPrintable(team));
         QVERIFY(fakes::pdfText(s.fake.printing.printed.at(1)).contains(QStringLiteral("Ann Ames's Inventory")));
     }
 };

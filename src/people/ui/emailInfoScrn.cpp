@@ -14,7 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-emailInfoScrn::emailInfoScrn(QWidget *parent) : QDialog(parent)
+emailInfoScrn::emailInfoScrn(QWidget *parent)
+    : QDialog(parent)
 {
     setObjectName(screenName(ScreenId::emailInfoScrn));
     setWindowTitle(QStringLiteral("Email Settings"));
@@ -31,7 +32,7 @@ emailInfoScrn::emailInfoScrn(QWidget *parent) : QDialog(parent)
     portFld->setMaximumWidth(80);
     support::NumberKeyFilter::install(portFld);
     authReqBox = form::named(new qlmCheckBox(QStringLiteral("Password Authentication Required"), this),
-                             QStringLiteral("authReqBox"), QStringLiteral("Password Authentication Required"));
+        QStringLiteral("authReqBox"), QStringLiteral("Password Authentication Required"));
     layout->addRow(QString(), authReqBox);
     outer->addLayout(layout);
 
@@ -80,8 +81,8 @@ QString emailInfoScrn::getMyInfo(QWidget *parent)
 
 people::MailSettings emailInfoScrn::entries() const
 {
-    return {serverFld->text(), usernameFld->text(), passwordFld->text(), portFld->text(), authReqBox->isChecked(),
-            false};
+    return { serverFld->text(), usernameFld->text(), passwordFld->text(), portFld->text(), authReqBox->isChecked(),
+        false };
 }
 
 bool emailInfoScrn::validateEntries()

@@ -2,7 +2,6 @@
 
 #include <QEventLoop>
 #include <QTimer>
-
 #include <qt6keychain/keychain.h>
 
 namespace platform::qt {
@@ -49,9 +48,9 @@ SecretStore::ReadResult QtSecretStore::readSecret(const QString &key)
     const bool finished = runJob(*job);
     if (finished) {
         if (job->error() == QKeychain::NoError)
-            result = {Status::Found, job->textData()};
+            result = { Status::Found, job->textData() };
         else if (job->error() == QKeychain::EntryNotFound)
-            result = {Status::Missing, {}};
+            result = { Status::Missing, {} };
     }
     dispose(job, finished);
     return result;
@@ -73,8 +72,7 @@ bool QtSecretStore::deleteSecret(const QString &key)
     auto *job = new QKeychain::DeletePasswordJob(kService);
     job->setKey(key);
     const bool finished = runJob(*job);
-    const bool answered =
-        finished && (job->error() == QKeychain::NoError || job->error() == QKeychain::EntryNotFound);
+    const bool answered = finished && (job->error() == QKeychain::NoError || job->error() == QKeychain::EntryNotFound);
     dispose(job, finished);
     return answered;
 }

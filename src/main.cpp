@@ -12,6 +12,13 @@
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "platform/qt/QtServices.h"
+#include "schedule/ui/eventsCalendarScrn.h"
+#include "help/ui/HelpAbbrevScrn.h"
+#include "help/ui/formsScrn.h"
+#include "help/ui/helpScrn2.h"
+#include "support/HelpRequests.h"
+#include "support/ui/expReporterScrn.h"
+#include "support/ui/updateDlog.h"
 #include "schedule/ui/practicePlanScrn.h"
 #include "schedule/ui/scheduleScrn.h"
 
@@ -23,6 +30,17 @@ void registerScreens()
     screens::registerScreen(ScreenId::teamScrn, [] { return new teamScrn; });
     screens::registerScreen(ScreenId::personnelScrn, [] { return new personnelScrn; });
     screens::registerScreen(ScreenId::scheduleScrn, [] { return new scheduleScrn; });
+    screens::registerScreen(ScreenId::eventsCalendarScrn, [] { return new eventsCalendarScrn; });
+    screens::registerScreen(ScreenId::updateDlog, [] { return new updateDlog; });
+    screens::registerScreen(ScreenId::helpScrn2,
+                            [](const QVariant &topic) { return new helpScrn2(topic.isValid() ? topic.toInt() : 0); });
+    screens::registerScreen(ScreenId::HelpAbbrevScrn, [] { return HelpAbbrevScrn::instance(); });
+    screens::registerScreen(ScreenId::formsScrn, [] { return new formsScrn; });
+    // Every "?" button of the program opens help at its topic.
+    QObject::connect(&support::HelpRequests::instance(), &support::HelpRequests::requested, [](int topic) {
+        if (QWidget *w = screens::create(ScreenId::helpScrn2, topic))
+            w->show();
+    });
     screens::registerScreen(ScreenId::InventoryScrn, [] { return new InventoryScrn; });
     screens::registerScreen(ScreenId::contactInfoScrn, [] { return new contactInfoScrn; });
     // A modal dialog: the opener runs it, reads "rtrnEmail" and deletes it.
@@ -41,6 +59,7 @@ int main(int argc, char *argv[])
     platform::ScopedServices installed(desktop.services());
 
     registerScreens();
+    TallylineApplication::setUnhandledHandler(&expReporterScrn::showFor);
 
     App app;
     if (app.Event_Open() != App::OpenResult::Ok)

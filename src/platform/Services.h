@@ -2,6 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/FileDialogs.h"
+#include "platform/Http.h"
 #include "platform/Messages.h"
 #include "platform/Printing.h"
 #include "platform/SecretStore.h"
@@ -19,6 +20,7 @@ struct Services
     UrlOpener *urls = nullptr;
     Beeper *beeper = nullptr;
     Clock *clock = nullptr;
+    HttpService *http = nullptr;
     SecretStore *secrets = nullptr;
 };
 
@@ -34,6 +36,7 @@ PrintService &printing();
 UrlOpener &urls();
 Beeper &beeper();
 Clock &clock();
+HttpService &http();
 SecretStore &secrets();
 
 // Installs a set for the life of a scope, then puts the previous one back.

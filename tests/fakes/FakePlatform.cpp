@@ -1,5 +1,8 @@
 #include "fakes/FakePlatform.h"
 
+#include <QSaveFile>
+#include <QTimer>
+
 #include <QDir>
 #include <QPainter>
 #include <QPdfWriter>
@@ -97,12 +100,76 @@ std::unique_ptr<platform::PrintJob> PdfPrintService::printDialog(const platform:
 
 FakePlatform::FakePlatform(const QString &printDirectory) : printing(printDirectory)
 {
-    m_previous = platform::install({&messages, &files, &printing, &urls, &beeper, &clock, &secrets});
+    m_previous = platform::install({&messages, &files, &printing, &urls, &beeper, &clock, &http, &secrets});
 }
 
 FakePlatform::~FakePlatform()
 {
     platform::install(m_previous);
+}
+
+} // namespace fakes
+
+namespace fakes {
+
+namespace {
+
+class FakeTransfer final : public platform::HttpTransfer
+{
+public:
+    FakeTransfer(const QByteArray *page, bool silent, QString path) : m_path(std::move(path))
+    {
+        if (silent)
+            return;
+        const QByteArray answer = page ? *page : QByteArray();
+        const int error = page ? 0 : 404;
+        QTimer::singleShot(0, this, [this, answer, error] { finish(answer, error); });
+    }
+
+    void abort() override
+    {
+        m_cancelled = true;
+        finish({}, -5);
+    }
+
+private:
+    void finish(const QByteArray &answer, int error)
+    {
+        if (m_done)
+            return;
+        m_done = true;
+        m_error = m_cancelled ? -5 : error;
+        if (m_error == 0) {
+            Q_EMIT progress(answer.size(), answer.size());
+            if (m_path.isEmpty()) {
+                m_body = answer;
+            } else {
+                QSaveFile file(m_path);
+                if (!file.open(QIODevice::WriteOnly) || file.write(answer) != answer.size() || !file.commit())
+                    m_error = -1;
+            }
+        }
+        Q_EMIT finished();
+    }
+
+    QString m_path;
+    bool m_done = false;
+};
+
+} // namespace
+
+platform::HttpTransfer *FakeHttp::get(const QUrl &url, int)
+{
+    requested.append(url.toString());
+    const auto it = pages.constFind(url.toString());
+    return new FakeTransfer(it == pages.constEnd() ? nullptr : &*it, silent, {});
+}
+
+platform::HttpTransfer *FakeHttp::download(const QUrl &url, const QString &path)
+{
+    requested.append(url.toString());
+    const auto it = pages.constFind(url.toString());
+    return new FakeTransfer(it == pages.constEnd() ? nullptr : &*it, silent, path);
 }
 
 } // namespace fakes

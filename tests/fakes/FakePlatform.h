@@ -106,6 +106,20 @@ public:
     QDateTime now() const override { return time; }
 };
 
+// Answers GETs from `pages` by URL, on the next turn of the event loop; a
+// URL that isn't there answers 404. With `silent` set nothing ever answers
+// until the transfer is aborted. Downloads write the page to the file.
+class FakeHttp final : public platform::HttpService
+{
+public:
+    QHash<QString, QByteArray> pages;
+    bool silent = false;
+    QStringList requested;
+
+    platform::HttpTransfer *get(const QUrl &url, int timeoutMs) override;
+    platform::HttpTransfer *download(const QUrl &url, const QString &path) override;
+};
+
 // The desktop's secret store: a map of secrets, or no answer at all while
 // `answers` is false (a build machine, a bare desktop).
 class FakeSecretStore final : public platform::SecretStore
@@ -113,7 +127,6 @@ class FakeSecretStore final : public platform::SecretStore
 public:
     bool answers = true;
     QHash<QString, QString> secrets;
-    int writes = 0;
 
     ReadResult readSecret(const QString &key) override
     {
@@ -125,7 +138,6 @@ public:
     }
     bool writeSecret(const QString &key, const QString &secret) override
     {
-        ++writes;
         if (answers)
             secrets.insert(key, secret);
         return answers;
@@ -153,6 +165,7 @@ public:
     FakeUrlOpener urls;
     FakeBeeper beeper;
     FixedClock clock;
+    FakeHttp http;
     FakeSecretStore secrets;
 
 private:

@@ -3,6 +3,7 @@
 #include "app/App.h"
 #include "app/myTimerClass.h"
 #include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenDirectory.h"
 #include "app/ui/startScrn1.h"
 
 #include <QCloseEvent>
@@ -23,6 +24,52 @@ ScreenBase::ScreenBase(ScreenId id, const QString &title, Options options, QWidg
     setAttribute(Qt::WA_DeleteOnClose);
     m_menus = new MainMenuBar(this);
     setMenuBar(m_menus);
+    installHelpMenus(options.helpTopic);
+}
+
+void ScreenBase::installHelpMenus(int topic)
+{
+    if (topic < 0) {
+        // Each screen's page in the help index.
+        switch (m_id) {
+        case ScreenId::teamScrn: topic = 2; break;
+        case ScreenId::personnelScrn: topic = 3; break;
+        case ScreenId::contactInfoScrn: topic = 4; break;
+        case ScreenId::standingsScrn: topic = 5; break;
+        case ScreenId::scheduleScrn: topic = 6; break;
+        case ScreenId::gameDayScrn: topic = 7; break;
+        case ScreenId::practicePlanScrn: topic = 8; break;
+        case ScreenId::reportIntroScrn: topic = 9; break;
+        case ScreenId::InventoryScrn: topic = 10; break;
+        case ScreenId::formsScrn: topic = 11; break;
+        case ScreenId::prefScrn: topic = 13; break;
+        default: topic = 0; break;
+        }
+    }
+    const struct
+    {
+        const char *item;
+        ScreenId screen;
+        int argument;
+    } entries[] = {{"Help", ScreenId::helpScrn2, topic}, {"Abbrev", ScreenId::HelpAbbrevScrn, -1}};
+    for (const auto &e : entries) {
+        if (!screens::has(e.screen))
+            continue;
+        const ScreenId screen = e.screen;
+        const int argument = e.argument;
+        m_menus->installHandler(QString::fromLatin1(e.item), [screen, argument] {
+            QWidget *w = screens::create(screen, argument >= 0 ? QVariant(argument) : QVariant());
+            if (!w)
+                return true;
+            // Opened over this screen: closing it comes back here.
+            if (auto *opened = qobject_cast<ScreenBase *>(w))
+                opened->setReturnToStart(false);
+            w->show();
+            w->raise();
+            w->activateWindow();
+            return true;
+        });
+    }
 }
 
 ScreenBase::ScreenBase(ScreenId id, const QString &title, QWidget *parent)

@@ -27,6 +27,8 @@ public:
         // open beside the start screen (calendar, contacts, standings) and
         // windows opened from another screen set this false.
         bool returnToStart = true;
+        // The help topic of the Help menu; -1 takes the screen's own.
+        int helpTopic = -1;
     };
 
     ScreenBase(ScreenId id, const QString &title, Options options, QWidget *parent = nullptr);
@@ -47,6 +49,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void installHelpMenus(int topic);
+
     ScreenId m_id;
     Options m_options;
     MainMenuBar *m_menus = nullptr;

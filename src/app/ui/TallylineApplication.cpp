@@ -4,6 +4,14 @@
 
 #include <exception>
 
+namespace {
+TallylineApplication::UnhandledHandler &unhandledHandler()
+{
+    static TallylineApplication::UnhandledHandler handler;
+    return handler;
+}
+} // namespace
+
 TallylineApplication::TallylineApplication(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(QStringLiteral("Tallyline Baseball"));
@@ -18,15 +26,28 @@ bool TallylineApplication::notify(QObject *receiver, QEvent *event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception &e) {
-        reportUnhandled(QString::fromUtf8(e.what()));
+        reportUnhandled(std::current_exception(), QString::fromUtf8(e.what()));
     } catch (...) {
-        reportUnhandled(QStringLiteral("An unknown error"));
+        reportUnhandled(std::current_exception(), QStringLiteral("An unknown error"));
     }
     return false;
 }
 
-void TallylineApplication::reportUnhandled(const QString &what)
+void TallylineApplication::setUnhandledHandler(UnhandledHandler handler)
 {
+    unhandledHandler() = std::move(handler);
+}
+
+void TallylineApplication::reportUnhandled(const std::exception_ptr &error, const QString &what)
+{
+    if (unhandledHandler()) {
+        // A failure inside the report itself must not end the program.
+        try {
+            unhandledHandler()(error);
+            return;
+        } catch (...) {
+        }
+    }
     if (!platform::installed().messages)
         return;
     platform::messages().showMsgDlog(QStringLiteral("An unexpected error occurred."),

@@ -93,7 +93,11 @@ startScrn1::startScrn1(QWidget *parent) : QMainWindow(parent)
     helpBtn->setToolTip(QStringLiteral("Help for this screen"));
     helpBtn->setFixedWidth(32);
     helpBtn->setEnabled(screens::has(ScreenId::helpScrn2));
-    connect(helpBtn, &QPushButton::clicked, this, [this] { openTarget(ScreenId::helpScrn2, false); });
+    connect(helpBtn, &QPushButton::clicked, this, [] {
+        // The start screen's help is the getting-started page.
+        if (QWidget *help = screens::create(ScreenId::helpScrn2, 1))
+            help->show();
+    });
     left->addWidget(helpBtn, 0, Qt::AlignLeft);
     outer->addLayout(left);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/QtHttp.h"
+
 #include "platform/Services.h"
 #include "platform/SystemClock.h"
 #include "platform/qt/QtSecretStore.h"
@@ -51,9 +53,10 @@ struct QtServices
     QtUrlOpener urls;
     QtBeeper beeper;
     SystemClock clock;
+    QtHttpService http;
     QtSecretStore secrets;
 
-    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock, &secrets}; }
+    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock, &http, &secrets}; }
 };
 
 } // namespace platform::qt

@@ -5,11 +5,15 @@
 #include "help/ui/HelpAbbrevScrn.h"
 #include "help/ui/formsScrn.h"
 #include "help/ui/helpScrn2.h"
+#include "people/ui/InventoryScrn.h"
+#include "people/ui/contactInfoScrn.h"
+#include "people/ui/emailInfoScrn.h"
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "reports/ui/reportIntroScrn.h"
 #include "reports/ui/standingsScrn.h"
 #include "schedule/ui/eventsCalendarScrn.h"
+#include "schedule/ui/practicePlanScrn.h"
 #include "schedule/ui/scheduleScrn.h"
 #include "seasondata/ui/TransferDataScrn.h"
 #include "seasondata/ui/backUpDlog.h"
@@ -32,6 +36,12 @@ void registerScreens()
                             [](const QVariant &topic) { return new helpScrn2(topic.isValid() ? topic.toInt() : 0); });
     screens::registerScreen(ScreenId::HelpAbbrevScrn, [] { return HelpAbbrevScrn::instance(); });
     screens::registerScreen(ScreenId::formsScrn, [] { return new formsScrn; });
+    screens::registerScreen(ScreenId::InventoryScrn, [] { return new InventoryScrn; });
+    screens::registerScreen(ScreenId::contactInfoScrn, [] { return new contactInfoScrn; });
+    // A modal dialog: the opener runs it, reads "rtrnEmail" and deletes it.
+    screens::registerScreen(ScreenId::emailInfoScrn, [] { return new emailInfoScrn; });
+    screens::registerScreen(ScreenId::practicePlanScrn,
+                            [](const QVariant &eventID) { return new practicePlanScrn(eventID.toString()); });
     screens::registerScreen(ScreenId::TransferDataScrn, [] { return new TransferDataScrn; });
     screens::registerScreen(ScreenId::backUpDlog, [] { return new backUpDlog(backUpDlog::Mode::Backup); });
     screens::registerScreen(ScreenId::restoreDlog, [] { return new backUpDlog(backUpDlog::Mode::Restore); });

@@ -4,6 +4,7 @@
 #include "app/App.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
+#include "people/MailSettings.h"
 #include "platform/qt/QtServices.h"
 #include "seasondata/ui/backUpDlog.h"
 #include "support/ui/expReporterScrn.h"
@@ -24,7 +25,11 @@ int main(int argc, char *argv[])
         return 0;
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &app, &App::Event_Close);
     backUpDlog::connectTimer(app.BUTimer);
+    // The mail password lives in the desktop's secret store, not in the file.
+    people::MailSettings::moveOldPassword(*app.prefs());
     backUpDlog::connectTimer(app.BUTimer);
+    // The mail password lives in the desktop's secret store, not in the file.
+    people::MailSettings::moveOldPassword(*app.prefs());
 
     auto *splash = new splashScrn;
     splash->show();

@@ -36,5 +36,6 @@ UrlOpener &urls() { return need(g_services.urls, "urls"); }
 Beeper &beeper() { return need(g_services.beeper, "beeper"); }
 Clock &clock() { return need(g_services.clock, "clock"); }
 HttpService &http() { return need(g_services.http, "http"); }
+SecretStore &secrets() { return need(g_services.secrets, "secrets"); }
 
 } // namespace platform

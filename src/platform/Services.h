@@ -5,6 +5,7 @@
 #include "platform/Http.h"
 #include "platform/Messages.h"
 #include "platform/Printing.h"
+#include "platform/SecretStore.h"
 
 namespace platform {
 
@@ -20,6 +21,7 @@ struct Services
     Beeper *beeper = nullptr;
     Clock *clock = nullptr;
     HttpService *http = nullptr;
+    SecretStore *secrets = nullptr;
 };
 
 // Installs a set of services and returns the set that was there before.
@@ -35,6 +37,7 @@ UrlOpener &urls();
 Beeper &beeper();
 Clock &clock();
 HttpService &http();
+SecretStore &secrets();
 
 // Installs a set for the life of a scope, then puts the previous one back.
 class ScopedServices

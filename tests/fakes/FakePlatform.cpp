@@ -123,7 +123,7 @@ std::unique_ptr<platform::PrintJob> PdfPrintService::printDialog(const platform:
 
 FakePlatform::FakePlatform(const QString &printDirectory) : printing(printDirectory)
 {
-    m_previous = platform::install({&messages, &files, &printing, &urls, &beeper, &clock, &http});
+    m_previous = platform::install({&messages, &files, &printing, &urls, &beeper, &clock, &http, &secrets});
 }
 
 FakePlatform::~FakePlatform()

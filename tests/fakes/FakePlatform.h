@@ -126,6 +126,36 @@ public:
     platform::HttpTransfer *download(const QUrl &url, const QString &path) override;
 };
 
+// The desktop's secret store: a map of secrets, or no answer at all while
+// `answers` is false (a build machine, a bare desktop).
+class FakeSecretStore final : public platform::SecretStore
+{
+public:
+    bool answers = true;
+    QHash<QString, QString> secrets;
+
+    ReadResult readSecret(const QString &key) override
+    {
+        if (!answers)
+            return {};
+        if (!secrets.contains(key))
+            return {Status::Missing, {}};
+        return {Status::Found, secrets.value(key)};
+    }
+    bool writeSecret(const QString &key, const QString &secret) override
+    {
+        if (answers)
+            secrets.insert(key, secret);
+        return answers;
+    }
+    bool deleteSecret(const QString &key) override
+    {
+        if (answers)
+            secrets.remove(key);
+        return answers;
+    }
+};
+
 // All fakes together, installed for the life of the object.
 class FakePlatform
 {
@@ -142,6 +172,7 @@ public:
     FakeBeeper beeper;
     FixedClock clock;
     FakeHttp http;
+    FakeSecretStore secrets;
 
 private:
     platform::Services m_previous;

@@ -21,7 +21,7 @@ inline void closeAllWindows()
 {
     QList<QPointer<QWidget>> screens;
     for (QWidget *w : QApplication::topLevelWidgets()) {
-        if (w->inherits("teamScrn") || w->inherits("personnelScrn"))
+        if (w->inherits("ScreenBase"))
             screens.append(w);
     }
     for (const QPointer<QWidget> &w : screens)

@@ -178,9 +178,10 @@ private Q_SLOTS:
         QCOMPARE(query.allQueryItemValues(QStringLiteral("subject"), QUrl::FullyDecoded),
                  QStringList{QStringLiteral("2.2.0 error")});
         const QString body = query.queryItemValue(QStringLiteral("body"), QUrl::FullyDecoded);
-        QVERIFY(body.startsWith(QStringLiteral("Error: OutOfBoundsException\nSub teamScrn.save( string )\n"
-                                               "Tallyline Baseball v.2.2.0\n")));
-        QVERIFY(body.endsWith(QStringLiteral(" *Please feel free to add your comments.\nTom & Jerry's #1 100%? ok")));
+        // Line ends travel as mail's CR LF.
+        QVERIFY(body.startsWith(QStringLiteral("Error: OutOfBoundsException\r\nSub teamScrn.save( string )\r\n"
+                                               "Tallyline Baseball v.2.2.0\r\n")));
+        QVERIFY(body.endsWith(QStringLiteral(" *Please feel free to add your comments.\r\nTom & Jerry's #1 100%? ok")));
         QCOMPARE(report.ignoreBtn->text(), QStringLiteral("Continue"));
         QVERIFY(report.reportBtn->isHidden());
     }

@@ -4,6 +4,7 @@
 
 #include "platform/Services.h"
 #include "platform/SystemClock.h"
+#include "platform/qt/QtSecretStore.h"
 
 namespace platform::qt {
 
@@ -53,8 +54,9 @@ struct QtServices
     QtBeeper beeper;
     SystemClock clock;
     QtHttpService http;
+    QtSecretStore secrets;
 
-    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock, &http}; }
+    Services services() { return {&messages, &files, &printing, &urls, &beeper, &clock, &http, &secrets}; }
 };
 
 } // namespace platform::qt

@@ -81,8 +81,11 @@ scheduleScrn::scheduleScrn(QWidget *parent)
         const int row = ScheduleListbox->selectedRow();
         if (row < 0 || !enterDataBtn->isEnabled())
             return;
-        if (QWidget *game = screens::create(ScreenId::gameDayScrn, ScheduleListbox->rowTag(row)))
-            game->show();
+        // A game opens its scorecard, a practice its plan.
+        const ScreenId target =
+            enterDataBtn->text() == u"Practice Plan" ? ScreenId::practicePlanScrn : ScreenId::gameDayScrn;
+        if (QWidget *window = screens::create(target, ScheduleListbox->rowTag(row)))
+            window->show();
     });
     connect(viewCalendarBtn, &QPushButton::clicked, this, [] {
         if (QWidget *calendar = screens::create(ScreenId::eventsCalendarScrn))
@@ -177,9 +180,10 @@ void scheduleScrn::selectionChanged()
     deleteEvBtn->setEnabled(row >= 0);
     enterDataBtn->setText(row >= 0 ? ScheduleList::dataButtonCaption(ScheduleListbox->cell(row, 3))
                                    : QStringLiteral("---"));
-    // The practice plans aren't part of the program yet: the caption tells
-    // what the event has, and only a game's button opens a window.
-    enterDataBtn->setEnabled(enterDataBtn->text() == u"Enter Game Data" && screens::has(ScreenId::gameDayScrn));
+    // The caption tells what the event has; the button opens its window.
+    enterDataBtn->setEnabled(
+        (enterDataBtn->text() == u"Enter Game Data" && screens::has(ScreenId::gameDayScrn))
+        || (enterDataBtn->text() == u"Practice Plan" && screens::has(ScreenId::practicePlanScrn)));
     schedIDLabel->setText(row >= 0 ? QStringLiteral("Schedule ID = ") + ScheduleListbox->rowTag(row)
                                    : QStringLiteral("No Selection"));
 }

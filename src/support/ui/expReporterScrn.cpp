@@ -4,6 +4,7 @@
 #include "app/globals.h"
 #include "app/ui/Form.h"
 #include "platform/Services.h"
+#include "support/MailtoAddress.h"
 #include "support/StackCleaner.h"
 
 #include <QApplication>
@@ -15,7 +16,6 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QUrlQuery>
 #include <QVBoxLayout>
 
 expReporterScrn::expReporterScrn(const QString &text, QWidget *parent) : QDialog(parent)
@@ -98,17 +98,10 @@ QString expReporterScrn::reportText(const QString &kind, const QStringList &stac
 
 QUrl expReporterScrn::reportMail(const QString &text)
 {
-    // Every part is percent-encoded, so the report arrives whole whatever
-    // it holds ("&", "?", "#", line ends).
-    QUrl mail;
-    mail.setScheme(QStringLiteral("mailto"));
-    mail.setPath(QStringLiteral(TALLYLINE_SUPPORT_EMAIL));
-    QUrlQuery query;
-    auto encode = [](const QString &value) { return QString::fromLatin1(QUrl::toPercentEncoding(value)); };
-    query.addQueryItem(QStringLiteral("subject"), encode(appinfo::curVers + QStringLiteral(" error")));
-    query.addQueryItem(QStringLiteral("body"), encode(text));
-    mail.setQuery(query.query(QUrl::FullyEncoded), QUrl::StrictMode);
-    return mail;
+    // The one builder of mailto: addresses encodes every part, so the report
+    // arrives whole whatever it holds ("&", "?", "#", line ends).
+    return support::mailtoAddress({QStringLiteral(TALLYLINE_SUPPORT_EMAIL)},
+                                  appinfo::curVers + QStringLiteral(" error"), text);
 }
 
 void expReporterScrn::paintEvent(QPaintEvent *event)

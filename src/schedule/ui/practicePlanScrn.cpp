@@ -1,0 +1,266 @@
+#include "schedule/ui/practicePlanScrn.h"
+
+#include "app/FileTypes.h"
+#include "app/globals.h"
+#include "app/myPrefs.h"
+#include "app/ui/Form.h"
+#include "people/ui/PeopleMenus.h"
+#include "people/ui/emailRecipientsDlog.h"
+#include "platform/Services.h"
+#include "reports/ui/qlmListBox.h"
+#include "support/MailtoAddress.h"
+#include "support/ui/getInfoScrn_small.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int kHelpTopic = 8;
+}
+
+practicePlanScrn::practicePlanScrn(const QString &schedID, QWidget *parent)
+    : ScreenBase(ScreenId::practicePlanScrn, QStringLiteral("Practice Plan"), { .returnToStart = false }, parent)
+    , m_plan(*gData, schedID)
+{
+    buildControls();
+    // screenSetup: the practice's date and place, then its drills.
+    practDateLabel->setText(m_plan.practDateText());
+    practLocLabel->setText(m_plan.practLocText());
+    loadData();
+}
+
+practicePlanScrn::~practicePlanScrn() = default;
+
+void practicePlanScrn::buildControls()
+{
+    auto *central = new QWidget(this);
+    auto *outer = new QVBoxLayout(central);
+
+    txtprefs = new QLabel(QStringLiteral("Practice Plan"), central);
+    txtprefs->setObjectName(QStringLiteral("txtprefs"));
+    QFont big = txtprefs->font();
+    big.setPointSizeF(big.pointSizeF() * 1.4);
+    big.setBold(true);
+    txtprefs->setFont(big);
+    outer->addWidget(txtprefs);
+    practDateLabel = form::valueLabel(central, QStringLiteral("practDateLabel"), QStringLiteral("Practice date"));
+    practLocLabel = form::valueLabel(central, QStringLiteral("practLocLabel"), QStringLiteral("Practice location"));
+    auto *heading = new QHBoxLayout;
+    heading->addWidget(practDateLabel);
+    heading->addSpacing(24);
+    heading->addWidget(practLocLabel);
+    heading->addStretch(1);
+    outer->addLayout(heading);
+
+    // The boxes that make a drill ------------------------------------------
+    auto *boxes = new QGridLayout;
+    activityBox
+        = form::comboBox(central, QStringLiteral("activityBox"), QStringLiteral("Pick activity"), form::Editable);
+    drillBox = form::comboBox(central, QStringLiteral("drillBox"), QStringLiteral("Pick drill"), form::Editable);
+    startBox = form::comboBox(central, QStringLiteral("startBox"), QStringLiteral("Start time"), form::Editable);
+    endBox = form::comboBox(central, QStringLiteral("endBox"), QStringLiteral("End time"), form::Editable);
+    coachBox = form::comboBox(central, QStringLiteral("coachBox"), QStringLiteral("Coach"), form::Editable);
+    activityBox->addItems(schedule::PracticePlan::activities());
+    activityBox->setCurrentIndex(-1);
+    startBox->addItems(schedule::PracticePlan::timeBlocks());
+    endBox->addItems(schedule::PracticePlan::timeBlocks());
+    coachBox->addItems(m_plan.coaches());
+    for (QComboBox *box : { drillBox, startBox, endBox, coachBox }) {
+        box->setCurrentIndex(-1);
+        box->installEventFilter(this);
+    }
+    for (QComboBox *box : { activityBox, drillBox, coachBox })
+        box->setMinimumContentsLength(16);
+    for (QComboBox *box : { startBox, endBox })
+        box->setMinimumContentsLength(8);
+    boxes->addWidget(form::buddyLabel(activityBox, QStringLiteral("&1 - Pick Activity"), central), 0, 0);
+    boxes->addWidget(form::buddyLabel(drillBox, QStringLiteral("&2 - Pick Drill"), central), 0, 1);
+    boxes->addWidget(form::buddyLabel(startBox, QStringLiteral("&TIme Blocks"), central), 0, 2, 1, 2);
+    boxes->addWidget(form::buddyLabel(coachBox, QStringLiteral("C&oach"), central), 0, 4);
+    boxes->addWidget(activityBox, 1, 0);
+    boxes->addWidget(drillBox, 1, 1);
+    boxes->addWidget(startBox, 1, 2);
+    boxes->addWidget(endBox, 1, 3);
+    boxes->addWidget(coachBox, 1, 4);
+    boxes->setColumnStretch(1, 2);
+    boxes->setColumnStretch(4, 1);
+    outer->addLayout(boxes);
+
+    drillList = form::named(new qlmListBox(central), QStringLiteral("drillList"), QStringLiteral("Drills"));
+    drillList->setHeadings(
+        { QStringLiteral("Drill"), QStringLiteral("Start"), QStringLiteral("End"), QStringLiteral("Coach") });
+    drillList->setColumnWidths(QStringLiteral("*,90,90,*"));
+    drillList->setColumnAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    drillList->setColumnAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+    outer->addWidget(drillList, 1);
+
+    auto *buttons = new QGridLayout;
+    addBtn = form::button(central, QStringLiteral("addBtn"), QStringLiteral("&Add Drill"));
+    deleteBtn = form::button(central, QStringLiteral("deleteBtn"), QStringLiteral("&Delete Drill"));
+    printBtn = form::button(central, QStringLiteral("printBtn"), QStringLiteral("&Print Plan"));
+    exportBtn = form::button(central, QStringLiteral("exportBtn"), QStringLiteral("E&xport Plan"));
+    exportBtn->setToolTip(QStringLiteral("Save to a text file for use in a word processor program"));
+    emailBtn = form::button(central, QStringLiteral("emailBtn"), QStringLiteral("&Email To..."));
+    saveBtn = form::button(central, QStringLiteral("saveBtn"), QStringLiteral("&Save Plan"));
+    saveBtn->setToolTip(QStringLiteral("Save for future recall"));
+    recallBtn = form::button(central, QStringLiteral("recallBtn"), QStringLiteral("&Recall Saved Plan"));
+    closeBtn = form::button(central, QStringLiteral("closeBtn"), QStringLiteral("Close Screen"));
+    buttons->addWidget(addBtn, 0, 0);
+    buttons->addWidget(deleteBtn, 0, 1);
+    buttons->addWidget(saveBtn, 0, 2);
+    buttons->addWidget(recallBtn, 0, 3);
+    buttons->addWidget(printBtn, 1, 0);
+    buttons->addWidget(exportBtn, 1, 1);
+    buttons->addWidget(emailBtn, 1, 2);
+    buttons->addWidget(closeBtn, 1, 3);
+    outer->addLayout(buttons);
+    setCentralWidget(central);
+    resize(820, 540);
+    deleteBtn->setEnabled(false);
+
+    installPeopleMenus(
+        menus(), QStringLiteral("Print Plan"), [this] { printPlan(); }, kHelpTopic);
+
+    connect(activityBox, &QComboBox::currentIndexChanged, this, &practicePlanScrn::setDrillBox);
+    connect(drillList, &qlmListBox::rowSelectionChanged, this,
+        [this] { deleteBtn->setEnabled(drillList->selectedRow() >= 0); });
+    connect(addBtn, &QPushButton::clicked, this, &practicePlanScrn::addActivity);
+    connect(deleteBtn, &QPushButton::clicked, this, &practicePlanScrn::deleteActivity);
+    connect(printBtn, &QPushButton::clicked, this, &practicePlanScrn::printPlan);
+    connect(exportBtn, &QPushButton::clicked, this, &practicePlanScrn::exportPlan);
+    connect(emailBtn, &QPushButton::clicked, this, &practicePlanScrn::emailPlan);
+    connect(saveBtn, &QPushButton::clicked, this, &practicePlanScrn::savePlan);
+    connect(recallBtn, &QPushButton::clicked, this, &practicePlanScrn::recallPlan);
+    connect(closeBtn, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void practicePlanScrn::loadData()
+{
+    for (const schedule::DrillRow &row : m_plan.loadData())
+        drillList->addRow(row.cells(), QString::number(row.planID));
+}
+
+void practicePlanScrn::setDrillBox()
+{
+    const int index = activityBox->currentIndex();
+    if (index < 0)
+        return;
+    drillBox->clear();
+    drillBox->clearEditText();
+    drillBox->addItems(schedule::PracticePlan::drillsFor(index));
+    drillBox->setCurrentIndex(-1);
+}
+
+void practicePlanScrn::addActivity()
+{
+    const QStringList cells { drillBox->currentText(), startBox->currentText(), endBox->currentText(),
+        coachBox->currentText() };
+    const qint64 id = m_plan.addActivity(cells);
+    if (id < 0)
+        return;
+    drillList->addRow(cells, QString::number(id));
+    clearFields();
+}
+
+void practicePlanScrn::clearFields()
+{
+    for (QComboBox *box : { activityBox, drillBox, startBox, endBox, coachBox })
+        box->clearEditText();
+}
+
+void practicePlanScrn::deleteActivity()
+{
+    const int row = drillList->selectedRow();
+    if (row < 0 || !m_plan.deleteActivity(drillList->rowTag(row).toLongLong()))
+        return;
+    drillList->removeRow(row);
+    drillList->setSelectedRow(-1);
+}
+
+void practicePlanScrn::printPlan()
+{
+    drillList->printMe(practDateLabel->text() + QStringLiteral(" : ") + practLocLabel->text(), false);
+}
+
+void practicePlanScrn::exportPlan()
+{
+    drillList->exportMe(practDateLabel->text());
+}
+
+void practicePlanScrn::emailPlan()
+{
+    const QString heading = practDateLabel->text() + u'\n' + practLocLabel->text();
+    // The rows' text starts from the heading it is given, so the heading
+    // stands twice: once alone, once with the first drill behind it.
+    const QString body = heading + u'\n' + drillList->myDataAsString(heading, -1, false);
+    const QString recipients = emailRecipientsDlog::getRecipients(this);
+    if (recipients.trimmed().isEmpty())
+        return;
+    platform::urls().openUrl(support::mailtoAddress(recipients.split(u','), QStringLiteral("Practice Plans"), body));
+}
+
+QList<QStringList> practicePlanScrn::planRows() const
+{
+    QList<QStringList> rows;
+    for (int r = 0; r < drillList->rowCount(); ++r)
+        rows.append(drillList->rowCells(r));
+    return rows;
+}
+
+QString practicePlanScrn::planFolder()
+{
+    // The data folder is <application data>/QLM/TLYN2.
+    QDir root(gPrefs->strdDataLoc);
+    const bool found = !gPrefs->strdDataLoc.isEmpty() && root.cdUp() && root.cdUp();
+    return schedule::PracticePlan::planFolder(found ? root.absolutePath() : QString());
+}
+
+void practicePlanScrn::savePlan()
+{
+    const QString folder = planFolder();
+    if (folder.isEmpty())
+        return;
+    getInfoScrn_small ask(this);
+    schedule::PracticePlan::savePlan(folder, ask.getMyInfo(), planRows());
+}
+
+void practicePlanScrn::recallPlan()
+{
+    const QString folder = planFolder();
+    if (folder.isEmpty())
+        return;
+    platform::FileRequest request;
+    request.title = QStringLiteral("Select a Practice Plan file");
+    request.initialDir = folder;
+    request.nameFilters = { FileTypes::PlanFile().nameFilter() };
+    const QString path = platform::files().openFile(request);
+    if (path.isEmpty())
+        return;
+    const QList<QStringList> rows = schedule::PracticePlan::readPlan(path).rows;
+    const QList<qint64> ids = m_plan.addRecalled(rows);
+    for (int i = 0; i < ids.size(); ++i)
+        drillList->addRow(rows.at(i), QString::number(ids.at(i)));
+}
+
+bool practicePlanScrn::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+            addActivity();
+            return true;
+        }
+        // From the coach the focus goes back to the drill, ready for the next one.
+        if (watched == coachBox && key->key() == Qt::Key_Tab && key->modifiers() == Qt::NoModifier) {
+            drillBox->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    }
+    return ScreenBase::eventFilter(watched, event);
+}

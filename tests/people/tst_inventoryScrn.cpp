@@ -1,0 +1,190 @@
+// The inventory screen driven from the keyboard and the menus: items typed
+// into the pool, units handed out, the list exported and imported again,
+// the lists printed, the backup timer running while the screen is open.
+
+#include "ScreenTestSupport.h"
+#include "app/App.h"
+#include "app/globals.h"
+#include "app/myTimerClass.h"
+#include "app/ui/MainMenuBar.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/TestSupport.h"
+#include "people/ui/InventoryScrn.h"
+#include "reports/ui/qlmListBox.h"
+#include "support/ui/PlusMinusContainer.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+using screentest::typeInto;
+
+class TestInventoryScrn : public QObject
+{
+    Q_OBJECT
+
+    struct Session
+    {
+        QTemporaryDir home;
+        fakes::FakePlatform fake { home.filePath(QStringLiteral("prints")) };
+        App app { home.filePath(QStringLiteral("data")) };
+        QString cougars;
+        Session()
+        {
+            QDir(home.path()).mkpath(QStringLiteral("prints"));
+            app.Event_Open();
+            cougars = QString::number(gData->insert(QStringLiteral("Teams"),
+                { { QStringLiteral("SchoolName"), QStringLiteral("O'Brien's") },
+                    { QStringLiteral("TeamName"), QStringLiteral("Nine") } }));
+            gData->insert(QStringLiteral("Teams"),
+                { { QStringLiteral("SchoolName"), QStringLiteral("East") },
+                    { QStringLiteral("TeamName"), QStringLiteral("Bears") } });
+            for (const char *first : { "Ann", "Bo" })
+                gData->insert(QStringLiteral("Players"),
+                    { { QStringLiteral("TeamNum"), cougars.toLongLong() },
+                        { QStringLiteral("First"), QString::fromLatin1(first) },
+                        { QStringLiteral("Last"), QStringLiteral("Ames") } });
+            gPrefs->prHomeTeam = cougars;
+        }
+        ~Session() { screentest::closeAllWindows(); }
+    };
+
+    static QStringList rows(const qlmListBox *list)
+    {
+        QStringList out;
+        for (int r = 0; r < list->rowCount(); ++r)
+            out.append(list->rowCells(r).join(u'|'));
+        return out;
+    }
+
+private Q_SLOTS:
+    // Typing and keys: Enter adds, Tab goes round the three fields, "+"
+    // steps the count, a letter in the count beeps; a selected row edits.
+    void keyboardEntry()
+    {
+        Session s;
+        auto *screen = new InventoryScrn;
+        QVERIFY(screentest::showActive(screen));
+        QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeMultiple);
+        QCOMPARE(screen->selTeamPop->currentText(), QStringLiteral("O'Brien's Nine"));
+        QCOMPARE(screen->selPlayerPop->itemText(0), QStringLiteral("Select A Player"));
+        QVERIFY(!screen->addBtn->isEnabled());
+
+        typeInto(screen->inputFld[0], QStringLiteral("3x+"));
+        QCOMPARE(screen->inputFld[0]->text(), QStringLiteral("4"));
+        QCOMPARE(s.fake.beeper.beeps, 1);
+        QTest::keyClick(screen->inputFld[0], Qt::Key_Tab);
+        QVERIFY(screen->inputFld[1]->hasFocus());
+        QTest::keyClicks(screen->inputFld[1], QStringLiteral("Helmet"));
+        QTest::keyClick(screen->inputFld[1], Qt::Key_Tab);
+        QTest::keyClicks(screen->inputFld[2], QStringLiteral("H-1"));
+        QTest::keyClick(screen->inputFld[2], Qt::Key_Tab);
+        QVERIFY(screen->inputFld[0]->hasFocus());
+        QTest::keyClick(screen->inputFld[0], Qt::Key_Return);
+        QCOMPARE(rows(screen->teamInvList), QStringList { QStringLiteral("4|Helmet|H-1") });
+        QVERIFY(screen->inputFld[1]->text().isEmpty());
+
+        // The plus button adds only with a count.
+        typeInto(screen->inputFld[1], QStringLiteral("Bat"));
+        screentest::clickHalf(screen->TeamInvPlusMinus, true);
+        QCOMPARE(screen->teamInvList->rowCount(), 1);
+        typeInto(screen->inputFld[0], QStringLiteral("0"));
+        screentest::clickHalf(screen->TeamInvPlusMinus, true);
+        QCOMPARE(rows(screen->teamInvList).last(), QStringLiteral("1|Bat|"));
+
+        // A selected row fills the fields; Enter saves it over.
+        screen->teamInvList->setSelectedRow(0);
+        QCOMPARE(screen->inputFld[1]->text(), QStringLiteral("Helmet"));
+        QTest::keyClick(screen->inputFld[0], Qt::Key_Minus);
+        QTest::keyClick(screen->inputFld[0], Qt::Key_Enter);
+        QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("3|Helmet|H-1"));
+        QCOMPARE(screen->teamInvList->selectedRow(), -1);
+
+        // A unit to Bo and back, then the minus button removes the bats.
+        screentest::choose(screen->selPlayerPop, QStringLiteral("Bo Ames"));
+        QVERIFY(screen->addBtn->isEnabled());
+        screen->teamInvList->setSelectedRow(0);
+        QTest::mouseClick(screen->addBtn, Qt::LeftButton);
+        QCOMPARE(rows(screen->IndivList), QStringList { QStringLiteral("Helmet|H-1") });
+        QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("2|Helmet|H-1"));
+        QVERIFY(!screen->RemoveBtn->isEnabled());
+        screen->IndivList->setSelectedRow(0);
+        QTest::mouseClick(screen->RemoveBtn, Qt::LeftButton);
+        QVERIFY(rows(screen->IndivList).isEmpty());
+        QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("3|Helmet|H-1"));
+        screen->teamInvList->setSelectedRow(1);
+        screentest::clickHalf(screen->TeamInvPlusMinus, false);
+        QCOMPARE(rows(screen->teamInvList), QStringList { QStringLiteral("3|Helmet|H-1") });
+
+        screen->close();
+        QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeOff);
+    }
+
+    // The exported list read back gives the same pool again; the title and
+    // heading lines of the export are passed over.
+    void importAnExportedFile()
+    {
+        Session s;
+        auto *screen = new InventoryScrn;
+        QVERIFY(screentest::showActive(screen));
+        const QStringList pool { QStringLiteral("12|Baseballs|"), QStringLiteral("1|Catcher's mask|C #2"),
+            QStringLiteral("-1|Rosin & tar|R?%") };
+        for (const QString &row : pool) {
+            const QStringList f = row.split(u'|');
+            QVERIFY(screen->book().enterItem(-1, f[0], f[1], f[2]));
+        }
+        screen->loadTeamList();
+        QCOMPARE(rows(screen->teamInvList), pool);
+
+        const QString file = s.home.filePath(QStringLiteral("stock.txt"));
+        s.fake.files.answers.enqueue(file);
+        screen->menus()->item(QStringLiteral("FileExport"))->trigger();
+        QVERIFY(QFile::exists(file));
+
+        // Into the other team, through the File menu's import.
+        screentest::choose(screen->selTeamPop, QStringLiteral("East Bears"));
+        QVERIFY(rows(screen->teamInvList).isEmpty());
+        s.fake.files.answers.enqueue(file);
+        auto *import = screen->menus()->findChild<QAction *>(QStringLiteral("FileImport"));
+        QVERIFY(import);
+        import->trigger();
+        QCOMPARE(s.fake.files.calls.last().request.title, QStringLiteral("Select a text file to import"));
+        QCOMPARE(rows(screen->teamInvList), pool);
+        QVERIFY(s.fake.messages.shown.isEmpty());
+
+        // A file that isn't text is ignored.
+        const QString picture = screentest::writePicture(s.home.filePath(QStringLiteral("p.png")), { 4, 4 }, Qt::red);
+        s.fake.files.answers.enqueue(picture);
+        import->trigger();
+        QCOMPARE(screen->teamInvList->rowCount(), 3);
+        QVERIFY(s.fake.messages.shown.isEmpty());
+    }
+
+    // Both lists print under their owner's name.
+    void printing()
+    {
+        Session s;
+        auto *screen = new InventoryScrn;
+        QVERIFY(screentest::showActive(screen));
+        QVERIFY(screen->book().enterItem(-1, QStringLiteral("2"), QStringLiteral("Glove"), QStringLiteral("G9")));
+        screen->loadTeamList();
+        screentest::choose(screen->selPlayerPop, QStringLiteral("Ann Ames"));
+        screen->teamInvList->setSelectedRow(0);
+        QTest::mouseClick(screen->addBtn, Qt::LeftButton);
+        QTest::mouseClick(screen->printTeamInvBtn, Qt::LeftButton);
+        QTest::mouseClick(screen->printPlayerInvBtn, Qt::LeftButton);
+        QCOMPARE(s.fake.printing.printed.size(), 2);
+        const QString team = fakes::pdfText(s.fake.printing.printed.at(0));
+        QVERIFY2(team.contains(QStringLiteral("O'Brien's Nine's Inventory")) && team.contains(QStringLiteral("Glove")),
+            qPrintable(team));
+        QVERIFY(fakes::pdfText(s.fake.printing.printed.at(1)).contains(QStringLiteral("Ann Ames's Inventory")));
+    }
+};
+
+QTEST_MAIN(TestInventoryScrn)
+#include "tst_inventoryScrn.moc"

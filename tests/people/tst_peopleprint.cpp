@@ -15,23 +15,6 @@ using people::MemberRecord;
 
 namespace {
 
-// The sizes of the pictures placed in a PDF (needs poppler's pdfimages).
-QList<QSize> pdfImageSizes(const QString &path)
-{
-    QProcess p;
-    p.start(QStringLiteral("pdfimages"), {QStringLiteral("-list"), path});
-    p.waitForFinished(30000);
-    QList<QSize> sizes;
-    const QStringList lines = QString::fromUtf8(p.readAllStandardOutput()).split(u'\n');
-    static const QRegularExpression row(QStringLiteral(R"(^\s*\d+\s+\d+\s+(\w+)\s+(\d+)\s+(\d+))"));
-    for (const QString &line : lines) {
-        const auto m = row.match(line);
-        // Soft masks (the alpha of a picture) are listed apart; count pictures only.
-        if (m.hasMatch() && m.captured(1) == u"image")
-            sizes.append(QSize(m.captured(2).toInt(), m.captured(3).toInt()));
-    }
-    return sizes;
-}
 
 const fakes::PdfWord *findWord(const QList<fakes::PdfWord> &words, const QString &text, int nth = 0)
 {
@@ -104,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(qRound(field->yMin - first->yMin), 112);
         QVERIFY(findWord(words, QStringLiteral("O'Brien's")));
         QVERIFY(fakes::pdfText(pdf).contains(QStringLiteral("(614) 555-1234")));
-        QCOMPARE(pdfImageSizes(pdf).size(), logos ? 4 * copies : 0);
+        QCOMPARE(fakes::pdfImageSizes(pdf).size(), logos ? 4 * copies : 0);
     }
 
     void selectedTeamNeedsSelection()
@@ -171,7 +154,7 @@ private Q_SLOTS:
         QCOMPARE(fake.messages.shown[0].actionCaption, QStringLiteral("Include"));
         QCOMPARE(fake.messages.shown[0].altCaption, QStringLiteral("Don't Include"));
         const QString pdf = fake.printing.printed.first();
-        const QList<QSize> images = pdfImageSizes(pdf);
+        const QList<QSize> images = fakes::pdfImageSizes(pdf);
         QCOMPARE(images, picture.isValid() ? QList<QSize>{picture} : QList<QSize>{});
 
         // The three columns of the playing data stand a third of the width apart.

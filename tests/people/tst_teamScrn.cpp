@@ -1,7 +1,7 @@
 // The team screen driven as the coach drives it, offscreen, with every
 // dialog answered by the fakes.
 
-#include "ScreenTestSupport.h"
+#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/FileTypes.h"
 #include "app/globals.h"
@@ -28,31 +28,19 @@
 #include <QToolButton>
 #include <QUrl>
 
-using screentest::clickHalf;
-using screentest::typeInto;
+using testkit::clickHalf;
+using testkit::typeInto;
 
 class TestTeamScrn : public QObject
 {
     Q_OBJECT
 
-    struct Session
-    {
-        QTemporaryDir home;
-        fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
-        App app{home.filePath(QStringLiteral("data"))};
-        Session()
-        {
-            QDir(home.path()).mkpath(QStringLiteral("prints"));
-            app.Event_Open();
-        }
-        // Windows go before the season they show.
-        ~Session() { screentest::closeAllWindows(); }
-    };
+    using Session = testkit::Season;
 
     static QPointer<teamScrn> open()
     {
         QPointer<teamScrn> screen = new teamScrn;
-        screentest::showActive(screen);
+        testkit::showActive(screen);
         return screen;
     }
 
@@ -136,8 +124,8 @@ private Q_SLOTS:
                 screen = t;
         }
         QVERIFY(screen && screen->isVisible());
-        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeMultiple);
-        screentest::showActive(screen);
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeMultiple);
+        testkit::showActive(screen);
 
         addTeam(screen, QStringLiteral("O'Brien's"), QStringLiteral("Cougars"), false);
         QTest::mouseClick(screen->cancelBtn, Qt::LeftButton);
@@ -163,7 +151,7 @@ private Q_SLOTS:
         start = startScrn1::instance();
         QVERIFY(start && start->isVisible());
         QCOMPARE(start->teamNameLabel->text(), QStringLiteral("O'Brien's Cougars"));
-        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeOff);
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeOff);
         screens::unregisterScreen(ScreenId::teamScrn);
     }
 
@@ -178,21 +166,15 @@ private Q_SLOTS:
     void deleteTeamWithItsPlayers()
     {
         Session s;
-        const QString cougars = QString::number(gData->insert(
-            QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("Central")},
-                                      {QStringLiteral("TeamName"), QStringLiteral("Cougars")}}));
-        gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("West")},
-                                                {QStringLiteral("TeamName"), QStringLiteral("Wolves")}});
-        for (const char *last : {"Reyes", "Cole"})
-            gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), cougars.toLongLong()},
-                                                      {QStringLiteral("First"), QStringLiteral("A")},
-                                                      {QStringLiteral("Last"), QString::fromLatin1(last)}});
-        gPrefs->prHomeTeam = cougars;
+        const qint64 cougars = s.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central"), {}, true);
+        s.addTeam(QStringLiteral("Wolves"), QStringLiteral("West"));
+        s.addPlayer(cougars, QStringLiteral("A"), QStringLiteral("Reyes"));
+        s.addPlayer(cougars, QStringLiteral("A"), QStringLiteral("Cole"));
         auto screen = open();
         QCOMPARE(screen->teamList->rowCount(), 2);
         screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Cougars")));
 
-        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        s.answer({platform::MsgCancel, platform::MsgAction});
         clickHalf(screen->teamListPlusMInus, false);
         QCOMPARE(screen->teamList->rowCount(), 2);
 
@@ -245,9 +227,9 @@ private Q_SLOTS:
         auto screen = open();
         typeInto(screen->teamFld, QStringLiteral("Cougars"));
         typeInto(screen->schoolFld, QStringLiteral("O'Brien's"));
-        screentest::choose(screen->StatePop, QStringLiteral("OH"));
+        testkit::choose(screen->StatePop, QStringLiteral("OH"));
         typeInto(screen->cityFld, QStringLiteral("Dublin"));
-        const QString jpeg = screentest::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), {64, 48}, Qt::red);
+        const QString jpeg = fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), {64, 48}, Qt::red);
         s.fake.files.answers.enqueue(jpeg);
         clickHalf(screen->PlusMinusTeamLogo, true);
         QCOMPARE(s.fake.files.calls.size(), 1);
@@ -259,7 +241,7 @@ private Q_SLOTS:
         clickHalf(screen->PlusMinusTeamLogo, false);
         QVERIFY(screen->LogoCvn->picture().isNull());
         QVERIFY(!screen->LogoCvn->shownPicture().isNull());
-        screentest::writePicture(s.home.filePath(QStringLiteral("crest.dat")), {30, 40}, Qt::blue);
+        fakes::writePicture(s.home.filePath(QStringLiteral("crest.dat")), {30, 40}, Qt::blue);
         QMimeData mime;
         mime.setUrls({QUrl::fromLocalFile(s.home.filePath(QStringLiteral("crest.dat")))});
         // The drag enters first: the application hands a drop only to the
@@ -287,7 +269,7 @@ private Q_SLOTS:
         const QString text = fakes::pdfText(pdf);
         QVERIFY(text.contains(QStringLiteral("O'Brien's Cougars")));
         QVERIFY(text.contains(QStringLiteral("Dublin, OH")));
-        QCOMPARE(screentest::pdfImageSizes(pdf), QList<QSize>{QSize(30, 40)});
+        QCOMPARE(fakes::pdfImageSizes(pdf), QList<QSize>{QSize(30, 40)});
 
         // The list prints through the list box, from the menu bar too.
         QCOMPARE(screen->menuBar()->item(QStringLiteral("FilePrint"))->text(), QStringLiteral("Print Team List"));

@@ -120,6 +120,13 @@ App::SeasonList App::seasonList() const
     return list;
 }
 
+QString App::unopenedSeasonFile() const
+{
+    if (!m_data || m_data->isConnected())
+        return {};
+    return m_data->filePath();
+}
+
 App::SeasonChoice App::selectSeason(const QString &text)
 {
     if (text == kSelectSeason || !m_prefs)
@@ -130,9 +137,9 @@ App::SeasonChoice App::selectSeason(const QString &text)
                      QStringLiteral("Please re-select the previous season"), QStringLiteral("OK"));
         return SeasonChoice::Missing;
     }
-    // A switch alone doesn't dirty the preferences: the choice is kept only
-    // when something else is saved before quitting.
+    // The coach's choice is the season of the next start too.
     m_prefs->prSeason = text;
+    m_prefs->prefsDirty = true;
     reopenSeason();
     return SeasonChoice::Switched;
 }

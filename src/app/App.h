@@ -58,10 +58,15 @@ public:
     };
     SeasonList seasonList() const;
 
+    // The season file that could not be opened (damaged, read only, ...),
+    // or empty text while a season is open.
+    QString unopenedSeasonFile() const;
+
     enum class SeasonChoice { Ignored, Switched, Missing };
     // What choosing `text` in the season popup does: "Select Season" is
-    // ignored, an existing file becomes the open season, and a file that has
-    // vanished is reported and changes nothing.
+    // ignored, an existing file becomes the open season and is kept in the
+    // preferences at quit, and a file that has vanished is reported and
+    // changes nothing.
     SeasonChoice selectSeason(const QString &text);
 
     // What the start screen shows for the home team: nothing when no home

@@ -77,9 +77,17 @@ void myDB::check4Database(const QString &dataFolder, const QString &season)
 
 void myDB::configureConnection()
 {
-    tlynData->setBusyTimeout(kBusyTimeoutMs);
     tlynData->exec("PRAGMA journal_mode=DELETE");
     tlynData->exec("PRAGMA synchronous=FULL");
+}
+
+void myDB::notOpened(const QString &message, const QString &explanation)
+{
+    // A season that can't be written is never typed into: the program goes
+    // on without a connection, the start screen names the file, and every
+    // write says that nothing was saved.
+    tlynData.reset();
+    gShowMsgDlog(message, explanation, QStringLiteral("OK"));
 }
 
 bool myDB::verifyIntegrity()
@@ -94,14 +102,9 @@ bool myDB::verifyIntegrity()
     }
     if (result == "ok")
         return true;
-    // A damaged season is never written to: the program carries on without
-    // a connection, and the coach is told which file to restore.
-    tlynData.reset();
-    gShowMsgDlog(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
-                     QStringLiteral("\" is damaged and can't be opened."),
-                 QStringLiteral("Nothing was changed in it. Restore it from a backup copy, or choose another "
-                                "season."),
-                 QStringLiteral("OK"));
+    notOpened(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
+                  QStringLiteral("\" is damaged and can't be opened."),
+              QStringLiteral("Nothing was changed in it. Restore it from a backup copy, or choose another season."));
     return false;
 }
 
@@ -115,9 +118,39 @@ bool myDB::connectToDB(const QString &file)
         DisplayDatabaseError();
         return false;
     }
+    // Set before the first read: a file that another program (a sync tool,
+    // a backup) holds for a moment is waited for, not taken for damaged.
+    tlynData->setBusyTimeout(kBusyTimeoutMs);
     if (!verifyIntegrity())
         return false;
+    // SQLite falls back to reading only when the file can't be opened for
+    // writing; the coach hears it now, not at the first save.
+    if (sqlite3_db_readonly(tlynData->getHandle(), "main") == 1) {
+        notOpened(QStringLiteral("The season file \"") + QDir::toNativeSeparators(file) +
+                      QStringLiteral("\" can only be read."),
+                  QStringLiteral("Nothing could be saved in it. Make the file writable, or choose another season."));
+        return false;
+    }
     configureConnection();
+    // An empty file (0 bytes, as a sync tool or an interrupted copy can
+    // leave) is a new season: it gets its tables.
+    if (tlynData->execAndGet("SELECT COUNT(*) FROM sqlite_master").getInt() == 0)
+        return createSchema(file);
+    return true;
+}
+
+bool myDB::createSchema(const QString &file)
+{
+    try {
+        SQLite::Transaction transaction(*tlynData);
+        for (const QString &statement : schema::createStatements())
+            tlynData->exec(utf8(statement));
+        transaction.commit();
+    } catch (const SQLite::Exception &) {
+        tlynData.reset();
+        creationFailed(file);
+        return false;
+    }
     return true;
 }
 
@@ -125,19 +158,24 @@ bool myDB::createDBFile(const QString &file)
 {
     try {
         tlynData = std::make_unique<SQLite::Database>(utf8(file), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        tlynData->setBusyTimeout(kBusyTimeoutMs);
         configureConnection();
-        SQLite::Transaction transaction(*tlynData);
-        for (const QString &statement : schema::createStatements())
-            tlynData->exec(utf8(statement));
-        transaction.commit();
     } catch (const SQLite::Exception &) {
         tlynData.reset();
         QFile::remove(file);
-        gMsgBox(QStringLiteral("Database Error\nThere was an error when creating the database at <") +
-                QDir::toNativeSeparators(file) + u'>');
+        creationFailed(file);
         return false;
     }
-    return true;
+    if (createSchema(file))
+        return true;
+    QFile::remove(file);
+    return false;
+}
+
+void myDB::creationFailed(const QString &file)
+{
+    gMsgBox(QStringLiteral("Database Error\nThere was an error when creating the database at <") +
+            QDir::toNativeSeparators(file) + u'>');
 }
 
 void myDB::rememberError(int code, const QString &message)

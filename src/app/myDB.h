@@ -107,6 +107,9 @@ private:
     void check4Database(const QString &dataFolder, const QString &season);
     bool connectToDB(const QString &file);
     bool createDBFile(const QString &file);
+    bool createSchema(const QString &file);
+    static void creationFailed(const QString &file);
+    void notOpened(const QString &message, const QString &explanation);
     void configureConnection();
     bool verifyIntegrity();
     void rememberError(int code, const QString &message);

@@ -302,19 +302,36 @@ void myPrefs::readPrefs()
         writePrefs();
         return;
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        // The file is there but can't be opened: nothing is read and the
-        // fields stay empty, zero and false.
-        platform::messages().msgBox(QStringLiteral("There was a file error reading the Prefs File"));
-        return;
+    bool whole = false;
+    if (file.open(QIODevice::ReadOnly)) {
+        // A damaged file keeps what could be read; the fields behind the
+        // damage keep their first-run values so the program still has a
+        // season, innings and line-up to work with.
+        const QByteArray bytes = file.readAll();
+        initPrefs();
+        whole = decode(bytes);
     }
-    const QByteArray bytes = file.readAll();
-    // A damaged file keeps what could be read; the fields behind the damage
-    // keep their first-run values so the program still has a season,
-    // innings and line-up to work with.
-    initPrefs();
-    if (!decode(bytes))
+    // When the file can't be opened nothing is read and the fields stay
+    // empty, zero and false. Either way the season must name a file: the
+    // connection would otherwise open another file than the one checked.
+    if (!isUsableSeasonName(prSeason)) {
+        prSeason = QString::number(platform::clock().now().date().year());
+        prefsDirty = true;
+        whole = false;
+    }
+    if (!whole)
         platform::messages().msgBox(QStringLiteral("There was a file error reading the Prefs File"));
+}
+
+bool myPrefs::isUsableSeasonName(const QString &season)
+{
+    if (season.isEmpty())
+        return false;
+    for (const QChar c : season) {
+        if (c.category() == QChar::Other_Control || c == u'/' || c == u'\\')
+            return false;
+    }
+    return true;
 }
 
 void myPrefs::writePrefs()

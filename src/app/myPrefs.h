@@ -44,6 +44,10 @@ public:
     // field was read whole.
     bool decode(const QByteArray &bytes);
 
+    // Whether a season's name can be part of a file name: not empty, no
+    // control character, no path separator.
+    static bool isUsableSeasonName(const QString &season);
+
     // The first-run values of every field.
     void initPrefs();
 

@@ -5,18 +5,37 @@
 #include "platform/Services.h"
 
 #include <QBuffer>
+#include <QCache>
 #include <QImageReader>
 #include <QMimeData>
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <climits>
+
 namespace people {
+
+namespace {
+
+// The bytes each picture read from the season was decoded from, by the
+// picture's cache key: QImage keeps that key while the picture is only
+// copied, and changes it when a pixel changes. Bounded by size, so a long
+// session with many photos keeps only the recent ones.
+QCache<qint64, QByteArray> &storedBytes()
+{
+    static QCache<qint64, QByteArray> cache(64 * 1024 * 1024);
+    return cache;
+}
+
+} // namespace
 
 QByteArray toPng(const QImage &picture)
 {
     QByteArray bytes;
     if (picture.isNull())
         return bytes;
+    if (const QByteArray *stored = storedBytes().object(picture.cacheKey()))
+        return *stored;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     picture.save(&buffer, "PNG");
@@ -27,7 +46,17 @@ QImage fromBlob(const QByteArray &blob)
 {
     if (blob.isEmpty())
         return {};
-    return QImage::fromData(blob);
+    const QImage picture = QImage::fromData(blob);
+    if (!picture.isNull())
+        storedBytes().insert(picture.cacheKey(), new QByteArray(blob), int(qMin<qsizetype>(blob.size(), INT_MAX)));
+    return picture;
+}
+
+QImage fitForStorage(const QImage &picture)
+{
+    if (picture.width() <= kMaxPictureSide && picture.height() <= kMaxPictureSide)
+        return picture;
+    return picture.scaled(kMaxPictureSide, kMaxPictureSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 QImage readPictureFile(const QString &path)
@@ -37,7 +66,12 @@ QImage readPictureFile(const QString &path)
     // type is tried as a picture.
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    return reader.read();
+    // A phone photo is decoded straight to the stored size where the format
+    // allows it, which is much faster than decoding it whole.
+    const QSize size = reader.size();
+    if (size.width() > kMaxPictureSide || size.height() > kMaxPictureSide)
+        reader.setScaledSize(size.scaled(kMaxPictureSide, kMaxPictureSide, Qt::KeepAspectRatio));
+    return fitForStorage(reader.read());
 }
 
 QImage pictureFromMime(const QMimeData *mime)
@@ -47,7 +81,7 @@ QImage pictureFromMime(const QMimeData *mime)
     if (mime->hasImage()) {
         const QImage image = qvariant_cast<QImage>(mime->imageData());
         if (!image.isNull())
-            return image;
+            return fitForStorage(image);
     }
     if (mime->hasUrls()) {
         for (const QUrl &url : mime->urls()) {

@@ -10,14 +10,25 @@ class QMimeData;
 // picture file the coach picks or drops.
 namespace people {
 
-// The picture as PNG at the default quality; empty for a null picture.
+// The longest side a chosen picture keeps; a larger one is scaled down.
+inline constexpr int kMaxPictureSide = 1024;
+
+// The bytes to store for a picture; empty for a null picture. A picture
+// read with fromBlob and not changed since gives back the bytes it was read
+// from, so saving a row with an unchanged photo decodes and encodes nothing.
+// Any other picture is encoded as PNG.
 QByteArray toPng(const QImage &picture);
 // A stored picture; null for an empty or unreadable blob.
 QImage fromBlob(const QByteArray &blob);
-// A file opened as a picture, whatever its name says; null when it isn't one.
+// A picture as the coach chose it, scaled down to kMaxPictureSide on its
+// long side when larger.
+QImage fitForStorage(const QImage &picture);
+// A file opened as a picture, whatever its name says, scaled down as
+// fitForStorage does; null when it isn't one.
 QImage readPictureFile(const QString &path);
 // The picture carried by a drop: an image itself, or the first local file
-// that opens as a picture. Null when the drop holds neither.
+// that opens as a picture, scaled down as fitForStorage does. Null when the
+// drop holds neither.
 QImage pictureFromMime(const QMimeData *mime);
 // True when a drop could carry a picture (used to accept the drag).
 bool mayCarryPicture(const QMimeData *mime);

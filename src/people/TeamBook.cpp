@@ -44,10 +44,12 @@ void TeamBook::becomeHome(const QString &teamID, bool askFirst)
 {
     // Only a change of home team is worth a question: with none chosen yet
     // there is no season's data to invalidate.
-    if (askFirst)
+    if (askFirst) {
         askChgHomeTeam(teamID);
-    else
+    } else {
         m_prefs.prHomeTeam = teamID;
+        m_prefs.prefsDirty = true;
+    }
 }
 
 bool TeamBook::askChgHomeTeam(const QString &teamID)
@@ -58,8 +60,9 @@ bool TeamBook::askChgHomeTeam(const QString &teamID)
                      QStringLiteral("Change"));
     if (answer != platform::MsgAction)
         return false;
-    // Kept in memory; the preference file takes it up when it is next written.
+    // The preference file takes it up at quit.
     m_prefs.prHomeTeam = teamID;
+    m_prefs.prefsDirty = true;
     return true;
 }
 
@@ -78,8 +81,10 @@ bool TeamBook::deleteTeam(const QString &teamID)
 {
     if (!m_store.deleteTeam(teamID))
         return false;
-    if (m_prefs.prHomeTeam == teamID)
+    if (m_prefs.prHomeTeam == teamID) {
         m_prefs.prHomeTeam.clear();
+        m_prefs.prefsDirty = true;
+    }
     return true;
 }
 

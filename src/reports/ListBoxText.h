@@ -23,6 +23,13 @@ QString dataAsString(const ListBoxModel &list, const QString &prefix, int skipCo
 // tab-separated, each ended by a carriage return.
 QString selectionsText(const ListBoxModel &list, QList<int> rows);
 
+// Where the export dialog starts: the documents folder, or the home folder
+// when there is none.
+QString exportFolder();
+// The file an export goes to: the chosen path, with ".txt" added when the
+// coach typed a name without an extension.
+QString exportFilePath(const QString &chosen);
+
 // Cuts every tab from the end of `line`.
 QString trimTrailingTabs(QString line);
 

@@ -109,7 +109,7 @@ void EventForm::loadEvent(const eventClass &event, const QString &storedDate)
     gameAMPM = start ? (*start)[2] : QString();
     eventType = event.eventType;
     location = event.location;
-    setOppoBox(event.opponent);
+    selectOpponent(event.oppID, event.opponent);
     switch (event.isHome) {
     case 1:
         homeState = Qt::Checked;
@@ -135,10 +135,35 @@ void EventForm::setOppoBox(const QString &name)
     opponentText = opponentIndex >= 0 ? opponents.at(opponentIndex).name : QString();
 }
 
+void EventForm::selectOpponent(const QString &oppID, const QString &name)
+{
+    for (int i = 0; i < opponents.size(); ++i) {
+        if (!oppID.isEmpty() && opponents.at(i).tag == oppID) {
+            opponentIndex = i;
+            opponentText = opponents.at(i).name;
+            return;
+        }
+    }
+    setOppoBox(name);
+}
+
+QString EventForm::opponentLabel(int index) const
+{
+    const OpponentEntry &entry = opponents.at(index);
+    for (int i = 0; i < opponents.size(); ++i) {
+        if (i != index && opponents.at(i).name == entry.name) {
+            const QString school = entry.school.trimmed();
+            return entry.name + QStringLiteral(" (") + (school.isEmpty() ? QStringLiteral("team ") + entry.tag : school) +
+                   u')';
+        }
+    }
+    return entry.name;
+}
+
 QList<OpponentEntry> EventForm::opponentEntries(const QList<OpponentEntry> &teams)
 {
     QList<OpponentEntry> entries = teams;
-    entries.append({kNoOpponent, QStringLiteral("-1")});
+    entries.append({kNoOpponent, QStringLiteral("-1"), {}});
     return entries;
 }
 

@@ -10,11 +10,12 @@
 #include <optional>
 
 // One entry of the editor's opponent popup: a team's name and its teamID
-// ("-1" for "N/A").
+// ("-1" for "N/A"), and its school to tell two teams of one name apart.
 struct OpponentEntry
 {
     QString name;
     QString tag;
+    QString school;
     bool operator==(const OpponentEntry &) const = default;
 };
 
@@ -54,6 +55,12 @@ public:
     // Selects the opponent named `name`, or the last entry ("N/A") when no
     // entry has that name.
     void setOppoBox(const QString &name);
+    // Selects the opponent whose team id is `oppID`; a row without a known
+    // id is looked up by name as above.
+    void selectOpponent(const QString &oppID, const QString &name);
+    // What the popup shows for entry `index`: the name, and the school after
+    // it when another team has the same name.
+    QString opponentLabel(int index) const;
     // The popup's entries for these teams, "N/A" last.
     static QList<OpponentEntry> opponentEntries(const QList<OpponentEntry> &teams);
 

@@ -5,6 +5,8 @@
 #include "app/myPrefs.h"
 #include "schedule/EventDates.h"
 
+#include <QSet>
+
 ScheduleList::ScheduleList(myDB &db) : m_store(db), m_db(db) {}
 
 const QStringList &ScheduleList::headings()
@@ -65,19 +67,19 @@ void ScheduleList::loadScheduleLB(const QString &filter)
 {
     m_filter = filter;
     m_rows.clear();
-    bool reported = false;
+    QList<qint64> unreadable;
     for (ScheduleEntry &entry : m_store.list(filter)) {
         if (!entry.event.mDate.isValid()) {
-            if (!reported) {
+            if (unreadable.isEmpty())
                 gShowMsgDlog(QStringLiteral("There was an error reading the schedules."),
                              QStringLiteral("Some data may need to be recreated."), QStringLiteral("OK"));
-                reported = true;
-            }
-            m_store.removeUnreadable(entry.eventID);
+            unreadable.append(entry.eventID);
             continue;
         }
         m_rows.append(std::move(entry));
     }
+    if (!unreadable.isEmpty())
+        m_store.removeUnreadable(unreadable);
 }
 
 qint64 ScheduleList::addNewItem(const eventClass &event)
@@ -119,7 +121,7 @@ bool ScheduleList::deleteEvent(int row)
     return true;
 }
 
-void ScheduleList::rowsReordered(const QList<qint64> &order, qint64 movedID)
+bool ScheduleList::rowsReordered(const QList<qint64> &order)
 {
     QList<ScheduleEntry> reordered;
     reordered.reserve(m_rows.size());
@@ -129,24 +131,37 @@ void ScheduleList::rowsReordered(const QList<qint64> &order, qint64 movedID)
             reordered.append(m_rows.at(at));
     }
     if (reordered.size() != m_rows.size())
-        return; // not this list's rows: leave everything as it was
+        return false; // not this list's rows: leave everything as it was
     m_rows = reordered;
-    const int index = rowOf(movedID);
-    if (index >= 0) {
-        m_rows[index].position = index;
-        m_store.setPosition(movedID, index);
-    }
+    return saveLBandPos();
+}
+
+QList<qint64> ScheduleList::mergedOrder(const QList<qint64> &all, const QList<qint64> &shown)
+{
+    const QSet<qint64> listed(shown.cbegin(), shown.cend());
+    QList<qint64> merged;
+    merged.reserve(all.size());
+    qsizetype next = 0;
+    for (qint64 id : all)
+        merged.append(listed.contains(id) && next < shown.size() ? shown.at(next++) : id);
+    return merged;
 }
 
 bool ScheduleList::saveLBandPos()
 {
-    QList<qint64> ids;
-    ids.reserve(m_rows.size());
-    for (int i = 0; i < m_rows.size(); ++i) {
-        ids.append(m_rows.at(i).eventID);
-        m_rows[i].position = i;
-    }
-    return m_store.savePositions(ids);
+    QList<qint64> all;
+    for (const ScheduleEntry &entry : m_store.list(ScheduleStore::kShowAll))
+        all.append(entry.eventID);
+    QList<qint64> shown;
+    shown.reserve(m_rows.size());
+    for (const ScheduleEntry &entry : std::as_const(m_rows))
+        shown.append(entry.eventID);
+    const QList<qint64> merged = mergedOrder(all, shown);
+    if (!m_store.savePositions(merged))
+        return false;
+    for (ScheduleEntry &entry : m_rows)
+        entry.position = int(merged.indexOf(entry.eventID));
+    return true;
 }
 
 QString ScheduleList::homeTeamName() const

@@ -45,11 +45,15 @@ public:
     // a recorded game is refused. True when the row went.
     bool deleteEvent(int row);
     // The list box moved a row: `order` is the rows' event ids as the list
-    // now stands, `movedID` the one dragged. The dragged event's position is
-    // written at once.
-    void rowsReordered(const QList<qint64> &order, qint64 movedID);
-    // Numbers the listed events from 0 in their shown order (on close).
+    // now stands. The whole schedule's order is written at once.
+    bool rowsReordered(const QList<qint64> &order);
+    // Writes the order of the whole schedule, in one step: the listed events
+    // in their shown order, in the places they hold among all events, so
+    // that an order arranged under a filter is the order under any other.
     bool saveLBandPos();
+    // The whole schedule's order with the events of `shown` put in the
+    // places that those events hold in `all`, in the order of `shown`.
+    static QList<qint64> mergedOrder(const QList<qint64> &all, const QList<qint64> &shown);
 
     // The home team's name, or empty text when none is set.
     QString homeTeamName() const;

@@ -120,14 +120,12 @@ ScheduleStore::RemoveResult ScheduleStore::remove(qint64 eventID, const QString 
     return ok ? RemoveResult::Removed : RemoveResult::Failed;
 }
 
-bool ScheduleStore::removeUnreadable(qint64 eventID)
+bool ScheduleStore::removeUnreadable(const QList<qint64> &eventIDs)
 {
-    return m_db.exec(QStringLiteral("DELETE FROM Schedule WHERE eventID = ?"), {eventID});
-}
-
-bool ScheduleStore::setPosition(qint64 eventID, int position)
-{
-    return m_db.exec(QStringLiteral("UPDATE Schedule SET position = ? WHERE eventID = ?"), {position, eventID});
+    return m_db.runInTransaction([&] {
+        for (qint64 id : eventIDs)
+            m_db.exec(QStringLiteral("DELETE FROM Schedule WHERE eventID = ?"), {id});
+    });
 }
 
 bool ScheduleStore::savePositions(const QList<qint64> &eventIDs)
@@ -147,9 +145,9 @@ QList<OpponentEntry> ScheduleStore::teams() const
 {
     QList<OpponentEntry> list;
     const QList<Record> rows = m_db.select(
-        QStringLiteral("SELECT DISTINCT TeamName, teamID FROM Teams ORDER BY TeamName COLLATE NOCASE, teamID"));
+        QStringLiteral("SELECT TeamName, teamID, SchoolName FROM Teams ORDER BY TeamName COLLATE NOCASE, teamID"));
     for (const Record &r : rows)
-        list.append({r.text(QStringLiteral("TeamName")), r.text(QStringLiteral("teamID"))});
+        list.append({r.text(QStringLiteral("TeamName")), r.text(QStringLiteral("teamID")), r.text(QStringLiteral("SchoolName"))});
     return list;
 }
 

@@ -48,10 +48,9 @@ public:
     // Deletes the event with its game data (a Games row) or practice plan
     // (its Drills) in one step, unless its game has been recorded.
     RemoveResult remove(qint64 eventID, const QString &eventType);
-    // Deletes a row the schedule couldn't read.
-    bool removeUnreadable(qint64 eventID);
+    // Deletes the rows the schedule couldn't read, in one step.
+    bool removeUnreadable(const QList<qint64> &eventIDs);
 
-    bool setPosition(qint64 eventID, int position);
     // Numbers the events 0, 1, 2 ... in the order given, in one step.
     bool savePositions(const QList<qint64> &eventIDs);
 

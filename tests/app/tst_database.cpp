@@ -14,6 +14,53 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+// Makes a file that can't be opened for writing, even by root: without
+// write permission, and immutable where the file system allows it.
+class ReadOnlyFile
+{
+public:
+    bool make(const QString &path)
+    {
+        m_path = path;
+        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther);
+        if (!QFileInfo(path).isWritable() || !canWrite())
+            return true;
+        m_immutable = setImmutable(true);
+        return m_immutable && !canWrite();
+    }
+    ~ReadOnlyFile()
+    {
+        if (m_immutable)
+            setImmutable(false);
+    }
+
+private:
+    bool canWrite() const { return ::access(QFile::encodeName(m_path).constData(), W_OK) == 0 && QFile(m_path).open(QIODevice::ReadWrite); }
+    bool setImmutable(bool on) const
+    {
+        const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY);
+        if (fd < 0)
+            return false;
+        int flags = 0;
+        bool ok = ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
+        flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
+        ok = ok && ::ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
+        ::close(fd);
+        return ok;
+    }
+    QString m_path;
+    bool m_immutable = false;
+};
+
 class TestDatabase : public QObject
 {
     Q_OBJECT
@@ -329,6 +376,63 @@ private Q_SLOTS:
         QFile f(path);
         QVERIFY(f.open(QIODevice::ReadOnly));
         QCOMPARE(f.readAll(), junk);
+    }
+
+    // What an existing season file turns into when it is opened.
+    void openingExistingFile_data()
+    {
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<bool>("connected");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("held by another program for a moment") << QStringLiteral("locked") << true << QString();
+        QTest::newRow("0 bytes: a new season") << QStringLiteral("empty") << true << QString();
+        QTest::newRow("read only: named now") << QStringLiteral("readonly") << false << QStringLiteral("\" can only be read.");
+    }
+    void openingExistingFile()
+    {
+        QFETCH(QString, state);
+        QFETCH(bool, connected);
+        QFETCH(QString, message);
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        const QString path = QDir(dir.path()).filePath(myDB::getCurDBFileName(QStringLiteral("2026")));
+        if (state == u"empty") {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+        } else {
+            myDB made(dir.path(), QStringLiteral("2026"));
+        }
+        std::thread holder;
+        std::atomic<bool> held = false;
+        if (state == u"locked") {
+            holder = std::thread([&] {
+                SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
+                other.exec("BEGIN EXCLUSIVE");
+                held = true;
+                std::this_thread::sleep_for(std::chrono::milliseconds(300));
+                other.exec("COMMIT");
+            });
+            while (!held)
+                std::this_thread::yield();
+        }
+        ReadOnlyFile readOnly;
+        if (state == u"readonly" && !readOnly.make(path))
+            QSKIP("this file system lets the test's user write to any file");
+
+        myDB db(dir.path(), QStringLiteral("2026"));
+        if (holder.joinable())
+            holder.join();
+        QCOMPARE(db.isConnected(), connected);
+        if (message.isEmpty()) {
+            QCOMPARE(fake.messages.texts(), QStringList());
+            QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name <> "
+                                              "'sqlite_sequence'")).toInt(), int(schema::tableNames().size()));
+            QVERIFY(db.exec(QStringLiteral("INSERT INTO Teams (TeamName) VALUES ('Hawks')")));
+        } else {
+            QCOMPARE(fake.messages.shown.size(), 1);
+            QCOMPARE(fake.messages.shown.first().message,
+                     QStringLiteral("The season file \"") + QDir::toNativeSeparators(path) + message);
+        }
     }
 
     void cleanUpCompacts()

@@ -199,6 +199,40 @@ private Q_SLOTS:
         }
     }
 
+    // A damaged file can hold a season that can't name a file; the current
+    // year's season takes its place, and the coach hears the file was bad.
+    void seasonThatCannotNameAFile_data()
+    {
+        QTest::addColumn<QString>("season");
+        QTest::addColumn<bool>("replaced");
+        QTest::newRow("nothing") << QString() << true;
+        QTest::newRow("NUL") << QStringLiteral("20\u000026") << true;
+        QTest::newRow("tab") << QStringLiteral("2026\tFall") << true;
+        QTest::newRow("line end") << QStringLiteral("2026\n") << true;
+        QTest::newRow("slash") << QStringLiteral("2026/Fall") << true;
+        QTest::newRow("backslash") << QStringLiteral("..\\2026") << true;
+        QTest::newRow("blanks, quotes and accents stay") << QStringLiteral("Fall '26 Légion") << false;
+    }
+    void seasonThatCannotNameAFile()
+    {
+        QFETCH(QString, season);
+        QFETCH(bool, replaced);
+        fakes::FakePlatform fake;
+        QTemporaryDir root;
+        {
+            myPrefs prefs(root.path());
+            prefs.prSeason = season;
+            prefs.prHomeTeam = QStringLiteral("3");
+            prefs.writePrefs();
+        }
+        myPrefs again(root.path());
+        QCOMPARE(again.prSeason, replaced ? QStringLiteral("2026") : season);
+        QCOMPARE(again.prHomeTeam, QStringLiteral("3"));
+        QCOMPARE(again.prefsDirty, replaced);
+        QCOMPARE(fake.messages.texts(), replaced ? QStringList{QStringLiteral("There was a file error reading the Prefs File")}
+                                                 : QStringList());
+    }
+
     void damagedCountIsRefused()
     {
         fakes::FakePlatform fake;

@@ -221,16 +221,14 @@ private Q_SLOTS:
         const QString folder = gPrefs->strdDataLoc;
         { myDB other(folder, QStringLiteral("2025 Fall")); }
         QFile::copy(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite")), QDir(folder).filePath(QStringLiteral("notes.txt")));
-        const QByteArray prefsBefore = readFile(gPrefs->prefsFilePath());
 
         startScrn1 *start = startScrn1::showStartScreen();
         QCOMPARE(popupItems(start->SelectSeasonPop), (QStringList{"Select Season", "2025 Fall", "2026"}));
 
-        // Choosing a season switches the open file without dirtying the preferences.
+        // Choosing a season switches the open file and is kept for the next start.
         start->SelectSeasonPop->setCurrentIndex(1);
         QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
         QVERIFY(gData->filePath().endsWith(QStringLiteral("tlData_2025 Fall.sqlite")));
-        QVERIFY(!gPrefs->prefsDirty);
 
         // "Select Season" does nothing.
         myDB *current = gData;
@@ -248,9 +246,46 @@ private Q_SLOTS:
         QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
         QCOMPARE(gData, current);
 
-        // Quitting after only a switch leaves the old season in the file.
         app.Event_Close();
-        QCOMPARE(readFile(gPrefs->prefsFilePath()), prefsBefore);
+        QCOMPARE(myPrefs(home.path()).prSeason, QStringLiteral("2025 Fall"));
+    }
+
+    // A season that can't be opened: the start screen names it, the screens
+    // that write can't be reached, and choosing a good season brings them back.
+    void unopenedSeasonIsNeverTypedInto()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        const QString folder = myPrefs::dataFolderFor(home.path());
+        QVERIFY(QDir().mkpath(folder));
+        { myDB good(folder, QStringLiteral("2025")); }
+        const QString damaged = QDir(folder).filePath(myDB::getCurDBFileName(QStringLiteral("2026")));
+        {
+            QFile f(damaged);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(QByteArray("SQLite format 3") + QByteArray(4096, 'z'));
+        }
+        for (ScreenId id : {ScreenId::teamScrn, ScreenId::reportIntroScrn})
+            screens::registerScreen(id, [id] { return new ScreenBase(id, QStringLiteral("Screen"), {}); });
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        QCOMPARE(fake.messages.shown.size(), 1);
+
+        startScrn1 *start = startScrn1::showStartScreen();
+        auto *teams = start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"));
+        auto *reports = start->findChild<QPushButton *>(QStringLiteral("reportBtn"));
+        QVERIFY(!teams->isEnabled());
+        QVERIFY(reports->isEnabled());
+        QVERIFY(start->seasonProblemLabel->isVisibleTo(start));
+        QCOMPARE(start->seasonProblemLabel->text(), QStringLiteral("The season file \"") + QDir::toNativeSeparators(damaged) +
+                                                        QStringLiteral("\" could not be opened. Choose another season above."));
+
+        start->SelectSeasonPop->setCurrentIndex(start->SelectSeasonPop->findText(QStringLiteral("2025")));
+        QVERIFY(gData->isConnected());
+        QVERIFY(teams->isEnabled());
+        QVERIFY(!start->seasonProblemLabel->isVisibleTo(start));
+        for (ScreenId id : {ScreenId::teamScrn, ScreenId::reportIntroScrn})
+            screens::unregisterScreen(id);
     }
 
     void emptyDataFolderOffersOnlySelectSeason()

@@ -18,6 +18,7 @@
 #include "support/ui/qlmCheckBox.h"
 
 #include <QAction>
+#include <QBuffer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -280,6 +281,52 @@ private Q_SLOTS:
         QVERIFY(!screen->menuBar()->item(QStringLiteral("Help"))->isEnabled());
         QVERIFY(!screen->menuBar()->item(QStringLiteral("Abbrev"))->isEnabled());
         QVERIFY(screen->menuBar()->item(QStringLiteral("FilePrinterSetup"))->isEnabled());
+    }
+
+    // A chosen picture larger than 1,024 pixels on its long side is scaled
+    // down to 1,024; a smaller one stays as it is.
+    void chosenLogoSize_data()
+    {
+        QTest::addColumn<QSize>("chosen");
+        QTest::addColumn<QSize>("kept");
+        QTest::newRow("wide phone photo") << QSize(3000, 1500) << QSize(1024, 512);
+        QTest::newRow("tall") << QSize(600, 2400) << QSize(256, 1024);
+        QTest::newRow("exactly 1024") << QSize(1024, 700) << QSize(1024, 700);
+        QTest::newRow("small") << QSize(64, 48) << QSize(64, 48);
+    }
+    void chosenLogoSize()
+    {
+        QFETCH(QSize, chosen);
+        QFETCH(QSize, kept);
+        Session s;
+        auto screen = open();
+        s.fake.files.answers.enqueue(fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), chosen, Qt::red));
+        clickHalf(screen->PlusMinusTeamLogo, true);
+        QCOMPARE(screen->LogoCvn->picture().size(), kept);
+    }
+
+    // Saving a team whose logo didn't change writes the stored bytes back
+    // as they are, whatever format they hold: nothing is decoded and encoded.
+    void unchangedLogoKeepsItsBytes()
+    {
+        Session s;
+        QByteArray jpeg;
+        {
+            QImage crest(40, 30, QImage::Format_RGB32);
+            crest.fill(Qt::darkGreen);
+            QBuffer buffer(&jpeg);
+            buffer.open(QIODevice::WriteOnly);
+            crest.save(&buffer, "JPEG", 75);
+        }
+        gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Cougars")},
+                                                 {QStringLiteral("TeamLogo"), jpeg}});
+        auto screen = open();
+        screen->teamList->setSelectedRow(0);
+        QCOMPARE(screen->LogoCvn->picture().size(), QSize(40, 30));
+        typeInto(screen->cityFld, QStringLiteral("Dublin"));
+        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT SchoolCity FROM Teams")).toString(), QStringLiteral("Dublin"));
+        QVERIFY(gData->scalar(QStringLiteral("SELECT TeamLogo FROM Teams")).toByteArray() == jpeg);
     }
 
     // A new value of a combo box is offered once it is saved.

@@ -91,7 +91,7 @@ private Q_SLOTS:
     }
 
     // The first home team needs no question; a different one asks, and only
-    // "Change" changes it. Choosing it doesn't dirty the preferences.
+    // "Change" changes it. A chosen home team is kept for the next start.
     void homeTeamRules_data()
     {
         QTest::addColumn<bool>("secondByEdit");
@@ -114,6 +114,8 @@ private Q_SLOTS:
         const QString first = book.save(team(QStringLiteral("Central"), QStringLiteral("Cougars")), true).teamID;
         QCOMPARE(f.prefs->prHomeTeam, first);
         QVERIFY(fake.messages.shown.isEmpty());
+        QVERIFY(f.prefs->prefsDirty);
+        f.prefs->prefsDirty = false;
 
         QString second;
         if (secondByEdit) {
@@ -134,7 +136,7 @@ private Q_SLOTS:
         QCOMPARE(asked.actionCaption, QStringLiteral("Change"));
         QCOMPARE(asked.altCaption, QString());
         QCOMPARE(f.prefs->prHomeTeam, changed ? second : first);
-        QVERIFY(!f.prefs->prefsDirty);
+        QCOMPARE(f.prefs->prefsDirty, changed);
 
         // Saving the home team again asks nothing.
         fake.messages.clear();
@@ -169,6 +171,7 @@ private Q_SLOTS:
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {other}), 1);
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Coaches")), 1);
         QVERIFY(f.prefs->prHomeTeam.isEmpty());
+        QVERIFY(f.prefs->prefsDirty);
 
         // A team left without a home team can't close the screen.
         fake.messages.clear();

@@ -369,6 +369,39 @@ private Q_SLOTS:
         QCOMPARE(request.suggestedName, QStringLiteral("Inventory"));
     }
 
+    // The dialog starts in the documents folder (home without one), and a
+    // name typed without an extension gets ".txt".
+    void exportNameAndFolder_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<bool>("documents");
+        QTest::newRow("no extension") << "roster" << "roster.txt" << true;
+        QTest::newRow(".txt kept") << "roster.txt" << "roster.txt" << false;
+        QTest::newRow("another extension kept") << "roster.tsv" << "roster.tsv" << true;
+        QTest::newRow("dot in a folder only") << "my.lists/roster" << "my.lists/roster.txt" << false;
+    }
+    void exportNameAndFolder()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, written);
+        QFETCH(bool, documents);
+        fakes::FakePlatform fake;
+        QDir home = QDir::home();
+        QDir(home.filePath("Documents")).removeRecursively();
+        if (documents)
+            QVERIFY(home.mkpath("Documents"));
+        QVERIFY(QDir(m_dir.path()).mkpath("my.lists"));
+        fake.files.answers.enqueue(m_dir.filePath(typed));
+        qlmListBox list;
+        fill(list, 1, 1);
+        list.exportMe("Roster");
+        QVERIFY(QFile::exists(m_dir.filePath(written)));
+        QCOMPARE(fake.files.calls.first().request.initialDir,
+                 documents ? home.filePath("Documents") : QDir::homePath());
+        QDir(home.filePath("Documents")).removeRecursively();
+    }
+
     void exportCancelledOrUnwritable()
     {
         fakes::FakePlatform fake;

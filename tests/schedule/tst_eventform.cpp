@@ -13,8 +13,8 @@
 
 namespace {
 
-const QList<OpponentEntry> kTeams = {{QStringLiteral("Bears"), QStringLiteral("4")},
-                                     {QStringLiteral("O'Brien's Nine"), QStringLiteral("7")}};
+const QList<OpponentEntry> kTeams = {{QStringLiteral("Bears"), QStringLiteral("4"), {}},
+                                     {QStringLiteral("O'Brien's Nine"), QStringLiteral("7"), {}}};
 
 // A form as the editor fills it for a new event with a date picked.
 EventForm pickedForm(const QString &type)
@@ -244,7 +244,7 @@ private Q_SLOTS:
         QCOMPARE(EventForm::hours().first(), QStringLiteral("1"));
         QCOMPARE(EventForm::minutes(),
                  (QStringList{"00", "05", "10", "15", "20", "25", "30", "35", "40", "45", "50", "55"}));
-        QCOMPARE(EventForm::opponentEntries(kTeams).last(), (OpponentEntry{"N/A", "-1"}));
+        QCOMPARE(EventForm::opponentEntries(kTeams).last(), (OpponentEntry{"N/A", "-1", {}}));
     }
 };
 

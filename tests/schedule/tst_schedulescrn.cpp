@@ -307,23 +307,27 @@ private Q_SLOTS:
 
         screen->filterPop->setCurrentIndex(screen->filterPop->findText(QStringLiteral("Game")));
         QCOMPARE(tags(list), (QStringList{QString::number(id[0]), QString::number(id[2]), QString::number(id[4])}));
-        // The third game dragged onto the first: its position is written at once.
+        // The third game dragged onto the first: the games swap places among
+        // all events at once, and the practices keep theirs.
         dragRow(list, 2, 0);
         QCOMPARE(tags(list), (QStringList{QString::number(id[4]), QString::number(id[0]), QString::number(id[2])}));
-        QCOMPARE(positions(), (QMap<qint64, qint64>{{id[0], 0}, {id[1], 1}, {id[2], 2}, {id[3], 3}, {id[4], 0}}));
+        QCOMPARE(positions(), (QMap<qint64, qint64>{{id[4], 0}, {id[1], 1}, {id[0], 2}, {id[3], 3}, {id[2], 4}}));
 
-        // Show All orders by the positions as written; ties keep the older event first.
+        // Show All has the order the coach arranged.
         screen->filterPop->setCurrentIndex(screen->filterPop->findText(QStringLiteral("Show All")));
-        QCOMPARE(tags(list), (QStringList{QString::number(id[0]), QString::number(id[4]), QString::number(id[1]),
-                                          QString::number(id[2]), QString::number(id[3])}));
+        QCOMPARE(tags(list), (QStringList{QString::number(id[4]), QString::number(id[1]), QString::number(id[0]),
+                                          QString::number(id[3]), QString::number(id[2])}));
 
-        // Alt+Down moves the selected row too; closing numbers the whole list.
+        // Ctrl+Down and Ctrl+Up move the selected row from the keyboard.
         list->setFocus();
         list->setSelectedRow(0);
-        QTest::keyClick(list, Qt::Key_Down, Qt::AltModifier);
-        QCOMPARE(positions().value(id[0]), 1);
+        QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
+        QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
+        QTest::keyClick(list, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(list->selectedRow(), 1);
+        QCOMPARE(positions(), (QMap<qint64, qint64>{{id[1], 0}, {id[4], 1}, {id[0], 2}, {id[3], 3}, {id[2], 4}}));
         screen->close();
-        QCOMPARE(positions(), (QMap<qint64, qint64>{{id[4], 0}, {id[0], 1}, {id[1], 2}, {id[2], 3}, {id[3], 4}}));
+        QCOMPARE(positions(), (QMap<qint64, qint64>{{id[1], 0}, {id[4], 1}, {id[0], 2}, {id[3], 3}, {id[2], 4}}));
     }
 
     void printAndExport()

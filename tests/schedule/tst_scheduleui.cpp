@@ -305,6 +305,93 @@ private Q_SLOTS:
         QCOMPARE(gData->scalar("SELECT COUNT(*) FROM Schedule").toInt(), 0);
     }
 
+    // Two teams of one name: the popup tells them apart, and the event keeps
+    // the one it was made against.
+    void opponentIsKeptById()
+    {
+        Season season;
+        const qint64 westBears = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")},
+                                                                         {QStringLiteral("SchoolName"), QStringLiteral("Westside")}});
+        eventClass game;
+        game.mDate = QDate(2026, 4, 18);
+        game.busTime = game.startTime = QStringLiteral("---");
+        game.eventType = QStringLiteral("Game");
+        game.opponent = QStringLiteral("Bears");
+        game.oppID = QString::number(westBears);
+        game.isHome = 1;
+        const qint64 id = ScheduleStore(*gData).insert(game);
+
+        newEventScrn editor;
+        QVERIFY(editor.loadEvent(id));
+        QCOMPARE(editor.opponentBox->itemText(0), QStringLiteral("Bears (team %1)").arg(season.bearsID));
+        QCOMPARE(editor.opponentBox->itemText(1), QStringLiteral("Bears (Westside)"));
+        QCOMPARE(editor.opponentBox->itemText(2), QStringLiteral("O'Brien's Nine"));
+        QCOMPARE(editor.opponentBox->currentText(), QStringLiteral("Bears (Westside)"));
+        QVERIFY(editor.setEventProperties());
+        QCOMPARE(*editor.result(), game);
+    }
+
+    // What the coach types into the hour and minute boxes is the time kept.
+    void typedTimesStayAsTyped_data()
+    {
+        QTest::addColumn<QString>("hour");
+        QTest::addColumn<QString>("minute");
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("5 minutes, not 55") << "7" << "5" << "7:05 PM";
+        QTest::newRow("1 minute, not 10") << "12" << "1" << "12:01 PM";
+        QTest::newRow("0 minutes, not 00 by chance") << "1" << "0" << "1:00 PM";
+        QTest::newRow("two digits") << "10" << "35" << "10:35 PM";
+    }
+    void typedTimesStayAsTyped()
+    {
+        QFETCH(QString, hour);
+        QFETCH(QString, minute);
+        QFETCH(QString, stored);
+        Season season;
+        newEventScrn editor;
+        editor.show();
+        editor.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        editor.setPickedDate(QDate(2026, 5, 9));
+        editor.eventTypeBox->setEditText(QStringLiteral("Meeting"));
+        typeInto(editor.gameHour, hour);
+        typeInto(editor.gameMinute, minute);
+        typeInto(editor.gameAMPM, QStringLiteral("PM"));
+        leave(editor.gameAMPM);
+        QCOMPARE(editor.gameMinute->currentText(), minute);
+        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QVERIFY(editor.result());
+        QCOMPARE(editor.result()->startTime, stored);
+    }
+
+    // One click makes an away game a home game and back; only the program
+    // sets the undecided state.
+    void homeGameTakesOneClick_data()
+    {
+        QTest::addColumn<int>("before");
+        QTest::addColumn<int>("after");
+        QTest::newRow("away to home") << int(Qt::Unchecked) << int(Qt::Checked);
+        QTest::newRow("home to away") << int(Qt::Checked) << int(Qt::Unchecked);
+        QTest::newRow("undecided to home") << int(Qt::PartiallyChecked) << int(Qt::Checked);
+    }
+    void homeGameTakesOneClick()
+    {
+        QFETCH(int, before);
+        QFETCH(int, after);
+        Season season;
+        newEventScrn editor;
+        editor.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&editor));
+        editor.eventTypeBox->setCurrentIndex(editor.eventTypeBox->findText(QStringLiteral("Game")));
+        QVERIFY(editor.homeCheck->isEnabled());
+        editor.homeCheck->setCheckState(Qt::CheckState(before));
+        // On the box itself, where a coach clicks.
+        QTest::mouseClick(editor.homeCheck, Qt::LeftButton, {}, QPoint(8, editor.homeCheck->height() / 2));
+        QCOMPARE(int(editor.homeCheck->checkState()), after);
+        QTest::keyClick(editor.homeCheck, Qt::Key_Space);
+        QCOMPARE(int(editor.homeCheck->checkState()), after == Qt::Checked ? int(Qt::Unchecked) : int(Qt::Checked));
+    }
+
     void editingFillsTheEditor()
     {
         Season season;
@@ -336,7 +423,7 @@ private Q_SLOTS:
         QCOMPARE(*editor.result(), game);
 
         // An opponent that is gone shows as "N/A"; an unreadable date must be picked again.
-        gData->exec("UPDATE Schedule SET SchedDate = '18.4.26', Opponent = 'Owls' WHERE eventID = ?", {id});
+        gData->exec("UPDATE Schedule SET SchedDate = '18.4.26', Opponent = 'Owls', OppID = '99' WHERE eventID = ?", {id});
         newEventScrn old;
         QVERIFY(old.loadEvent(id));
         QCOMPARE(old.opponentBox->currentText(), QStringLiteral("N/A"));

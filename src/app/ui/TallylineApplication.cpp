@@ -2,6 +2,8 @@
 
 #include "platform/Services.h"
 
+#include <QIcon>
+
 #include <exception>
 
 TallylineApplication::TallylineApplication(int &argc, char **argv) : QApplication(argc, argv)
@@ -11,6 +13,14 @@ TallylineApplication::TallylineApplication(int &argc, char **argv) : QApplicatio
     setOrganizationName(QStringLiteral("QLM"));
     setApplicationVersion(QStringLiteral("2.2.0"));
     setQuitOnLastWindowClosed(true);
+    // The desktop entry's name, so the desktop shows the installed icon for
+    // the program's windows; the built-in icon serves a program run from
+    // its build folder.
+    setDesktopFileName(QStringLiteral("org.tallyline.Baseball"));
+    QIcon icon;
+    icon.addFile(QStringLiteral(":/app/tallyline-64.png"));
+    icon.addFile(QStringLiteral(":/app/tallyline-256.png"));
+    setWindowIcon(icon);
 }
 
 bool TallylineApplication::notify(QObject *receiver, QEvent *event)

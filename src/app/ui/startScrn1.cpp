@@ -8,6 +8,7 @@
 #include "app/ui/ScreenDirectory.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -21,6 +22,14 @@ using namespace Qt::StringLiterals;
 namespace {
 QPointer<startScrn1> g_startScreen;
 const QString kSelectSeason = QStringLiteral("Select Season");
+
+// The screens from which a coach types into the season.
+bool writesSeason(ScreenId target)
+{
+    return target == ScreenId::teamScrn || target == ScreenId::personnelScrn || target == ScreenId::scheduleScrn
+           || target == ScreenId::InventoryScrn || target == ScreenId::eventsCalendarScrn
+           || target == ScreenId::contactInfoScrn;
+}
 } // namespace
 
 LogoCanvas::LogoCanvas(QWidget *parent) : QWidget(parent)
@@ -82,6 +91,13 @@ startScrn1::startScrn1(QWidget *parent)
     left->addSpacing(12);
     left->addWidget(seasonLabel);
     left->addWidget(SelectSeasonPop);
+    seasonProblemLabel = new QLabel(central);
+    seasonProblemLabel->setObjectName(QStringLiteral("seasonProblemLabel"));
+    seasonProblemLabel->setWordWrap(true);
+    seasonProblemLabel->setMaximumWidth(220);
+    seasonProblemLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    seasonProblemLabel->hide();
+    left->addWidget(seasonProblemLabel);
     left->addStretch(1);
     left->addWidget(helpBtn, 0, Qt::AlignLeft);
 
@@ -184,6 +200,7 @@ QPushButton *startScrn1::addTargetButton(const QString &objectName, const QStrin
     button->setMinimumHeight(36);
     // A screen that isn't part of the program yet can't be opened.
     button->setEnabled(screens::has(target));
+    m_targets.append({button, target});
     // These open beside the start screen; the others take its place.
     const bool closeStart = target != ScreenId::eventsCalendarScrn && target != ScreenId::contactInfoScrn
                             && target != ScreenId::standingsScrn;
@@ -224,6 +241,7 @@ void startScrn1::showEvent(QShowEvent *event)
     }
     setPopupList();
     setLogo_Name();
+    showSeasonState();
     if (App::instance() && App::instance()->BUTimer)
         App::instance()->BUTimer->setMode(myTimerClass::ModeOff);
 }
@@ -262,8 +280,24 @@ void startScrn1::seasonChosen(int row)
     App *app = App::instance();
     if (m_fillingPopup || row < 0 || !app)
         return;
-    if (app->selectSeason(SelectSeasonPop->itemText(row)) == App::SeasonChoice::Switched)
+    if (app->selectSeason(SelectSeasonPop->itemText(row)) == App::SeasonChoice::Switched) {
         setLogo_Name();
+        showSeasonState();
+    }
+}
+
+void startScrn1::showSeasonState()
+{
+    const QString unopened = App::instance() ? App::instance()->unopenedSeasonFile() : QString();
+    for (const auto &[button, target] : std::as_const(m_targets))
+        button->setEnabled(screens::has(target) && (unopened.isEmpty() || !writesSeason(target)));
+    const QString text = unopened.isEmpty()
+                             ? QString()
+                             : QStringLiteral("The season file \"") + QDir::toNativeSeparators(unopened) +
+                                   QStringLiteral("\" could not be opened. Choose another season above.");
+    seasonProblemLabel->setText(text);
+    seasonProblemLabel->setAccessibleName(text);
+    seasonProblemLabel->setVisible(!text.isEmpty());
 }
 
 void startScrn1::showAbout()

@@ -34,6 +34,8 @@ public:
 
     QComboBox *SelectSeasonPop = nullptr;
     QLabel *teamNameLabel = nullptr;
+    // Names the season file that could not be opened; hidden while a season is open.
+    QLabel *seasonProblemLabel = nullptr;
     LogoCanvas *LogoHolder = nullptr;
     QPushButton *helpBtn = nullptr;
     MainMenuBar *menuBar() const { return menus(); }
@@ -46,10 +48,13 @@ private:
     void installMenuHandlers();
     void openTarget(ScreenId target, bool closeStart);
     void seasonChosen(int row);
+    // Screens that write into the season can't open while none is open.
+    void showSeasonState();
     void showAbout();
 
     bool m_fillingPopup = false;
     bool m_placed = false;
+    QList<std::pair<QPushButton *, ScreenId>> m_targets;
 };
 
 // Paints the home team's logo scaled to its area.

@@ -238,7 +238,9 @@ bool qlmListBox::moveRowByUser(int from, int to)
 
 void qlmListBox::keyPressEvent(QKeyEvent *event)
 {
-    if (rowsMovable() && event->modifiers() == Qt::AltModifier
+    // Ctrl or Alt with an arrow moves the selected row: the drag's keyboard way.
+    const Qt::KeyboardModifiers mods = event->modifiers() & ~Qt::KeypadModifier;
+    if (rowsMovable() && (mods == Qt::ControlModifier || mods == Qt::AltModifier)
         && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
         const int from = selectedRow();
         if (from >= 0) {
@@ -398,7 +400,8 @@ void qlmListBox::exportMe(const QString &title)
     request.prompt = QStringLiteral("Choose a location for the exported list.");
     request.suggestedName = title;
     request.nameFilters = {QStringLiteral("Text files (*.txt)")};
-    const QString path = platform::files().saveFile(request);
+    request.initialDir = ListBoxText::exportFolder();
+    const QString path = ListBoxText::exportFilePath(platform::files().saveFile(request));
     if (path.isEmpty())
         return;
     // Written to a temporary file and renamed over the target when complete,

@@ -45,6 +45,17 @@ QIcon calendarIcon()
     return QIcon(pixmap);
 }
 
+// A three-state box whose undecided state only the program sets: a click
+// goes between checked and unchecked.
+class TwoWayCheckBox : public QCheckBox
+{
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
+};
+
 // An editable box that shows nothing chosen and nothing typed.
 void clearEditable(QComboBox *box)
 {
@@ -100,7 +111,7 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
     locationBox = rows.comboBox(u"locationBox"_s, u"&Location:"_s, form::Editable);
     locationBox->installEventFilter(this);
 
-    homeCheck = form::make<QCheckBox>(this, u"homeCheck"_s, u"Home Game"_s, u"&Home Game"_s);
+    homeCheck = form::make<TwoWayCheckBox>(this, u"homeCheck"_s, u"Home Game"_s, u"&Home Game"_s);
     homeCheck->setTristate(true);
     homeCheck->setCheckState(Qt::PartiallyChecked);
     homeCheck->setEnabled(false);
@@ -133,6 +144,7 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
 
 QComboBox *newEventScrn::timeBox(const QString &name, const QString &accessible, const QStringList &items, bool numbers)
 {
+    // No completion: a typed "5" is five minutes, not the list's "55".
     QComboBox *box = form::comboBox(this, name, accessible, form::Editable);
     box->addItems(items);
     clearEditable(box);
@@ -151,8 +163,8 @@ void newEventScrn::fill()
     {
         const QSignalBlocker block(opponentBox);
         opponentBox->clear();
-        for (const OpponentEntry &entry : m_form.opponents)
-            opponentBox->addItem(entry.name, entry.tag);
+        for (int i = 0; i < m_form.opponents.size(); ++i)
+            opponentBox->addItem(m_form.opponentLabel(i), m_form.opponents.at(i).tag);
         opponentBox->setCurrentIndex(-1);
     }
     const QSignalBlocker block(locationBox);
@@ -201,7 +213,8 @@ void newEventScrn::readForm()
     m_form.gameAMPM = gameAMPM->currentText();
     m_form.eventType = eventTypeBox->currentText();
     m_form.opponentIndex = opponentBox->currentIndex();
-    m_form.opponentText = opponentBox->currentText();
+    const bool listed = m_form.opponentIndex >= 0 && m_form.opponentIndex < m_form.opponents.size();
+    m_form.opponentText = listed ? m_form.opponents.at(m_form.opponentIndex).name : QString();
     m_form.location = locationBox->currentText();
     m_form.homeState = homeCheck->checkState();
 }

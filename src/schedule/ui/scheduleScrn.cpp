@@ -44,7 +44,7 @@ scheduleScrn::scheduleScrn(QWidget *parent)
                                        u"95,85,85,110,150,*,30"_s);
     ScheduleListbox->setRowsMovable(true);
     ScheduleListbox->setToolTip(u"Enter edits the event, Delete removes it; drag a row, or press "
-                                "Alt+Up / Alt+Down, to change the order"_s);
+                                "Ctrl+Up / Ctrl+Down, to change the order"_s);
     ScheduleListbox->installEventFilter(this);
     outer->addWidget(ScheduleListbox, 1);
     schedIDLabel = form::valueLabel(central, u"schedIDLabel"_s, u"Selected event"_s);
@@ -221,12 +221,12 @@ void scheduleScrn::deleteEvent()
     selectionChanged();
 }
 
-void scheduleScrn::rowMoved(int, int to)
+void scheduleScrn::rowMoved(int, int)
 {
     QList<qint64> order;
     for (int r = 0; r < ScheduleListbox->rowCount(); ++r)
         order.append(ScheduleListbox->rowTag(r).toLongLong());
-    m_schedule.rowsReordered(order, ScheduleListbox->rowTag(to).toLongLong());
+    m_schedule.rowsReordered(order);
 }
 
 void scheduleScrn::saveLBandPos()

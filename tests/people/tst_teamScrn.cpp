@@ -168,9 +168,11 @@ private Q_SLOTS:
     {
         Session s;
         const qint64 cougars = s.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central"), {}, true);
-        s.addTeam(QStringLiteral("Wolves"), QStringLiteral("West"));
+        const qint64 wolves = s.addTeam(QStringLiteral("Wolves"), QStringLiteral("West"));
         s.addPlayer(cougars, QStringLiteral("A"), QStringLiteral("Reyes"));
         s.addPlayer(cougars, QStringLiteral("A"), QStringLiteral("Cole"));
+        s.addPlayer(wolves, QStringLiteral("C"), QStringLiteral("Diaz"));
+        s.addCoach(cougars, QStringLiteral("D"), QStringLiteral("Ewing"));
         auto screen = open();
         QCOMPARE(screen->teamList->rowCount(), 2);
         screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Cougars")));
@@ -184,8 +186,12 @@ private Q_SLOTS:
         QCOMPARE(s.fake.messages.texts().last(), QStringLiteral("Ok to delete Central Cougars from the Teams List?"));
         QCOMPARE(screen->teamList->rowCount(), 1);
         QCOMPARE(screen->teamList->cell(0, 1), QStringLiteral("Wolves"));
-        QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Players")).toInt(), 0);
+        // Its players go with it; other teams' players and the coaches stay.
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {cougars}), 0);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {wolves}), 1);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Coaches")), 1);
         QVERIFY(gPrefs->prHomeTeam.isEmpty());
+        QVERIFY(gPrefs->prefsDirty);
         QCOMPARE(screen->teamFld->text(), QString());
         QVERIFY(!screen->close()); // Wolves remain, and none is the home team
     }

@@ -144,43 +144,6 @@ private Q_SLOTS:
         QVERIFY(fake.messages.shown.isEmpty());
     }
 
-    void deleteTeamTakesItsPlayersOnly()
-    {
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        TeamBook book(*f.db, *f.prefs);
-        const QString home = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        const QString other = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
-        f.prefs->prHomeTeam = home;
-        f.addPlayer(home, QStringLiteral("Al"), QStringLiteral("Reyes"));
-        f.addPlayer(home, QStringLiteral("Ben"), QStringLiteral("Cole"));
-        f.addPlayer(other, QStringLiteral("Cal"), QStringLiteral("Diaz"));
-        f.addCoach(home, QStringLiteral("Dee"), QStringLiteral("Ewing"));
-
-        // Cancel keeps everything.
-        fake.messages.answers.enqueue(platform::MsgCancel);
-        QVERIFY(!book.askAndDelete({home, QStringLiteral("Central"), QStringLiteral("Cougars")}));
-        QCOMPARE(fake.messages.shown.first().message, QStringLiteral("Ok to delete Central Cougars from the Teams List?"));
-        QCOMPARE(fake.messages.shown.first().explanation, QStringLiteral("The players from this team will also be deleted."));
-        QCOMPARE(fake.messages.shown.first().actionCaption, QStringLiteral("Delete"));
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 3);
-
-        QVERIFY(book.askAndDelete({home, QStringLiteral("Central"), QStringLiteral("Cougars")}));
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {home}), 0);
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {other}), 1);
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Coaches")), 1);
-        QVERIFY(f.prefs->prHomeTeam.isEmpty());
-        QVERIFY(f.prefs->prefsDirty);
-
-        // A team left without a home team can't close the screen.
-        fake.messages.clear();
-        QVERIFY(!book.mayClose());
-        QCOMPARE(fake.messages.texts(), QStringList{"Please designate a 'Home Team'"});
-        f.prefs->prHomeTeam = other;
-        QVERIFY(book.mayClose());
-    }
-
     // When the team row can't go, its players stay too.
     void deleteIsAllOrNothing()
     {

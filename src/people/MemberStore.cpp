@@ -45,9 +45,17 @@ qint64 MemberStore::add(const MemberRecord &member)
     return m_db.insert(MemberRecord::table(member.kind), member.toFields());
 }
 
+bool MemberStore::exists(MemberKind kind, const QString &id) const
+{
+    return m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM ") + MemberRecord::table(kind) + QStringLiteral(" WHERE ") +
+                           MemberRecord::keyColumn(kind) + QStringLiteral(" = ?"),
+                       {id})
+               .toInt() > 0;
+}
+
 bool MemberStore::update(const MemberRecord &member)
 {
-    if (member.id.isEmpty() || !this->member(member.kind, member.id))
+    if (member.id.isEmpty() || !exists(member.kind, member.id))
         return false;
     return m_db.update(MemberRecord::table(member.kind), member.toFields(), MemberRecord::keyColumn(member.kind),
                        member.id);

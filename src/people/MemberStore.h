@@ -19,6 +19,8 @@ public:
     // A team's players or coaches in the order the file gives them.
     QList<MemberListRow> list(MemberKind kind, const QString &teamID) const;
     std::optional<MemberRecord> member(MemberKind kind, const QString &id) const;
+    // Whether the row is there, without reading (and decoding) its picture.
+    bool exists(MemberKind kind, const QString &id) const;
     // Every player of a team, in full (for printing).
     QList<MemberRecord> players(const QString &teamID) const;
 

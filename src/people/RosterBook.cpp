@@ -37,7 +37,7 @@ bool RosterBook::edit(MemberRecord member, const QString &tradeTo)
         return false;
     if (!tradeTo.isEmpty())
         member.TeamNum = tradeTo;
-    if (!m_store.member(member.kind, member.id)) {
+    if (!m_store.exists(member.kind, member.id)) {
         gMsgBox(QStringLiteral("Unable to update team"));
         return false;
     }

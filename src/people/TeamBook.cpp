@@ -29,7 +29,7 @@ TeamBook::SaveResult TeamBook::save(const TeamRecord &team, bool markHome)
             becomeHome(newID, !m_prefs.prHomeTeam.isEmpty());
         return {Saved::Added, newID};
     }
-    if (!m_store.team(team.teamID)) {
+    if (!m_store.exists(team.teamID)) {
         gMsgBox(QStringLiteral("Unable to update team"));
         return {Saved::Failed, team.teamID};
     }

@@ -29,6 +29,11 @@ std::optional<TeamRecord> TeamStore::team(const QString &teamID) const
     return TeamRecord::fromRecord(rows.first());
 }
 
+bool TeamStore::exists(const QString &teamID) const
+{
+    return m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM Teams WHERE teamID = ?"), {teamID}).toInt() > 0;
+}
+
 int TeamStore::count() const
 {
     return m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM Teams")).toInt();
@@ -67,7 +72,7 @@ qint64 TeamStore::add(const TeamRecord &team)
 
 bool TeamStore::update(const TeamRecord &team)
 {
-    if (team.teamID.isEmpty() || !this->team(team.teamID))
+    if (team.teamID.isEmpty() || !exists(team.teamID))
         return false;
     return m_db.update(QStringLiteral("Teams"), team.toFields(), QStringLiteral("teamID"), team.teamID);
 }

@@ -22,6 +22,8 @@ public:
     // Every team in full, in the order the file gives them.
     QList<TeamRecord> allTeams() const;
     std::optional<TeamRecord> team(const QString &teamID) const;
+    // Whether the row is there, without reading (and decoding) its logo.
+    bool exists(const QString &teamID) const;
     int count() const;
     // The distinct non-empty values of League, Division or HomeField.
     QStringList distinctValues(const QString &column) const;

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -24,42 +25,36 @@
 #include <unistd.h>
 
 // Makes a file that can't be opened for writing, even by root: without
-// write permission, and immutable where the file system allows it.
-class ReadOnlyFile
+// write permission, and immutable where the file system allows it. True
+// when the file is read-only now.
+bool makeReadOnly(const QString &path)
 {
-public:
-    bool make(const QString &path)
-    {
-        m_path = path;
-        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther);
-        if (!QFileInfo(path).isWritable() || !canWrite())
-            return true;
-        m_immutable = setImmutable(true);
-        return m_immutable && !canWrite();
-    }
-    ~ReadOnlyFile()
-    {
-        if (m_immutable)
-            setImmutable(false);
-    }
-
-private:
-    bool canWrite() const { return ::access(QFile::encodeName(m_path).constData(), W_OK) == 0 && QFile(m_path).open(QIODevice::ReadWrite); }
-    bool setImmutable(bool on) const
-    {
-        const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY);
-        if (fd < 0)
-            return false;
+    QFile::setPermissions(path, QFileDevice::ReadOwner);
+    if (QFile(path).open(QIODevice::ReadWrite)) {
+        const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY);
         int flags = 0;
-        bool ok = ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
-        flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
-        ok = ok && ::ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
-        ::close(fd);
-        return ok;
+        if (fd >= 0 && ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0) {
+            flags |= FS_IMMUTABLE_FL;
+            ::ioctl(fd, FS_IOC_SETFLAGS, &flags);
+        }
+        if (fd >= 0)
+            ::close(fd);
     }
-    QString m_path;
-    bool m_immutable = false;
-};
+    return !QFile(path).open(QIODevice::ReadWrite);
+}
+
+// Lifts the immutable flag again, so the temporary folder can go.
+void makeWritable(const QString &path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY);
+    int flags = 0;
+    if (fd >= 0 && ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0 && (flags & FS_IMMUTABLE_FL)) {
+        flags &= ~FS_IMMUTABLE_FL;
+        ::ioctl(fd, FS_IOC_SETFLAGS, &flags);
+    }
+    if (fd >= 0)
+        ::close(fd);
+}
 
 class TestDatabase : public QObject
 {
@@ -296,9 +291,11 @@ private Q_SLOTS:
             while (!held)
                 std::this_thread::yield();
         }
-        ReadOnlyFile readOnly;
-        if (state == u"readonly" && !readOnly.make(path))
+        if (state == u"readonly" && !makeReadOnly(path)) {
+            makeWritable(path);
             QSKIP("this file system lets the test's user write to any file");
+        }
+        const auto cleanUp = qScopeGuard([&] { makeWritable(path); });
 
         myDB db(dir.path(), QStringLiteral("2026"));
         if (holder.joinable())

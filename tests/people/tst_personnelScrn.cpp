@@ -256,12 +256,19 @@ private Q_SLOTS:
         QVERIFY(screen->SelectPlayer->isChecked());
         QVERIFY(screen->myPlayerCtr->isVisible());
 
+        // Removing asks first; the player's season rows stay.
+        gData->exec(QStringLiteral("INSERT INTO Hitting (playerID, teamID, AB) VALUES (?, ?, 3)"), {al, s.cougars});
         s.fake.messages.clear();
-        s.fake.messages.answers.enqueue(platform::MsgAction);
+        s.answer({platform::MsgCancel, platform::MsgAction});
         clickHalf(screen->PlusMinusPlayers, false);
-        QCOMPARE(s.fake.messages.texts(), QStringList{"Are you sure you wish to remove Al Reyes from this team?"});
+        QCOMPARE(screen->playersList->rowCount(), 1);
+        screen->playersList->setSelectedRow(0);
+        clickHalf(screen->PlusMinusPlayers, false);
+        QCOMPARE(s.fake.messages.texts(), QStringList(2, "Are you sure you wish to remove Al Reyes from this team?"));
+        QCOMPARE(s.fake.messages.shown.first().actionCaption, QStringLiteral("Remove"));
         QCOMPARE(screen->playersList->rowCount(), 0);
-        QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Players WHERE playerID = ?"), {al}).toInt(), 0);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE playerID = ?"), {al}), 0);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Hitting")), 1);
         QCOMPARE(screen->FNameFld->text(), QString());
     }
 

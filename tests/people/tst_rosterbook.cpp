@@ -132,29 +132,6 @@ private Q_SLOTS:
         QVERIFY(!book.edit(gone));
         QCOMPARE(fake.messages.texts().last(), QStringLiteral("Unable to update team"));
     }
-
-    void removeAsksFirst()
-    {
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        const QString id = f.addPlayer(team, QStringLiteral("Al"), QStringLiteral("Reyes"));
-        f.db->exec(QStringLiteral("INSERT INTO Hitting (playerID, teamID, AB) VALUES (?, ?, 3)"), {id, team});
-
-        fake.messages.answers.enqueue(platform::MsgCancel);
-        QVERIFY(!book.askAndRemove(MemberKind::Player, id, QStringLiteral("Al Reyes")));
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 1);
-        const fakes::ShownMessage &asked = fake.messages.shown.first();
-        QCOMPARE(asked.message, QStringLiteral("Are you sure you wish to remove Al Reyes from this team?"));
-        QCOMPARE(asked.explanation, QStringLiteral("This action cannot be undone"));
-        QCOMPARE(asked.actionCaption, QStringLiteral("Remove"));
-
-        QVERIFY(book.askAndRemove(MemberKind::Player, id, QStringLiteral("Al Reyes")));
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 0);
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Hitting")), 1); // season rows stay
-    }
-
 };
 
 QTEST_MAIN(TestRosterBook)

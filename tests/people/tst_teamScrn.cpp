@@ -356,6 +356,7 @@ private Q_SLOTS:
         Session s;
         auto screen = open();
         typeInto(screen->schoolFld, QStringLiteral("Central"));
+        typeInto(screen->teamFld, QStringLiteral("  ")); // blanks are no name
         QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please fill in the team name field."});
         QCOMPARE(screen->teamList->rowCount(), 0);

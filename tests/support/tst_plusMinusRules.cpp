@@ -1,5 +1,7 @@
-// The plus-and-minus pair apart from its widget: presses and releases, Tab
-// and Space, and what the painter takes from each strip of the picture.
+// The plus-and-minus pair apart from its widget: which half a press and a
+// release at each pixel raise, and what the painter takes from each strip of
+// the picture. Focus, Tab and Space are tested through the widget
+// (tst_buttonsAndWindows).
 
 #include "support/HelpRequests.h"
 #include "support/PlusMinusPainter.h"

@@ -5,6 +5,9 @@
 // plus/minus pair, answering a modal window).
 
 #include "app/App.h"
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "app/myPrefs.h"
 #include "fakes/FakePlatform.h"
 
 #include <QApplication>

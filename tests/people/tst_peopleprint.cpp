@@ -1,7 +1,7 @@
 // The team and player data printouts, printed to PDF and read back.
 
-#include "PeopleFixture.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "people/RosterBook.h"
 #include "people/TeamBook.h"
@@ -31,8 +31,6 @@ class TestPeoplePrint : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_out;
-
 private Q_SLOTS:
     void teamBlocksAndPages_data()
     {
@@ -45,11 +43,11 @@ private Q_SLOTS:
     {
         QFETCH(bool, logos);
         QFETCH(int, copies);
-        fakes::FakePlatform fake(m_out.path());
+        testkit::Season f;
+        auto &fake = f.fake;
         fake.printing.copies = copies;
-        PeopleFixture f;
-        f.prefs->prLogoOnReport = logos;
-        people::TeamBook book(*f.db, *f.prefs);
+        gPrefs->prLogoOnReport = logos;
+        people::TeamBook book(*gData, *gPrefs);
         for (int i = 1; i <= 4; ++i) {
             people::TeamRecord t;
             t.SchoolName = QStringLiteral("School%1").arg(i);
@@ -92,10 +90,10 @@ private Q_SLOTS:
 
     void selectedTeamNeedsSelection()
     {
-        fakes::FakePlatform fake(m_out.path());
-        PeopleFixture f;
-        people::TeamBook book(*f.db, *f.prefs);
-        const QString id = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        testkit::Season f;
+        auto &fake = f.fake;
+        people::TeamBook book(*gData, *gPrefs);
+        const QString id = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         QVERIFY(!book.hndlPrint(1, {}, QImage()));
         QCOMPARE(fake.messages.texts(), QStringList{"Please Select a Team."});
         QCOMPARE(fake.printing.printDialogs, 0);
@@ -122,11 +120,11 @@ private Q_SLOTS:
         QFETCH(bool, hasPhoto);
         QFETCH(int, answer);
         QFETCH(QSize, picture);
-        fakes::FakePlatform fake(m_out.path());
+        testkit::Season f;
+        auto &fake = f.fake;
         fake.messages.answers.enqueue(std::uint8_t(answer));
-        PeopleFixture f;
-        people::RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        people::RosterBook book(*gData);
+        const QString team = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         MemberRecord p;
         p.TeamNum = team;
         p.First = QStringLiteral("Zoë");
@@ -177,15 +175,15 @@ private Q_SLOTS:
 
     void allPlayersOfTheTeam()
     {
-        fakes::FakePlatform fake(m_out.path());
+        testkit::Season f;
+        auto &fake = f.fake;
         fake.messages.answers.enqueue(platform::MsgAlternate);
-        PeopleFixture f;
-        people::RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        const QString other = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
+        people::RosterBook book(*gData);
+        const QString team = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
+        const QString other = QString::number(f.addTeam(QStringLiteral("Wolves"), QStringLiteral("West")));
         for (const char *last : {"Able", "Baker", "Cole"})
-            f.addPlayer(team, QStringLiteral("P"), QString::fromLatin1(last));
-        f.addPlayer(other, QStringLiteral("P"), QStringLiteral("Elsewhere"));
+            f.addPlayer(team.toLongLong(), QStringLiteral("P"), QString::fromLatin1(last));
+        f.addPlayer(other.toLongLong(), QStringLiteral("P"), QStringLiteral("Elsewhere"));
         QVERIFY(book.hndlPrint(2, team, {}));
         const QString pdf = fake.printing.printed.first();
         // 270-point blocks: two to a 720-point page.

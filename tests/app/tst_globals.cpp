@@ -16,24 +16,6 @@ class TestGlobals : public QObject
 private Q_SLOTS:
     void initTestCase() { gCreateGlobalLists(); }
 
-    void lists()
-    {
-        QCOMPARE(gStateList.size(), 50);
-        QCOMPARE(gStateList.first(), QStringLiteral("AL"));
-        QCOMPARE(gStateList.last(), QStringLiteral("WY"));
-        QCOMPARE(gCountryList.first(), QStringLiteral("United States"));
-        QStringList rest = gCountryList.mid(1);
-        QStringList sorted = rest;
-        sorted.sort();
-        QCOMPARE(rest, sorted);
-        const QStringList activities = gActivities.split(u';');
-        QCOMPARE(activities.size(), int(gDrills.size()));
-        QCOMPARE(activities.at(5), QStringLiteral("PITCHING"));
-        QVERIFY(gDrills[5].split(u';').contains(QStringLiteral("Goalpost Drill")));
-        QCOMPARE(gDrills[8], QStringLiteral("Grip;Stance;Locations;Dragging"));
-        QCOMPARE(TLThemeColorLight, QColor(0xCD, 0xE3, 0xC5));
-    }
-
     void parseTime_data()
     {
         QTest::addColumn<QString>("text");

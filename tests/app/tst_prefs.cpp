@@ -39,14 +39,8 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(prefs.prefsFilePath()));
         QCOMPARE(prefs.prSeason, QStringLiteral("2026")); // the fixed clock's year
         QCOMPARE(prefs.prVersNum, 220);
-        QCOMPARE(prefs.prInnings, QStringLiteral("9 Innings"));
-        QCOMPARE(prefs.prLineUp, QStringLiteral("9 Players"));
         QVERIFY(prefs.prLogoOnStart && prefs.prLogoOnReport);
         QCOMPARE(prefs.prEmailPort, quint16(25));
-        QCOMPARE(prefs.prUDB.split(u'\t').size(), 10);
-        QCOMPARE(prefs.prUDB.split(u'\t').at(2), QStringLiteral("RSP"));
-        QCOMPARE(prefs.prUDP.split(u'\t').at(5), QStringLiteral("Nighttime Appearances"));
-        QCOMPARE(prefs.prAbbrevPos.split(u',').size(), prefs.prPositions.split(u',').size());
         QCOMPARE(prefs.prLastDBClean, double(fake.clock.time.toSecsSinceEpoch()));
         QVERIFY(!prefs.prefsDirty);
         QVERIFY(fake.messages.shown.isEmpty());

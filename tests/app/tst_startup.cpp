@@ -13,6 +13,7 @@
 #include "app/ui/splashScrn.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "platform/qt/QtServices.h"
 
 #include <QAction>
@@ -75,11 +76,6 @@ private:
         QFile f(path);
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
-    static void closeAllWindows()
-    {
-        QApplication::closeAllWindows();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
     static QStringList popupItems(QComboBox *box)
     {
         QStringList items;
@@ -89,7 +85,7 @@ private:
     }
 
 private Q_SLOTS:
-    void cleanup() { closeAllWindows(); }
+    void cleanup() { testkit::closeAllWindows(); }
 
     void firstStartAndSecondStart()
     {
@@ -144,10 +140,7 @@ private Q_SLOTS:
 
     void startScreenShowsHomeTeam()
     {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        testkit::Season s;
         QImage logo(40, 20, QImage::Format_RGB32);
         logo.fill(Qt::red);
         QByteArray png;
@@ -183,10 +176,7 @@ private Q_SLOTS:
 
     void registeredScreenOpensAndStartComesBack()
     {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        testkit::Season s;
         QPointer<QWidget> opened;
         screens::registerScreen(ScreenId::teamScrn, [&opened] {
             auto *w = new ScreenBase(ScreenId::teamScrn, QStringLiteral("Teams"), {.backupTimer = true});
@@ -203,21 +193,18 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(opened && opened->isVisible());
         QVERIFY(startScrn1::instance() == nullptr); // closed after the target showed
-        QCOMPARE(app.BUTimer->mode(), myTimerClass::ModeMultiple);
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeMultiple);
 
-        app.BUTimer->mCount = 3;
+        s.app().BUTimer->mCount = 3;
         start = startScrn1::showStartScreen();
-        QCOMPARE(app.BUTimer->mode(), myTimerClass::ModeOff);
-        QCOMPARE(app.BUTimer->mCount, 3); // minutes add up across visits
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeOff);
+        QCOMPARE(s.app().BUTimer->mCount, 3); // minutes add up across visits
         screens::unregisterScreen(ScreenId::teamScrn);
     }
 
     void seasonPopup()
     {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        testkit::Season s;
         const QString folder = gPrefs->strdDataLoc;
         { myDB other(folder, QStringLiteral("2025 Fall")); }
         QFile::copy(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite")), QDir(folder).filePath(QStringLiteral("notes.txt")));
@@ -239,15 +226,15 @@ private Q_SLOTS:
         // A file deleted behind the program's back: the message, and no change.
         QVERIFY(QFile::remove(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite"))));
         start->SelectSeasonPop->setCurrentIndex(2);
-        QCOMPARE(fake.messages.shown.size(), 1);
-        QCOMPARE(fake.messages.shown[0].message, QStringLiteral("Data for season 2026 is no longer available"));
-        QCOMPARE(fake.messages.shown[0].explanation, QStringLiteral("Please re-select the previous season"));
-        QCOMPARE(fake.messages.shown[0].actionCaption, QStringLiteral("OK"));
+        QCOMPARE(s.fake.messages.shown.size(), 1);
+        QCOMPARE(s.fake.messages.shown[0].message, QStringLiteral("Data for season 2026 is no longer available"));
+        QCOMPARE(s.fake.messages.shown[0].explanation, QStringLiteral("Please re-select the previous season"));
+        QCOMPARE(s.fake.messages.shown[0].actionCaption, QStringLiteral("OK"));
         QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
         QCOMPARE(gData, current);
 
-        app.Event_Close();
-        QCOMPARE(myPrefs(home.path()).prSeason, QStringLiteral("2025 Fall"));
+        s.app().Event_Close();
+        QCOMPARE(myPrefs(s.folder()).prSeason, QStringLiteral("2025 Fall"));
     }
 
     // A season that can't be opened: the start screen names it, the screens
@@ -290,61 +277,50 @@ private Q_SLOTS:
 
     void emptyDataFolderOffersOnlySelectSeason()
     {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        testkit::Season s;
         QVERIFY(QFile::remove(gData->filePath()));
         startScrn1 *start = startScrn1::showStartScreen();
         QCOMPARE(popupItems(start->SelectSeasonPop), QStringList{"Select Season"});
         QCOMPARE(start->SelectSeasonPop->currentIndex(), 0);
     }
 
-    void splashClosesOnClickAndShowsStart()
+    // The splash closes on a click (let go, not pressed) or by itself after
+    // three seconds, and the start screen shows.
+    void splashCloses_data()
     {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        QTest::addColumn<bool>("click");
+        QTest::newRow("click") << true;
+        QTest::newRow("timer") << false;
+    }
+    void splashCloses()
+    {
+        QFETCH(bool, click);
+        testkit::Season s;
         QPointer<splashScrn> splash = new splashScrn;
+        QCOMPARE(splash->closeTimer.interval(), 3000);
+        if (!click)
+            splash->closeTimer.setInterval(10);
         splash->show();
         QVERIFY(QTest::qWaitForWindowExposed(splash));
-        QCOMPARE(splash->closeTimer.interval(), 3000);
         QVERIFY(splash->closeTimer.isActive());
-        QTest::mousePress(splash, Qt::LeftButton);
-        QVERIFY(splash->isVisible()); // only the release closes it
-        QTest::mouseRelease(splash, Qt::LeftButton);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!splash);
-        QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
-    }
-
-    void splashClosesByItself()
-    {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
-        QPointer<splashScrn> splash = new splashScrn;
-        splash->closeTimer.setInterval(10);
-        splash->closeTimer.start();
-        splash->show();
+        if (click) {
+            QTest::mousePress(splash, Qt::LeftButton);
+            QVERIFY(splash->isVisible());
+            QTest::mouseRelease(splash, Qt::LeftButton);
+        }
         QTRY_VERIFY(!splash);
         QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
     }
 
     void aboutBox()
     {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        testkit::Season s;
         startScrn1 *start = startScrn1::showStartScreen();
         start->menuBar()->item(QStringLiteral("HelpAbout"))->trigger();
         auto *about = start->findChild<AboutScrn *>();
         QVERIFY(about && about->isVisible());
         QCOMPARE(about->versLabel->text(), QStringLiteral("Version 2.2.0: Build 2"));
-        QCOMPARE(app.getLongVers(), QStringLiteral("Tallyline Baseball v.2.2.0"));
+        QCOMPARE(s.app().getLongVers(), QStringLiteral("Tallyline Baseball v.2.2.0"));
         QPointer<AboutScrn> guard = about;
         QTest::mouseClick(about->creditsTxt->viewport(), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -353,16 +329,13 @@ private Q_SLOTS:
 
     void dirtyPreferencesAreWrittenAtQuit()
     {
-        fakes::FakePlatform fake;
-        QTemporaryDir home;
-        App app(home.path());
-        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        testkit::Season s;
         gPrefs->prInnings = QStringLiteral("7 Innings");
-        app.Event_Close();
-        QCOMPARE(myPrefs(home.path()).prInnings, QStringLiteral("9 Innings")); // not dirty: not written
+        s.app().Event_Close();
+        QCOMPARE(myPrefs(s.folder()).prInnings, QStringLiteral("9 Innings")); // not dirty: not written
         gPrefs->prefsDirty = true;
-        app.Event_Close();
-        QCOMPARE(myPrefs(home.path()).prInnings, QStringLiteral("7 Innings"));
+        s.app().Event_Close();
+        QCOMPARE(myPrefs(s.folder()).prInnings, QStringLiteral("7 Innings"));
     }
 
     // An exception that escapes an event handler is shown and the program goes on.

@@ -31,8 +31,9 @@ public:
     // dialog answers `defaultAnswer`.
     QQueue<std::uint8_t> answers;
     std::uint8_t defaultAnswer = platform::MsgAction;
-    // Strict: a question with no scripted answer fails the running test,
-    // and so does an answer still queued when the fake goes.
+    // Strict: a question (a dialog with a choice beyond "OK" or "Continue")
+    // with no scripted answer fails the running test, and so does an answer
+    // still queued when the fake goes. Notices answer `defaultAnswer`.
     bool strict = false;
     QList<ShownMessage> shown;
 

@@ -7,6 +7,7 @@
 #include "support/ui/PlusMinusContainer.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QTest>
 
 namespace testkit {
@@ -14,6 +15,7 @@ namespace testkit {
 Season::Season(bool strictMessages)
 {
     fake.messages.strict = strictMessages;
+    QDir(home.path()).mkpath(QStringLiteral("prints"));
     m_app = std::make_unique<App>(home.path());
     if (m_app->Event_Open() != App::OpenResult::Ok)
         qFatal("the test season did not open");

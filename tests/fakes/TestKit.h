@@ -5,12 +5,17 @@
 // plus/minus pair, answering a modal window).
 
 #include "app/App.h"
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "app/myPrefs.h"
 #include "fakes/FakePlatform.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QPointer>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <QVariant>
 
@@ -36,7 +41,8 @@ public:
     Season &operator=(const Season &) = delete;
 
     QTemporaryDir home;
-    fakes::FakePlatform fake;
+    // Printouts go to PDF files in home/prints.
+    fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
 
     App &app() { return *m_app; }
     QString folder() const { return home.path(); }

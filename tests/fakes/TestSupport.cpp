@@ -1,5 +1,6 @@
 #include "fakes/TestSupport.h"
 
+#include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -58,6 +59,26 @@ int pdfPageCount(const QString &pdfPath)
     static const QRegularExpression re(QStringLiteral(R"re(Pages:\s+(\d+))re"));
     const auto m = re.match(info);
     return m.hasMatch() ? m.captured(1).toInt() : 0;
+}
+
+QList<QSize> pdfImageSizes(const QString &pdfPath)
+{
+    QList<QSize> sizes;
+    static const QRegularExpression row(QStringLiteral(R"(^\s*\d+\s+\d+\s+(\w+)\s+(\d+)\s+(\d+))"));
+    for (const QString &line : QString::fromUtf8(run(QStringLiteral("pdfimages"), {QStringLiteral("-list"), pdfPath})).split(u'\n')) {
+        const auto m = row.match(line);
+        if (m.hasMatch() && m.captured(1) == u"image")
+            sizes.append(QSize(m.captured(2).toInt(), m.captured(3).toInt()));
+    }
+    return sizes;
+}
+
+QString writePicture(const QString &path, QSize size, QColor colour)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(colour);
+    picture.save(path, path.endsWith(QStringLiteral(".jpg")) ? "JPEG" : "PNG");
+    return path;
 }
 
 } // namespace fakes

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QColor>
 #include <QList>
+#include <QSize>
 #include <QString>
 
 namespace fakes {
@@ -20,5 +22,11 @@ QList<PdfWord> pdfWords(const QString &pdfPath);
 QString pdfText(const QString &pdfPath);
 // The number of pages of a PDF file.
 int pdfPageCount(const QString &pdfPath);
+// The sizes of the pictures placed in a PDF (poppler's pdfimages); soft
+// masks, the alpha of a picture, are not counted.
+QList<QSize> pdfImageSizes(const QString &pdfPath);
+// A picture of one colour written to `path`, as PNG unless the name ends in
+// ".jpg" (the content decides the format, the name may say anything).
+QString writePicture(const QString &path, QSize size, QColor colour);
 
 } // namespace fakes

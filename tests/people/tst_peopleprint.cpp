@@ -1,7 +1,7 @@
 // The team and player data printouts, printed to PDF and read back.
 
-#include "PeopleFixture.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "people/RosterBook.h"
 #include "people/TeamBook.h"
@@ -15,23 +15,6 @@ using people::MemberRecord;
 
 namespace {
 
-// The sizes of the pictures placed in a PDF (needs poppler's pdfimages).
-QList<QSize> pdfImageSizes(const QString &path)
-{
-    QProcess p;
-    p.start(QStringLiteral("pdfimages"), {QStringLiteral("-list"), path});
-    p.waitForFinished(30000);
-    QList<QSize> sizes;
-    const QStringList lines = QString::fromUtf8(p.readAllStandardOutput()).split(u'\n');
-    static const QRegularExpression row(QStringLiteral(R"(^\s*\d+\s+\d+\s+(\w+)\s+(\d+)\s+(\d+))"));
-    for (const QString &line : lines) {
-        const auto m = row.match(line);
-        // Soft masks (the alpha of a picture) are listed apart; count pictures only.
-        if (m.hasMatch() && m.captured(1) == u"image")
-            sizes.append(QSize(m.captured(2).toInt(), m.captured(3).toInt()));
-    }
-    return sizes;
-}
 
 const fakes::PdfWord *findWord(const QList<fakes::PdfWord> &words, const QString &text, int nth = 0)
 {
@@ -48,8 +31,6 @@ class TestPeoplePrint : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_out;
-
 private Q_SLOTS:
     void teamBlocksAndPages_data()
     {
@@ -62,11 +43,11 @@ private Q_SLOTS:
     {
         QFETCH(bool, logos);
         QFETCH(int, copies);
-        fakes::FakePlatform fake(m_out.path());
+        testkit::Season f;
+        auto &fake = f.fake;
         fake.printing.copies = copies;
-        PeopleFixture f;
-        f.prefs->prLogoOnReport = logos;
-        people::TeamBook book(*f.db, *f.prefs);
+        gPrefs->prLogoOnReport = logos;
+        people::TeamBook book(*gData, *gPrefs);
         for (int i = 1; i <= 4; ++i) {
             people::TeamRecord t;
             t.SchoolName = QStringLiteral("School%1").arg(i);
@@ -104,15 +85,15 @@ private Q_SLOTS:
         QCOMPARE(qRound(field->yMin - first->yMin), 112);
         QVERIFY(findWord(words, QStringLiteral("O'Brien's")));
         QVERIFY(fakes::pdfText(pdf).contains(QStringLiteral("(614) 555-1234")));
-        QCOMPARE(pdfImageSizes(pdf).size(), logos ? 4 * copies : 0);
+        QCOMPARE(fakes::pdfImageSizes(pdf).size(), logos ? 4 * copies : 0);
     }
 
     void selectedTeamNeedsSelection()
     {
-        fakes::FakePlatform fake(m_out.path());
-        PeopleFixture f;
-        people::TeamBook book(*f.db, *f.prefs);
-        const QString id = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        testkit::Season f;
+        auto &fake = f.fake;
+        people::TeamBook book(*gData, *gPrefs);
+        const QString id = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         QVERIFY(!book.hndlPrint(1, {}, QImage()));
         QCOMPARE(fake.messages.texts(), QStringList{"Please Select a Team."});
         QCOMPARE(fake.printing.printDialogs, 0);
@@ -139,11 +120,11 @@ private Q_SLOTS:
         QFETCH(bool, hasPhoto);
         QFETCH(int, answer);
         QFETCH(QSize, picture);
-        fakes::FakePlatform fake(m_out.path());
+        testkit::Season f;
+        auto &fake = f.fake;
         fake.messages.answers.enqueue(std::uint8_t(answer));
-        PeopleFixture f;
-        people::RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        people::RosterBook book(*gData);
+        const QString team = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         MemberRecord p;
         p.TeamNum = team;
         p.First = QStringLiteral("Zoë");
@@ -171,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(fake.messages.shown[0].actionCaption, QStringLiteral("Include"));
         QCOMPARE(fake.messages.shown[0].altCaption, QStringLiteral("Don't Include"));
         const QString pdf = fake.printing.printed.first();
-        const QList<QSize> images = pdfImageSizes(pdf);
+        const QList<QSize> images = fakes::pdfImageSizes(pdf);
         QCOMPARE(images, picture.isValid() ? QList<QSize>{picture} : QList<QSize>{});
 
         // The three columns of the playing data stand a third of the width apart.
@@ -194,15 +175,15 @@ private Q_SLOTS:
 
     void allPlayersOfTheTeam()
     {
-        fakes::FakePlatform fake(m_out.path());
+        testkit::Season f;
+        auto &fake = f.fake;
         fake.messages.answers.enqueue(platform::MsgAlternate);
-        PeopleFixture f;
-        people::RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        const QString other = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
+        people::RosterBook book(*gData);
+        const QString team = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
+        const QString other = QString::number(f.addTeam(QStringLiteral("Wolves"), QStringLiteral("West")));
         for (const char *last : {"Able", "Baker", "Cole"})
-            f.addPlayer(team, QStringLiteral("P"), QString::fromLatin1(last));
-        f.addPlayer(other, QStringLiteral("P"), QStringLiteral("Elsewhere"));
+            f.addPlayer(team.toLongLong(), QStringLiteral("P"), QString::fromLatin1(last));
+        f.addPlayer(other.toLongLong(), QStringLiteral("P"), QStringLiteral("Elsewhere"));
         QVERIFY(book.hndlPrint(2, team, {}));
         const QString pdf = fake.printing.printed.first();
         // 270-point blocks: two to a 720-point page.

@@ -1,7 +1,7 @@
 // The personnel screen driven as the coach drives it, offscreen, with every
 // dialog answered by the fakes.
 
-#include "ScreenTestSupport.h"
+#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/ui/MainMenuBar.h"
@@ -29,29 +29,23 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 
-using screentest::clickHalf;
-using screentest::typeInto;
+using testkit::clickHalf;
+using testkit::typeInto;
 
 class TestPersonnelScrn : public QObject
 {
     Q_OBJECT
 
     // A season with two teams, the Cougars the home team.
-    struct Session
+    struct Session : testkit::Season
     {
-        QTemporaryDir home;
-        fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
-        App app{home.filePath(QStringLiteral("data"))};
         QString cougars, wolves;
         Session()
         {
-            QDir(home.path()).mkpath(QStringLiteral("prints"));
-            app.Event_Open();
             cougars = team(QStringLiteral("Cougars"));
             wolves = team(QStringLiteral("Wolves"));
             gPrefs->prHomeTeam = cougars;
         }
-        ~Session() { screentest::closeAllWindows(); }
         static QString team(const QString &name)
         {
             return QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("Central")},
@@ -70,7 +64,7 @@ class TestPersonnelScrn : public QObject
     static QPointer<personnelScrn> open()
     {
         QPointer<personnelScrn> screen = new personnelScrn;
-        screentest::showActive(screen);
+        testkit::showActive(screen);
         return screen;
     }
 
@@ -111,8 +105,8 @@ private Q_SLOTS:
         QCOMPARE(screen->newPhoneFld[1]->text(), QStringLiteral("555-1234"));
         playerInfoCtr *ctr = screen->myPlayerCtr;
         typeInto(ctr->UNumFld, QStringLiteral("7"));
-        QVERIFY(screentest::choose(ctr->PositionPop[0], QStringLiteral("SS")));
-        QVERIFY(screentest::choose(ctr->batPop, QStringLiteral("Switch")));
+        QVERIFY(testkit::choose(ctr->PositionPop[0], QStringLiteral("SS")));
+        QVERIFY(testkit::choose(ctr->batPop, QStringLiteral("Switch")));
         ctr->DOBFld->setFocus(Qt::TabFocusReason);
         ctr->DOBFld->home(false);
         QTest::keyClicks(ctr->DOBFld, QStringLiteral("04162012"));
@@ -163,13 +157,13 @@ private Q_SLOTS:
         QCOMPARE(column(QStringLiteral("TeamNum"), id), s.cougars);
 
         screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Reyes")));
-        QVERIFY(screentest::choose(screen->tradeToPop, QStringLiteral("Wolves")));
+        QVERIFY(testkit::choose(screen->tradeToPop, QStringLiteral("Wolves")));
         QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
         QCOMPARE(screen->playersList->rowCount(), 1);
         QCOMPARE(rowOf(screen->playersList, QStringLiteral("Reyes")), -1);
         QCOMPARE(column(QStringLiteral("TeamNum"), id), s.wolves);
 
-        QVERIFY(screentest::choose(screen->selectTeamPop, QStringLiteral("Wolves")));
+        QVERIFY(testkit::choose(screen->selectTeamPop, QStringLiteral("Wolves")));
         QCOMPARE(screen->teamIDFld->text(), s.wolves);
         QCOMPARE(screen->playersList->rowCount(), 1);
         QCOMPARE(screen->playersList->rowTag(0), id);
@@ -210,7 +204,7 @@ private Q_SLOTS:
 
         // A change of the player fields counts too, and so does closing.
         s.fake.messages.clear();
-        QVERIFY(screentest::choose(screen->myPlayerCtr->throwPop, QStringLiteral("Left")));
+        QVERIFY(testkit::choose(screen->myPlayerCtr->throwPop, QStringLiteral("Left")));
         s.fake.messages.answers.enqueue(platform::MsgAction);
         QVERIFY(screen->close());
         QCOMPARE(s.fake.messages.texts(), QStringList{"Would you like to save the changes to this member?"});
@@ -262,12 +256,19 @@ private Q_SLOTS:
         QVERIFY(screen->SelectPlayer->isChecked());
         QVERIFY(screen->myPlayerCtr->isVisible());
 
+        // Removing asks first; the player's season rows stay.
+        gData->exec(QStringLiteral("INSERT INTO Hitting (playerID, teamID, AB) VALUES (?, ?, 3)"), {al, s.cougars});
         s.fake.messages.clear();
-        s.fake.messages.answers.enqueue(platform::MsgAction);
+        s.answer({platform::MsgCancel, platform::MsgAction});
         clickHalf(screen->PlusMinusPlayers, false);
-        QCOMPARE(s.fake.messages.texts(), QStringList{"Are you sure you wish to remove Al Reyes from this team?"});
+        QCOMPARE(screen->playersList->rowCount(), 1);
+        screen->playersList->setSelectedRow(0);
+        clickHalf(screen->PlusMinusPlayers, false);
+        QCOMPARE(s.fake.messages.texts(), QStringList(2, "Are you sure you wish to remove Al Reyes from this team?"));
+        QCOMPARE(s.fake.messages.shown.first().actionCaption, QStringLiteral("Remove"));
         QCOMPARE(screen->playersList->rowCount(), 0);
-        QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Players WHERE playerID = ?"), {al}).toInt(), 0);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE playerID = ?"), {al}), 0);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Hitting")), 1);
         QCOMPARE(screen->FNameFld->text(), QString());
     }
 
@@ -283,7 +284,7 @@ private Q_SLOTS:
         s.fake.messages.clear();
 
         screen->playersList->setSelectedRow(0);
-        s.fake.files.answers.enqueue(screentest::writePicture(s.home.filePath(QStringLiteral("zoe.png")), {86, 100}, Qt::darkCyan));
+        s.fake.files.answers.enqueue(fakes::writePicture(s.home.filePath(QStringLiteral("zoe.png")), {86, 100}, Qt::darkCyan));
         clickHalf(screen->PlusMinusIndivPic, true);
         QCOMPARE(s.fake.files.calls.first().request.title, QStringLiteral("Select a Picture File to add"));
         QVERIFY(screen->editState().editDirty); // a new photo is a change
@@ -298,7 +299,7 @@ private Q_SLOTS:
         QCOMPARE(s.fake.printing.printed.size(), 1);
         const QString pdf = s.fake.printing.printed.first();
         QVERIFY(fakes::pdfText(pdf).contains(QStringLiteral("Zoë Ñúñez")));
-        QCOMPARE(screentest::pdfImageSizes(pdf), QList<QSize>{QSize(86, 100)});
+        QCOMPARE(fakes::pdfImageSizes(pdf), QList<QSize>{QSize(86, 100)});
 
         // The list through the list box.
         screen->menuBar()->item(QStringLiteral("FilePrint"))->trigger();
@@ -313,7 +314,7 @@ private Q_SLOTS:
         startScrn1 *start = startScrn1::showStartScreen();
         QTest::mouseClick(start->findChild<QPushButton *>(QStringLiteral("ShowPersonnelBtn")), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeMultiple);
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeMultiple);
         personnelScrn *screen = nullptr;
         for (QWidget *w : QApplication::topLevelWidgets()) {
             if (auto *p = qobject_cast<personnelScrn *>(w))
@@ -321,7 +322,7 @@ private Q_SLOTS:
         }
         QVERIFY(screen && screen->isVisible());
         QVERIFY(screen->close());
-        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeOff);
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeOff);
         screens::unregisterScreen(ScreenId::personnelScrn);
     }
 };

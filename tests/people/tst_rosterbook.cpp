@@ -1,8 +1,8 @@
 // The personnel rules without a window: members stored as typed, trading,
 // removing, the save question for a changed member.
 
-#include "PeopleFixture.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "people/RosterBook.h"
 
 #include <QTest>
@@ -28,10 +28,10 @@ class TestRosterBook : public QObject
 private Q_SLOTS:
     void playerStoredAsTyped()
     {
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        testkit::Season f;
+        auto &fake = f.fake;
+        RosterBook book(*gData);
+        const QString team = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         MemberRecord p = member(MemberKind::Player, team, QStringLiteral("José \"Pepe\""),
                                 QStringLiteral("O'Neil; Łukasiewicz\tJr"));
         p.Address = QStringLiteral("12 \"Main\" St., Apt; 4");
@@ -76,7 +76,7 @@ private Q_SLOTS:
             QCOMPARE((*back).*field, p.*field);
         QCOMPARE(back->Active, false);
         QCOMPARE(back->picture.size(), QSize(12, 14));
-        QVERIFY(f.db->scalar(QStringLiteral("SELECT PlayerPic FROM Players")).toByteArray().startsWith("\x89PNG"));
+        QVERIFY(gData->scalar(QStringLiteral("SELECT PlayerPic FROM Players")).toByteArray().startsWith("\x89PNG"));
 
         const auto rows = book.store().list(MemberKind::Player, team);
         QCOMPARE(rows.size(), 1);
@@ -86,10 +86,9 @@ private Q_SLOTS:
 
     void coachKeepsAssistantFlag()
     {
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
+        testkit::Season f;
+        RosterBook book(*gData);
+        const QString team = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         MemberRecord c = member(MemberKind::Coach, team, QStringLiteral("Dee"), QStringLiteral("Ewing"));
         c.Assistant = true;
         const QString id = QString::number(book.add(c));
@@ -107,11 +106,11 @@ private Q_SLOTS:
     void tradeMovesToOtherTeam()
     {
         QFETCH(int, kind);
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        RosterBook book(*f.db);
-        const QString a = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        const QString b = f.addTeam(QStringLiteral("West"), QStringLiteral("Wolves"));
+        testkit::Season f;
+        auto &fake = f.fake;
+        RosterBook book(*gData);
+        const QString a = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
+        const QString b = QString::number(f.addTeam(QStringLiteral("Wolves"), QStringLiteral("West")));
         const auto k = MemberKind(kind);
         const QString id = QString::number(book.add(member(k, a, QStringLiteral("Al"), QStringLiteral("Reyes"))));
 
@@ -132,29 +131,6 @@ private Q_SLOTS:
         QVERIFY(!book.edit(gone));
         QCOMPARE(fake.messages.texts().last(), QStringLiteral("Unable to update team"));
     }
-
-    void removeAsksFirst()
-    {
-        fakes::FakePlatform fake;
-        PeopleFixture f;
-        RosterBook book(*f.db);
-        const QString team = f.addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        const QString id = f.addPlayer(team, QStringLiteral("Al"), QStringLiteral("Reyes"));
-        f.db->exec(QStringLiteral("INSERT INTO Hitting (playerID, teamID, AB) VALUES (?, ?, 3)"), {id, team});
-
-        fake.messages.answers.enqueue(platform::MsgCancel);
-        QVERIFY(!book.askAndRemove(MemberKind::Player, id, QStringLiteral("Al Reyes")));
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 1);
-        const fakes::ShownMessage &asked = fake.messages.shown.first();
-        QCOMPARE(asked.message, QStringLiteral("Are you sure you wish to remove Al Reyes from this team?"));
-        QCOMPARE(asked.explanation, QStringLiteral("This action cannot be undone"));
-        QCOMPARE(asked.actionCaption, QStringLiteral("Remove"));
-
-        QVERIFY(book.askAndRemove(MemberKind::Player, id, QStringLiteral("Al Reyes")));
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 0);
-        QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Hitting")), 1); // season rows stay
-    }
-
 };
 
 QTEST_MAIN(TestRosterBook)

@@ -1,7 +1,7 @@
 // The team screen driven as the coach drives it, offscreen, with every
 // dialog answered by the fakes.
 
-#include "ScreenTestSupport.h"
+#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/FileTypes.h"
 #include "app/globals.h"
@@ -29,31 +29,19 @@
 #include <QToolButton>
 #include <QUrl>
 
-using screentest::clickHalf;
-using screentest::typeInto;
+using testkit::clickHalf;
+using testkit::typeInto;
 
 class TestTeamScrn : public QObject
 {
     Q_OBJECT
 
-    struct Session
-    {
-        QTemporaryDir home;
-        fakes::FakePlatform fake{home.filePath(QStringLiteral("prints"))};
-        App app{home.filePath(QStringLiteral("data"))};
-        Session()
-        {
-            QDir(home.path()).mkpath(QStringLiteral("prints"));
-            app.Event_Open();
-        }
-        // Windows go before the season they show.
-        ~Session() { screentest::closeAllWindows(); }
-    };
+    using Session = testkit::Season;
 
     static QPointer<teamScrn> open()
     {
         QPointer<teamScrn> screen = new teamScrn;
-        screentest::showActive(screen);
+        testkit::showActive(screen);
         return screen;
     }
 
@@ -137,8 +125,8 @@ private Q_SLOTS:
                 screen = t;
         }
         QVERIFY(screen && screen->isVisible());
-        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeMultiple);
-        screentest::showActive(screen);
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeMultiple);
+        testkit::showActive(screen);
 
         addTeam(screen, QStringLiteral("O'Brien's"), QStringLiteral("Cougars"), false);
         QTest::mouseClick(screen->cancelBtn, Qt::LeftButton);
@@ -164,7 +152,7 @@ private Q_SLOTS:
         start = startScrn1::instance();
         QVERIFY(start && start->isVisible());
         QCOMPARE(start->teamNameLabel->text(), QStringLiteral("O'Brien's Cougars"));
-        QCOMPARE(s.app.BUTimer->mode(), myTimerClass::ModeOff);
+        QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeOff);
         screens::unregisterScreen(ScreenId::teamScrn);
     }
 
@@ -179,21 +167,17 @@ private Q_SLOTS:
     void deleteTeamWithItsPlayers()
     {
         Session s;
-        const QString cougars = QString::number(gData->insert(
-            QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("Central")},
-                                      {QStringLiteral("TeamName"), QStringLiteral("Cougars")}}));
-        gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("West")},
-                                                {QStringLiteral("TeamName"), QStringLiteral("Wolves")}});
-        for (const char *last : {"Reyes", "Cole"})
-            gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), cougars.toLongLong()},
-                                                      {QStringLiteral("First"), QStringLiteral("A")},
-                                                      {QStringLiteral("Last"), QString::fromLatin1(last)}});
-        gPrefs->prHomeTeam = cougars;
+        const qint64 cougars = s.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central"), {}, true);
+        const qint64 wolves = s.addTeam(QStringLiteral("Wolves"), QStringLiteral("West"));
+        s.addPlayer(cougars, QStringLiteral("A"), QStringLiteral("Reyes"));
+        s.addPlayer(cougars, QStringLiteral("A"), QStringLiteral("Cole"));
+        s.addPlayer(wolves, QStringLiteral("C"), QStringLiteral("Diaz"));
+        s.addCoach(cougars, QStringLiteral("D"), QStringLiteral("Ewing"));
         auto screen = open();
         QCOMPARE(screen->teamList->rowCount(), 2);
         screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Cougars")));
 
-        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        s.answer({platform::MsgCancel, platform::MsgAction});
         clickHalf(screen->teamListPlusMInus, false);
         QCOMPARE(screen->teamList->rowCount(), 2);
 
@@ -202,8 +186,12 @@ private Q_SLOTS:
         QCOMPARE(s.fake.messages.texts().last(), QStringLiteral("Ok to delete Central Cougars from the Teams List?"));
         QCOMPARE(screen->teamList->rowCount(), 1);
         QCOMPARE(screen->teamList->cell(0, 1), QStringLiteral("Wolves"));
-        QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Players")).toInt(), 0);
+        // Its players go with it; other teams' players and the coaches stay.
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {cougars}), 0);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {wolves}), 1);
+        QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Coaches")), 1);
         QVERIFY(gPrefs->prHomeTeam.isEmpty());
+        QVERIFY(gPrefs->prefsDirty);
         QCOMPARE(screen->teamFld->text(), QString());
         QVERIFY(!screen->close()); // Wolves remain, and none is the home team
     }
@@ -246,9 +234,9 @@ private Q_SLOTS:
         auto screen = open();
         typeInto(screen->teamFld, QStringLiteral("Cougars"));
         typeInto(screen->schoolFld, QStringLiteral("O'Brien's"));
-        screentest::choose(screen->StatePop, QStringLiteral("OH"));
+        testkit::choose(screen->StatePop, QStringLiteral("OH"));
         typeInto(screen->cityFld, QStringLiteral("Dublin"));
-        const QString jpeg = screentest::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), {64, 48}, Qt::red);
+        const QString jpeg = fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), {64, 48}, Qt::red);
         s.fake.files.answers.enqueue(jpeg);
         clickHalf(screen->PlusMinusTeamLogo, true);
         QCOMPARE(s.fake.files.calls.size(), 1);
@@ -260,7 +248,7 @@ private Q_SLOTS:
         clickHalf(screen->PlusMinusTeamLogo, false);
         QVERIFY(screen->LogoCvn->picture().isNull());
         QVERIFY(!screen->LogoCvn->shownPicture().isNull());
-        screentest::writePicture(s.home.filePath(QStringLiteral("crest.dat")), {30, 40}, Qt::blue);
+        fakes::writePicture(s.home.filePath(QStringLiteral("crest.dat")), {30, 40}, Qt::blue);
         QMimeData mime;
         mime.setUrls({QUrl::fromLocalFile(s.home.filePath(QStringLiteral("crest.dat")))});
         // The drag enters first: the application hands a drop only to the
@@ -288,7 +276,7 @@ private Q_SLOTS:
         const QString text = fakes::pdfText(pdf);
         QVERIFY(text.contains(QStringLiteral("O'Brien's Cougars")));
         QVERIFY(text.contains(QStringLiteral("Dublin, OH")));
-        QCOMPARE(screentest::pdfImageSizes(pdf), QList<QSize>{QSize(30, 40)});
+        QCOMPARE(fakes::pdfImageSizes(pdf), QList<QSize>{QSize(30, 40)});
 
         // The list prints through the list box, from the menu bar too.
         QCOMPARE(screen->menuBar()->item(QStringLiteral("FilePrint"))->text(), QStringLiteral("Print Team List"));
@@ -318,7 +306,7 @@ private Q_SLOTS:
         QFETCH(QSize, kept);
         Session s;
         auto screen = open();
-        s.fake.files.answers.enqueue(screentest::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), chosen, Qt::red));
+        s.fake.files.answers.enqueue(fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), chosen, Qt::red));
         clickHalf(screen->PlusMinusTeamLogo, true);
         QCOMPARE(screen->LogoCvn->picture().size(), kept);
     }
@@ -368,6 +356,7 @@ private Q_SLOTS:
         Session s;
         auto screen = open();
         typeInto(screen->schoolFld, QStringLiteral("Central"));
+        typeInto(screen->teamFld, QStringLiteral("  ")); // blanks are no name
         QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please fill in the team name field."});
         QCOMPARE(screen->teamList->rowCount(), 0);

@@ -7,6 +7,7 @@
 #include "fakes/FakePlatform.h"
 #include "schedule/EventDates.h"
 #include "schedule/EventForm.h"
+#include "schedule/ScheduleStore.h"
 
 #include <QLocale>
 #include <QTest>
@@ -238,13 +239,28 @@ private Q_SLOTS:
         QCOMPARE(EventForm::homeStateForLocation(QString(), QString()), Qt::Unchecked);
     }
 
-    void boxLists()
+    // The editor's and the schedule's fixed lists, to the character.
+    void fixedLists_data()
     {
-        QCOMPARE(EventForm::hours().size(), 12);
-        QCOMPARE(EventForm::hours().first(), QStringLiteral("1"));
-        QCOMPARE(EventForm::minutes(),
-                 (QStringList{"00", "05", "10", "15", "20", "25", "30", "35", "40", "45", "50", "55"}));
-        QCOMPARE(EventForm::opponentEntries(kTeams).last(), (OpponentEntry{"N/A", "-1", {}}));
+        QTest::addColumn<QStringList>("got");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("hours") << EventForm::hours()
+                               << QStringList{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"};
+        QTest::newRow("minutes") << EventForm::minutes()
+                                 << QStringList{"00", "05", "10", "15", "20", "25", "30", "35", "40", "45", "50", "55"};
+        QTest::newRow("AM/PM") << EventForm::meridiems() << QStringList{"AM", "PM"};
+        QTest::newRow("event types") << EventForm::eventTypes()
+                                     << QStringList{"Practice", "Scrimmage", "Game", "Meeting", "Other"};
+        QTest::newRow("filters") << ScheduleStore::filters()
+                                 << QStringList{"Show All", "Game", "Practice", "Scrimmage", "Meeting"};
+        const OpponentEntry last = EventForm::opponentEntries(kTeams).last();
+        QTest::newRow("no opponent") << QStringList{last.name, last.tag} << QStringList{"N/A", "-1"};
+    }
+    void fixedLists()
+    {
+        QFETCH(QStringList, got);
+        QFETCH(QStringList, expected);
+        QCOMPARE(got, expected);
     }
 };
 

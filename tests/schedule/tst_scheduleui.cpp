@@ -78,6 +78,9 @@ private Q_SLOTS:
         QTest::newRow("February 2000") << QDate(2000, 2, 17) << 2 << 29;
         QTest::newRow("31 days from a Saturday") << QDate(2031, 3, 9) << 6 << 31;
         QTest::newRow("February 2027") << QDate(2027, 2, 1) << 1 << 28;
+        QTest::newRow("February 2026, Sunday 1st") << QDate(2026, 2, 28) << 0 << 28;
+        QTest::newRow("September 2038") << QDate(2038, 9, 30) << 3 << 30;
+        QTest::newRow("February 2036, leap") << QDate(2036, 2, 29) << 5 << 29;
     }
     void pickerLaysOutMonths()
     {

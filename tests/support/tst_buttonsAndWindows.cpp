@@ -62,30 +62,6 @@ private Q_SLOTS:
         QVERIFY(!w.pair->hasFocus());
     }
 
-    void plusMinusReleaseOutsideRaisesNothing_data()
-    {
-        QTest::addColumn<QPoint>("press");
-        QTest::addColumn<QPoint>("release");
-        QTest::newRow("plus, let go below") << QPoint(8, 11) << QPoint(8, 40);
-        QTest::newRow("plus, let go over minus") << QPoint(8, 11) << QPoint(36, 11);
-        QTest::newRow("minus, let go right of it") << QPoint(36, 11) << QPoint(60, 11);
-        QTest::newRow("minus, let go above") << QPoint(36, 11) << QPoint(36, -5);
-    }
-    void plusMinusReleaseOutsideRaisesNothing()
-    {
-        QFETCH(QPoint, press);
-        QFETCH(QPoint, release);
-        PairWindow w;
-        QVERIFY(QTest::qWaitForWindowActive(&w.window));
-        QSignalSpy plus(w.pair, &PlusMinusContainer::PlusPressed);
-        QSignalSpy minus(w.pair, &PlusMinusContainer::MinusPressed);
-        QTest::mousePress(w.pair, Qt::LeftButton, {}, press);
-        QVERIFY(w.pair->pushPlus() || w.pair->pushMinus());
-        QTest::mouseRelease(w.pair, Qt::LeftButton, {}, release);
-        QCOMPARE(plus.count() + minus.count(), 0);
-        QVERIFY(!w.pair->pushPlus() && !w.pair->pushMinus());
-    }
-
     void plusMinusHalvesApart()
     {
         PairWindow w;

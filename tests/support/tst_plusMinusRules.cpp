@@ -1,5 +1,7 @@
-// The plus-and-minus pair apart from its widget: presses and releases, Tab
-// and Space, and what the painter takes from each strip of the picture.
+// The plus-and-minus pair apart from its widget: which half a press and a
+// release at each pixel raise, and what the painter takes from each strip of
+// the picture. Focus, Tab and Space are tested through the widget
+// (tst_buttonsAndWindows).
 
 #include "support/HelpRequests.h"
 #include "support/PlusMinusPainter.h"
@@ -86,63 +88,6 @@ private Q_SLOTS:
         QCOMPARE(state.release(release), raised);
         // Whatever happened, both halves show released.
         QVERIFY(!state.pushPlus && !state.pushMinus);
-    }
-
-    void noPressWhileDisabledOrInTheBackground()
-    {
-        PlusMinusState state;
-        state.windowEnabled = false;
-        QVERIFY(!state.press({5, 5}));
-        QCOMPARE(state.release({5, 5}), PlusMinusState::None);
-        state.windowEnabled = true;
-        state.enabled = false;
-        QVERIFY(!state.press({40, 5}));
-        QCOMPARE(state.release({40, 5}), PlusMinusState::None);
-    }
-
-    void tabAndFocus()
-    {
-        PlusMinusState state;
-        state.focusIn();
-        QCOMPARE(state.focusedbutton, int(PlusMinusState::Plus));
-        QVERIFY(state.tab(false)); // plus -> minus, key consumed
-        QCOMPARE(state.focusedbutton, int(PlusMinusState::Minus));
-        QVERIFY(!state.tab(false)); // minus -> the next control
-        QCOMPARE(state.focusedbutton, int(PlusMinusState::None));
-
-        state.focusIn(true); // came backwards: onto minus
-        QCOMPARE(state.focusedbutton, int(PlusMinusState::Minus));
-        QVERIFY(state.tab(true)); // Shift+Tab: minus -> plus
-        QCOMPARE(state.focusedbutton, int(PlusMinusState::Plus));
-        QVERIFY(!state.tab(true));
-
-        // With minus off, Tab on plus goes on at once.
-        state.setMinusEnabled(false);
-        state.focusIn();
-        QVERIFY(!state.tab(false));
-        // With plus off, the focus starts on minus, and moves off plus when
-        // plus is turned off under it.
-        state.setMinusEnabled(true);
-        state.setPlusEnabled(false);
-        state.focusIn();
-        QCOMPARE(state.focusedbutton, int(PlusMinusState::Minus));
-        state.setPlusEnabled(true);
-        state.focusedbutton = PlusMinusState::Plus;
-        state.setPlusEnabled(false);
-        QCOMPARE(state.focusedbutton, int(PlusMinusState::Minus));
-    }
-
-    void space()
-    {
-        PlusMinusState state;
-        QCOMPARE(state.spacePress(), PlusMinusState::None); // no focus
-        state.focusIn();
-        QCOMPARE(state.spacePress(), PlusMinusState::Plus);
-        QVERIFY(state.pushPlus && !state.pushMinus);
-        state.letGo();
-        QVERIFY(!state.pushPlus);
-        state.windowEnabled = false;
-        QCOMPARE(state.spacePress(), PlusMinusState::None);
     }
 
     void painting_data()

@@ -11,9 +11,10 @@ class MainMenuBar;
 // backup timer while the screen is open (for the screens that edit the
 // season), and the start screen again when it closes.
 //
-// A screen builds its controls in its own constructor, puts them in
-// setCentralWidget(), and overrides mayClose() to refuse or finish a close
-// (a save question, a missing home team).
+// A screen builds its controls in its own constructor with the form
+// helpers (app/ui/Form.h), puts them in setCentralWidget(), and overrides
+// mayClose() to refuse or finish a close (a save question, a missing home
+// team). ARCHITECTURE.md, "Adding a screen", has the whole recipe.
 class ScreenBase : public QMainWindow
 {
     Q_OBJECT

@@ -57,7 +57,7 @@ personnelScrn::personnelScrn(QWidget *parent)
       m_book(std::make_unique<people::RosterBook>(*gData))
 {
     buildControls();
-    installMenuHandlers();
+    installPeopleMenus(menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
 
     fillTeamPopups();
     setPlayerMode(true);
@@ -198,11 +198,6 @@ void personnelScrn::buildControls()
     });
     connect(actionBtn, &QPushButton::clicked, this, &personnelScrn::actionBtn_Action);
     connect(closeBtn, &QPushButton::clicked, this, &QWidget::close);
-}
-
-void personnelScrn::installMenuHandlers()
-{
-    installPeopleMenus(menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
 }
 
 void personnelScrn::fillTeamPopups()

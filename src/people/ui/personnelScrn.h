@@ -86,7 +86,6 @@ protected:
 
 private:
     void buildControls();
-    void installMenuHandlers();
     void fillTeamPopups();
     void selectTeamPop_Change();
     void modeChosen(bool isPlayer);

@@ -54,7 +54,7 @@ teamScrn::teamScrn(QWidget *parent)
       m_book(std::make_unique<people::TeamBook>(*gData, *gPrefs))
 {
     buildControls();
-    installMenuHandlers();
+    installPeopleMenus(menus(), QStringLiteral("Print Team List"), [this] { hndlPrint(0); }, 2);
 
     // Opening: the list, the offered values and an empty form.
     loadTeamList();
@@ -160,11 +160,6 @@ void teamScrn::buildControls()
     connect(teamListPlusMInus, &PlusMinusContainer::MinusPressed, this, &teamScrn::deleteSelectedTeam);
     connect(PlusMinusTeamLogo, &PlusMinusContainer::PlusPressed, this, &teamScrn::addLogo);
     connect(PlusMinusTeamLogo, &PlusMinusContainer::MinusPressed, LogoCvn, &PictureCanvas::clearPicture);
-}
-
-void teamScrn::installMenuHandlers()
-{
-    installPeopleMenus(menus(), QStringLiteral("Print Team List"), [this] { hndlPrint(0); }, 2);
 }
 
 void teamScrn::loadTeamList()

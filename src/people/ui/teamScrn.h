@@ -71,7 +71,6 @@ protected:
 
 private:
     void buildControls();
-    void installMenuHandlers();
     void teamList_selectionChanged();
     void teamList_CellClick(int row, int column);
     void actionBtn_Action();

@@ -111,7 +111,7 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
     locationBox = rows.comboBox(u"locationBox"_s, u"&Location:"_s, form::Editable);
     locationBox->installEventFilter(this);
 
-    homeCheck = form::named(new TwoWayCheckBox(u"&Home Game"_s, this), u"homeCheck"_s, u"Home Game"_s);
+    homeCheck = form::make<TwoWayCheckBox>(this, u"homeCheck"_s, u"Home Game"_s, u"&Home Game"_s);
     homeCheck->setTristate(true);
     homeCheck->setCheckState(Qt::PartiallyChecked);
     homeCheck->setEnabled(false);
@@ -144,6 +144,7 @@ newEventScrn::newEventScrn(QWidget *parent) : QDialog(parent)
 
 QComboBox *newEventScrn::timeBox(const QString &name, const QString &accessible, const QStringList &items, bool numbers)
 {
+    // No completion: a typed "5" is five minutes, not the list's "55".
     QComboBox *box = form::comboBox(this, name, accessible, form::Editable);
     box->addItems(items);
     clearEditable(box);

@@ -43,8 +43,8 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     ScheduleListbox = qlmListBox::make(central, u"ScheduleListbox"_s, u"Schedule"_s, ScheduleList::headings(),
                                        u"95,85,85,110,150,*,30"_s);
     ScheduleListbox->setRowsMovable(true);
-    ScheduleListbox->setToolTip(QStringLiteral("Enter edits the event, Delete removes it; drag a row, or press "
-                                               "Ctrl+Up / Ctrl+Down, to change the order"));
+    ScheduleListbox->setToolTip(u"Enter edits the event, Delete removes it; drag a row, or press "
+                                "Ctrl+Up / Ctrl+Down, to change the order"_s);
     ScheduleListbox->installEventFilter(this);
     outer->addWidget(ScheduleListbox, 1);
     schedIDLabel = form::valueLabel(central, u"schedIDLabel"_s, u"Selected event"_s);

@@ -183,20 +183,27 @@ private Q_SLOTS:
     void printing_data()
     {
         QTest::addColumn<int>("topic");
+        QTest::addColumn<QString>("link"); // followed before printing, "" for none
         QTest::addColumn<QStringList>("messages");
         QTest::addColumn<QString>("printedText");
-        QTest::newRow("no page on show") << 0 << QStringList{"An error was encountered while printing the file"}
-                                         << QString();
-        // The page goes to the printer as plain text, title line and all.
-        QTest::newRow("a page") << 6 << QStringList{} << "The list";
+        QTest::newRow("no page on show") << 0 << QString()
+                                         << QStringList{"An error was encountered while printing the file"} << QString();
+        // The page goes to the printer as plain text.
+        QTest::newRow("a page") << 6 << QString() << QStringList{} << "The list";
+        QTest::newRow("after a link to a place in the page") << 7 << "#codes" << QStringList{} << "On Base Result";
+        QTest::newRow("after a link to a place in another page") << 11 << "A_07.html#outs" << QStringList{}
+                                                                  << "On Base Result";
     }
     void printing()
     {
         QFETCH(int, topic);
+        QFETCH(QString, link);
         QFETCH(QStringList, messages);
         QFETCH(QString, printedText);
         Session s;
         helpScrn2 window(topic);
+        if (!link.isEmpty()) // as the page follows a click on the link
+            window.myHTML->setSource(window.myHTML->source().resolved(QUrl(link)));
         window.menus()->item(QStringLiteral("FilePrint"))->trigger();
         QCOMPARE(s.fake.messages.texts(), messages);
         if (!messages.isEmpty())

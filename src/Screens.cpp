@@ -19,6 +19,7 @@
 #include "seasondata/ui/backUpDlog.h"
 #include "seasondata/ui/prefScrn.h"
 #include "support/HelpRequests.h"
+#include "support/cAutoUpdate.h"
 #include "support/ui/updateDlog.h"
 
 void registerScreens()
@@ -31,7 +32,9 @@ void registerScreens()
     screens::registerScreen(ScreenId::standingsScrn, [] { return new standingsScrn; });
     screens::registerScreen(ScreenId::gameDayScrn,
                             [](const QVariant &eventID) { return new gameDayScrn(eventID.toString()); });
-    screens::registerScreen(ScreenId::updateDlog, [] { return new updateDlog; });
+    // Only a build that knows where the newest version is told can check.
+    if (!cAutoUpdate::builtInDocumentUrl().isEmpty())
+        screens::registerScreen(ScreenId::updateDlog, [] { return new updateDlog; });
     screens::registerScreen(ScreenId::helpScrn2,
                             [](const QVariant &topic) { return new helpScrn2(topic.isValid() ? topic.toInt() : 0); });
     screens::registerScreen(ScreenId::HelpAbbrevScrn, [] { return HelpAbbrevScrn::instance(); });

@@ -32,6 +32,11 @@ cAutoUpdate::~cAutoUpdate()
     }
 }
 
+QString cAutoUpdate::builtInDocumentUrl()
+{
+    return QStringLiteral(TALLYLINE_UPDATE_URL);
+}
+
 QString cAutoUpdate::upToDateMessage()
 {
     return QStringLiteral("Your Copy Of Tallyline Baseball Is Up To Date!");

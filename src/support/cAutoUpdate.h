@@ -39,6 +39,9 @@ public:
     void cancel();
 
     static QString upToDateMessage();
+    // The version document's address this program was built with; empty
+    // when it was built without one.
+    static QString builtInDocumentUrl();
 
 Q_SIGNALS:
     void updateAvailable(const QString &version, const QString &url, const QString &name, const QString &description);

@@ -100,7 +100,9 @@ QUrl expReporterScrn::reportMail(const QString &text)
 {
     // The one builder of mailto: addresses encodes every part, so the report
     // arrives whole whatever it holds ("&", "?", "#", line ends).
-    return support::mailtoAddress({QStringLiteral(TALLYLINE_SUPPORT_EMAIL)},
+    // A build without a support address leaves the recipient to the coach.
+    const QString to = QStringLiteral(TALLYLINE_SUPPORT_EMAIL);
+    return support::mailtoAddress(to.isEmpty() ? QStringList() : QStringList{to},
                                   appinfo::curVers + QStringLiteral(" error"), text);
 }
 

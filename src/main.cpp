@@ -1,6 +1,7 @@
 // The program's entry point: installs the desktop's services, runs the
 // start-up order and shows the splash screen.
 
+#include "Screens.h"
 #include "app/App.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
@@ -8,7 +9,6 @@
 #include "platform/qt/QtServices.h"
 #include "seasondata/ui/backUpDlog.h"
 #include "support/ui/expReporterScrn.h"
-#include "Screens.h"
 
 int main(int argc, char *argv[])
 {

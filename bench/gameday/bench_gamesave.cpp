@@ -12,9 +12,9 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <QElapsedTimer>
-#include <algorithm>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 
 using namespace gameday;
 
@@ -33,7 +33,8 @@ TeamStrings bigTeam()
     QStringList actions;
     const QStringList codes = {"B1", "GO", "KS", "", "HR", "BB", "FO", ""};
     for (int r = 0; r < 25; ++r) {
-        lineup.append(LineupLine{QString::number(r + 1), "SS", QStringLiteral("Player O'Name %1").arg(r), QString::number(100 + r)});
+        lineup.append(LineupLine{QString::number(r + 1), "SS", QStringLiteral("Player O'Name %1").arg(r),
+                                 QString::number(100 + r)});
         stats.append(BatterStat{"1", "0"});
         QStringList line;
         for (int c = 0; c < 23; ++c)
@@ -85,8 +86,8 @@ private Q_SLOTS:
             SQLite::Statement st(db, "UPDATE Games SET Teams = ?, gameType = ?, recorded = ?, TeamBHeadings = ?, "
                                      "TeamBBench = ?, TeamBPlayers = ?, TeamBActions = ?, TeamBOutcomes = ?, "
                                      "TeamBBatterStats = ? WHERE schedID = ?");
-            const QVariantList values = {rec.teamsField(), rec.gameType, 0, t.headings, t.bench, t.players,
-                                         t.actions, t.outcomes, t.batStats, rec.schedID};
+            const QVariantList values = {rec.teamsField(), rec.gameType, 0,          t.headings, t.bench,
+                                         t.players,        t.actions,    t.outcomes, t.batStats, rec.schedID};
             myDB::bindAll(st, values);
             st.exec();
             tx.commit();

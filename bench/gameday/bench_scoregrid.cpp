@@ -22,7 +22,7 @@ void loadFullCard(ScoreGrid &grid)
     grid.insertColumn(4, 32);
     grid.deleteAllRows();
     const QStringList codes = gameday::atBatCodes();
-    const QStringList bkgs = { "", "R", "G", "Y" };
+    const QStringList bkgs = {"", "R", "G", "Y"};
     for (int r = 0; r < gameday::kBkgRows; ++r) {
         grid.addRow();
         for (int c = 0; c < grid.columnCount(); ++c) {
@@ -53,8 +53,7 @@ private Q_SLOTS:
         grid.setColumnHeadings(source.columnHeadings());
         for (int r = 0; r < source.rowCount(); ++r)
             grid.addRow();
-        QBENCHMARK
-        {
+        QBENCHMARK {
             grid.setMyData(texts);
             grid.setMyBkgArray(outcomes);
         }
@@ -66,8 +65,7 @@ private Q_SLOTS:
         ScoreGrid grid;
         loadFullCard(grid);
         QString texts, outcomes;
-        QBENCHMARK
-        {
+        QBENCHMARK {
             texts = grid.getMyData();
             outcomes = grid.getMyBkgArray();
         }
@@ -79,8 +77,7 @@ private Q_SLOTS:
         ScoreGrid grid;
         loadFullCard(grid);
         int total = 0;
-        QBENCHMARK
-        {
+        QBENCHMARK {
             const auto runs = grid.countRunsByInning();
             total = runs[0] + grid.countTotalRuns() + grid.countTotalHits() + grid.countTotalLOBs();
             for (int r = 0; r < grid.rowCount(); ++r)
@@ -99,8 +96,7 @@ private Q_SLOTS:
         bool clear = false;
         grid.setPopoverRequest(
             [&](int, int, bool) { return clear ? QStringLiteral("Clear Cell") : QStringLiteral("B1"); });
-        QBENCHMARK
-        {
+        QBENCHMARK {
             grid.cellClicked(5, 5, false);
             clear = !clear;
         }
@@ -112,8 +108,7 @@ private Q_SLOTS:
         loadFullCard(grid);
         for (int c = 0; c < grid.columnCount(); ++c)
             grid.setCellText(c % grid.rowCount(), c, QString()); // a gap in every inning
-        QBENCHMARK
-        {
+        QBENCHMARK {
             grid.autoRowStart = 1;
             grid.autoColStart = 0;
             grid.autoRowEnd = 20;

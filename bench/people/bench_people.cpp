@@ -49,8 +49,9 @@ private Q_SLOTS:
         QBuffer buffer(&jpeg);
         buffer.open(QIODevice::WriteOnly);
         logo.save(&buffer, "JPEG", 90);
-        const qint64 id = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Cougars")},
-                                                                  {QStringLiteral("TeamLogo"), jpeg}});
+        const qint64 id = gData->insert(QStringLiteral("Teams"),
+                                        {{QStringLiteral("TeamName"), QStringLiteral("Cougars")},
+                                         {QStringLiteral("TeamLogo"), jpeg}});
         people::TeamStore store(*gData);
         people::TeamRecord team = *store.team(QString::number(id));
 

@@ -100,7 +100,7 @@ void fillAndPaintTableView()
     Q_ASSERT(!shot.isNull());
 }
 
-template <typename F>
+template<typename F>
 double medianMs(F f, int runs)
 {
     QList<double> times;
@@ -123,9 +123,24 @@ class BenchListBox : public QObject
 private Q_SLOTS:
     void initTestCase() { data(); }
 
-    void listBoxRowByRow() { QBENCHMARK { fillAndPaintListBox(); } }
-    void listBoxInOneStep() { QBENCHMARK { fillAndPaintListBoxInOneStep(); } }
-    void plainTableView() { QBENCHMARK { fillAndPaintTableView(); } }
+    void listBoxRowByRow()
+    {
+        QBENCHMARK {
+            fillAndPaintListBox();
+        }
+    }
+    void listBoxInOneStep()
+    {
+        QBENCHMARK {
+            fillAndPaintListBoxInOneStep();
+        }
+    }
+    void plainTableView()
+    {
+        QBENCHMARK {
+            fillAndPaintTableView();
+        }
+    }
 
     // Both in turn, in this run, so the machine's load weighs on both alike.
     void ratio()

@@ -53,14 +53,18 @@ private Q_SLOTS:
     void loadAll()
     {
         ScheduleList list(*gData);
-        QBENCHMARK { list.loadScheduleLB(ScheduleStore::kShowAll); }
+        QBENCHMARK {
+            list.loadScheduleLB(ScheduleStore::kShowAll);
+        }
         QCOMPARE(list.rows().size(), 2000);
     }
 
     void loadFiltered()
     {
         ScheduleList list(*gData);
-        QBENCHMARK { list.loadScheduleLB(QStringLiteral("Game")); }
+        QBENCHMARK {
+            list.loadScheduleLB(QStringLiteral("Game"));
+        }
         QCOMPARE(list.rows().size(), 500);
     }
 
@@ -78,7 +82,9 @@ private Q_SLOTS:
     {
         ScheduleList list(*gData);
         list.loadScheduleLB(ScheduleStore::kShowAll);
-        QBENCHMARK { QVERIFY(list.saveLBandPos()); }
+        QBENCHMARK {
+            QVERIFY(list.saveLBandPos());
+        }
     }
 
     // Loading a list with 3,000 rows whose date can't be read, which go in
@@ -91,7 +97,8 @@ private Q_SLOTS:
         const auto addBad = [&] {
             QVERIFY(gData->runInTransaction([&] {
                 for (int i = 0; i < bad; ++i)
-                    gData->exec(QStringLiteral("INSERT INTO Schedule (SchedDate, Event, position) VALUES ('soon', 'Meeting', 9)"));
+                    gData->exec(QStringLiteral(
+                        "INSERT INTO Schedule (SchedDate, Event, position) VALUES ('soon', 'Meeting', 9)"));
             }));
         };
         QList<double> program, plain;
@@ -130,8 +137,10 @@ private Q_SLOTS:
         addBad();
         QElapsedTimer t;
         t.start();
-        for (const Record &r : gData->select(QStringLiteral("SELECT eventID FROM Schedule WHERE SchedDate = 'soon' LIMIT 300")))
-            gData->exec(QStringLiteral("DELETE FROM Schedule WHERE eventID = ?"), {r.integer(QStringLiteral("eventID"))});
+        for (const Record &r :
+             gData->select(QStringLiteral("SELECT eventID FROM Schedule WHERE SchedDate = 'soon' LIMIT 300")))
+            gData->exec(QStringLiteral("DELETE FROM Schedule WHERE eventID = ?"),
+                        {r.integer(QStringLiteral("eventID"))});
         const double perRow = 10 * t.nsecsElapsed() / 1e6;
         gData->exec(QStringLiteral("DELETE FROM Schedule WHERE SchedDate = 'soon'"));
         std::sort(program.begin(), program.end());

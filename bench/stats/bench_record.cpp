@@ -53,9 +53,9 @@ class BenchRecord : public QObject
     // The season lies in the working folder, on the disk a coach's season
     // would use; TL_BENCH_DIR puts it elsewhere (a RAM disk, to see the
     // work apart from the disk's flushes).
-    QTemporaryDir m_home {(qEnvironmentVariableIsEmpty("TL_BENCH_DIR") ? QDir::currentPath()
-                                                                       : qEnvironmentVariable("TL_BENCH_DIR")) +
-                          QStringLiteral("/bench-record-XXXXXX")};
+    QTemporaryDir m_home{
+        (qEnvironmentVariableIsEmpty("TL_BENCH_DIR") ? QDir::currentPath() : qEnvironmentVariable("TL_BENCH_DIR")) +
+        QStringLiteral("/bench-record-XXXXXX")};
     std::unique_ptr<App> m_app;
     QString m_teams;
     std::array<QString, 2> m_players;
@@ -72,17 +72,28 @@ class BenchRecord : public QObject
     QString storeGame()
     {
         const QString schedID = QString::number(1000000 + m_nextGame++);
-        gData->insert("Games", {{"schedID", schedID}, {"Teams", m_teams}, {"TeamAHeadings", m_headings},
-                                {"TeamBHeadings", m_headings}, {"TeamAPlayers", m_players[0]},
-                                {"TeamBPlayers", m_players[1]}, {"TeamAActions", m_actions},
-                                {"TeamBActions", m_actions}, {"TeamAOutcomes", m_outcomes},
-                                {"TeamBOutcomes", m_outcomes}, {"TeamABatterStats", m_batStats},
-                                {"TeamBBatterStats", m_batStats}, {"recorded", 0}});
+        gData->insert("Games", {{"schedID", schedID},
+                                {"Teams", m_teams},
+                                {"TeamAHeadings", m_headings},
+                                {"TeamBHeadings", m_headings},
+                                {"TeamAPlayers", m_players[0]},
+                                {"TeamBPlayers", m_players[1]},
+                                {"TeamAActions", m_actions},
+                                {"TeamBActions", m_actions},
+                                {"TeamAOutcomes", m_outcomes},
+                                {"TeamBOutcomes", m_outcomes},
+                                {"TeamABatterStats", m_batStats},
+                                {"TeamBBatterStats", m_batStats},
+                                {"recorded", 0}});
         SQLite::Transaction t(db());
-        SQLite::Statement hit(db(), "INSERT INTO GamesIndivHitting (gameID, playerID, teamID, stats) VALUES (?, ?, 1, '1\t0\t2\t0\t0')");
-        SQLite::Statement fld(db(), "INSERT INTO GamesIndivFielding (gameID, playerID, teamID, stats) VALUES (?, ?, 1, '9\t3\t2\t1\t0\t0\t0\t0\t0\t0\t0\t0\t0')");
-        SQLite::Statement pch(db(), "INSERT INTO GamesIndivPitching (gameID, playerID, teamID, gameResult, start, totBalls, totKs, stats) "
-                                    "VALUES (?, ?, 1, 1, 1, 40, 60, '4.2\t20\t5\t2\t1\t3\t4\t2\t0\t0\t6\t0\t1\t0\t0\t0\t0')");
+        SQLite::Statement hit(
+            db(), "INSERT INTO GamesIndivHitting (gameID, playerID, teamID, stats) VALUES (?, ?, 1, '1\t0\t2\t0\t0')");
+        SQLite::Statement fld(db(), "INSERT INTO GamesIndivFielding (gameID, playerID, teamID, stats) VALUES (?, ?, 1, "
+                                    "'9\t3\t2\t1\t0\t0\t0\t0\t0\t0\t0\t0\t0')");
+        SQLite::Statement pch(
+            db(),
+            "INSERT INTO GamesIndivPitching (gameID, playerID, teamID, gameResult, start, totBalls, totKs, stats) "
+            "VALUES (?, ?, 1, 1, 1, 40, 60, '4.2\t20\t5\t2\t1\t3\t4\t2\t0\t0\t6\t0\t1\t0\t0\t0\t0')");
         for (int p = 1; p <= 2 * kLineup; ++p) {
             for (SQLite::Statement *s : {&hit, &fld}) {
                 s->reset();

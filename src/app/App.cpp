@@ -62,8 +62,8 @@ App::OpenResult App::Event_Open()
 
     m_prefs = std::make_unique<myPrefs>(m_appDataRoot);
     if (!m_prefs->storageFound()) {
-        gMsgBox(QStringLiteral(
-            "Could not find/create the standard storage location. Please contact Quillmere Software."));
+        gMsgBox(
+            QStringLiteral("Could not find/create the standard storage location. Please contact Quillmere Software."));
         return OpenResult::NoStorage;
     }
     gPrefs = m_prefs.get();

@@ -48,11 +48,12 @@ const FileType pBmp = make("bmp", "bmp", "", "", {QStringLiteral("image/bmp")});
 const FileType pPng = make("png", "png", "", "", {QStringLiteral("image/png")});
 const FileType pDatabase = make("database", ".sqlite", "rbd", "tlyn", {QStringLiteral("public.data")});
 const FileType pPrefs = make("prefs", ".pref", "pref", "tlyn", {QStringLiteral("public.data")});
-const FileType pAllPicts = make("all_picts", ".gif;.jfif;.jpe;.jpeg;.jpg;.png;.jfx;.tif;.tiff;.bmp;.dib;.mac;.pict;.pic;.pct;.pdf",
+const FileType pAllPicts = make("all_picts",
+                                ".gif;.jfif;.jpe;.jpeg;.jpg;.png;.jfx;.tif;.tiff;.bmp;.dib;.mac;.pict;.pic;.pct;.pdf",
                                 "JPEG", "prvw");
 const FileType pText = make("text/plain",
-                            ".txt;.ascii;.bas;.c;.class;.cp;.cpp;.h;.hp;.hpp;.i3;.java;.m2;.m3;.mak;.text;.txt",
-                            "TEXT", "????", {QStringLiteral("public.text")});
+                            ".txt;.ascii;.bas;.c;.class;.cp;.cpp;.h;.hp;.hpp;.i3;.java;.m2;.m3;.mak;.text;.txt", "TEXT",
+                            "????", {QStringLiteral("public.text")});
 const FileType pRtf = make("application/rtf", ".rtf", "TEXT", "MSWD", {QStringLiteral("public.rtf")});
 const FileType pPdf = make("application/pdf", ".pdf", "PDF ", "prvw", {QStringLiteral("com.adobe.pdf")});
 const FileType pPlanFile = make("PlanFile", ".pplan", "PPL", "",

@@ -35,8 +35,14 @@ extern const FileType pRtf;
 extern const FileType pPdf;
 extern const FileType pPlanFile;
 
-inline const FileType &AllPicts() { return pAllPicts; }
-inline const FileType &PlanFile() { return pPlanFile; }
+inline const FileType &AllPicts()
+{
+    return pAllPicts;
+}
+inline const FileType &PlanFile()
+{
+    return pPlanFile;
+}
 
 // A season file is recognised by the database type's extension.
 bool isSeasonFile(const QString &fileName);

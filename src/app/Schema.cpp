@@ -40,54 +40,54 @@ QStringList build()
                               typed("VarChar", {"First", "Last", "Address", "Address1", "City", "State", "Zip",
                                                 "PhoneNumber", "CellPhone", "Email"}) +
                               typed("Integer", {"Assistant", "Active"}) + typed("Blob", {"CoachPic"}));
-    s << table("Teams", QStringList{key("teamID")} +
-                            typed("VarChar", {"TeamName", "SchoolName", "League", "Division", "SchoolAddress",
-                                              "SchoolAddress1", "SchoolCity", "SchoolZip", "SchoolState", "Phone",
-                                              "HomeField"}) +
-                            typed("Integer", {"Active"}) + typed("Blob", {"TeamLogo"}));
+    s << table("Teams",
+               QStringList{key("teamID")} +
+                   typed("VarChar", {"TeamName", "SchoolName", "League", "Division", "SchoolAddress", "SchoolAddress1",
+                                     "SchoolCity", "SchoolZip", "SchoolState", "Phone", "HomeField"}) +
+                   typed("Integer", {"Active"}) + typed("Blob", {"TeamLogo"}));
     s << table("Players", QStringList{key("playerID")} + typed("Integer", {"TeamNum"}) +
                               typed("VarChar", {"First", "Last", "Address", "Address1", "City", "State", "Zip",
                                                 "PhoneNumber", "CellPhone", "Email"}) +
                               typed("Integer", {"Active"}) +
                               typed("VarChar", {"UniNum", "Pos1", "Pos2", "Pos3", "HitSide", "ThrowSide", "DOB",
-                                                "StudentID", "Guardian", "GuardianPhone", "EmergContact",
-                                                "EmergPhone", "Doctor", "DoctorPhone", "MedInfo", "PlayerNotes"}) +
+                                                "StudentID", "Guardian", "GuardianPhone", "EmergContact", "EmergPhone",
+                                                "Doctor", "DoctorPhone", "MedInfo", "PlayerNotes"}) +
                               typed("Blob", {"PlayerPic"}));
     s << table("Schedule", QStringList{key("eventID")} + typed("Date", {"SchedDate"}) +
                                typed("VarChar", {"BusTime", "StartTime", "Event", "Opponent", "OppID", "Location"}) +
                                typed("Integer", {"isHome", "position"}));
-    s << table("Drills", QStringList{key("planID")} +
-                             typed("Varchar", {"scheduleID", "drill", "start", "pEnd", "coach"}));
+    s << table("Drills",
+               QStringList{key("planID")} + typed("Varchar", {"scheduleID", "drill", "start", "pEnd", "coach"}));
     s << table("Games", QStringList{key("gameID")} +
                             typed("Varchar", {"schedID", "Teams", "HomeTeam", "TeamAHeadings", "TeamABench",
                                               "TeamAPlayers", "TeamAActions", "TeamAOutcomes", "TeamBHeadings",
                                               "TeamBBench", "TeamBPlayers", "TeamBActions", "TeamBOutcomes"}) +
                             typed("VarChar", {"TeamABatterStats", "TeamBBatterStats", "gameType"}) +
                             typed("Integer", {"recorded"}));
-    s << table("GamesIndivHitting", QStringList{key("recID")} +
-                                        typed("Varchar", {"gameID", "playerID", "teamID", "stats"}));
+    s << table("GamesIndivHitting",
+               QStringList{key("recID")} + typed("Varchar", {"gameID", "playerID", "teamID", "stats"}));
     s << table("GamesIndivFielding", QStringList{key("recID")} + typed("Varchar", {"gameID", "playerID"}) +
                                          typed("VarChar", {"teamID"}) + typed("Varchar", {"stats"}));
-    s << table("GamesIndivPitching", QStringList{key("recID")} + typed("Varchar", {"gameID", "playerID"}) +
-                                         typed("VarChar", {"teamID"}) +
-                                         counters("INTEGER", {"gameResult", "start", "shutout", "compGame",
-                                                              "totBalls", "totKs"}) +
-                                         typed("Varchar", {"stats"}));
-    s << table("GameResultsByTeam", QStringList{key("recID")} + typed("Integer", {"teamID"}) +
-                                        counters("Integer", {"W", "L", "Tie"}));
+    s << table("GamesIndivPitching",
+               QStringList{key("recID")} + typed("Varchar", {"gameID", "playerID"}) + typed("VarChar", {"teamID"}) +
+                   counters("INTEGER", {"gameResult", "start", "shutout", "compGame", "totBalls", "totKs"}) +
+                   typed("Varchar", {"stats"}));
+    s << table("GameResultsByTeam",
+               QStringList{key("recID")} + typed("Integer", {"teamID"}) + counters("Integer", {"W", "L", "Tie"}));
     s << table("Hitting", QStringList{key("recID")} +
-                              counters("Integer", {"playerID", "teamID", "gameID", "AB", "B1", "B2", "B3", "HR", "BB",
-                                                   "IBB", "HBP", "SAC", "FO", "GO", "KS", "KL", "HDP", "ROE", "FC",
-                                                   "CI", "Runs", "RBI", "SB", "LOB", "UDB1", "UDB2", "UDB3", "UDB4",
-                                                   "UDB5"}));
+                              counters("Integer", {"playerID", "teamID", "gameID", "AB",   "B1",   "B2",  "B3", "HR",
+                                                   "BB",       "IBB",    "HBP",    "SAC",  "FO",   "GO",  "KS", "KL",
+                                                   "HDP",      "ROE",    "FC",     "CI",   "Runs", "RBI", "SB", "LOB",
+                                                   "UDB1",     "UDB2",   "UDB3",   "UDB4", "UDB5"}));
     s << table("Fielding", QStringList{key("recID")} +
                                counters("Integer", {"playerID", "teamID", "gameID", "IP", "CH", "PO", "Asst", "FE",
                                                     "TE", "DPL", "PB", "SBA", "CS", "UDF1", "UDF2", "UDF3"}));
-    s << table("Pitching", QStringList{key("recID")} +
-                               counters("Integer", {"playerID", "teamID", "gameID", "Win", "Loss", "Save", "ND",
-                                                    "Start", "ShO", "CG", "Balls", "Ks", "PitCt", "IP", "BF", "Hits",
-                                                    "ErRuns", "HRA", "GrO", "FlO", "BB", "IBB", "PckO", "Kouts",
-                                                    "Blk", "WldP", "HitB", "UDP1", "UDP2", "UDP3"}));
+    s << table("Pitching",
+               QStringList{key("recID")} +
+                   counters("Integer", {"playerID", "teamID", "gameID", "Win",  "Loss",  "Save", "ND",   "Start",
+                                        "ShO",      "CG",     "Balls",  "Ks",   "PitCt", "IP",   "BF",   "Hits",
+                                        "ErRuns",   "HRA",    "GrO",    "FlO",  "BB",    "IBB",  "PckO", "Kouts",
+                                        "Blk",      "WldP",   "HitB",   "UDP1", "UDP2",  "UDP3"}));
     s << table("TeamInventory", QStringList{key("serial")} + typed("Varchar", {"teamID"}) +
                                     counters("INTEGER", {"quantity"}) + typed("Varchar", {"item", "ItemID"}));
     s << table("PlayerInventory", QStringList{key("serial")} + counters("INTEGER", {"ctrlNum"}) +
@@ -106,13 +106,20 @@ const QStringList &createStatements()
 const QStringList &tableNames()
 {
     static const QStringList names = {
-        QStringLiteral("Coaches"),           QStringLiteral("Teams"),
-        QStringLiteral("Players"),           QStringLiteral("Schedule"),
-        QStringLiteral("Drills"),            QStringLiteral("Games"),
-        QStringLiteral("GamesIndivHitting"), QStringLiteral("GamesIndivFielding"),
-        QStringLiteral("GamesIndivPitching"), QStringLiteral("GameResultsByTeam"),
-        QStringLiteral("Hitting"),           QStringLiteral("Fielding"),
-        QStringLiteral("Pitching"),          QStringLiteral("TeamInventory"),
+        QStringLiteral("Coaches"),
+        QStringLiteral("Teams"),
+        QStringLiteral("Players"),
+        QStringLiteral("Schedule"),
+        QStringLiteral("Drills"),
+        QStringLiteral("Games"),
+        QStringLiteral("GamesIndivHitting"),
+        QStringLiteral("GamesIndivFielding"),
+        QStringLiteral("GamesIndivPitching"),
+        QStringLiteral("GameResultsByTeam"),
+        QStringLiteral("Hitting"),
+        QStringLiteral("Fielding"),
+        QStringLiteral("Pitching"),
+        QStringLiteral("TeamInventory"),
         QStringLiteral("PlayerInventory"),
     };
     return names;

@@ -38,7 +38,8 @@ void gCreateGlobalLists()
     gActivities = QStringLiteral(
         "WARM UP;FIELDING;THROWING;HITTING;GAME SITUATIONS;PITCHING;BASERUNNING;CATCHERS;BUNTING;COACHING");
     gDrills = {
-        QStringLiteral("Arm Stretch;Leg Stretch;Laps;Base Laps;Sprints;Exercise;Running Drill;Run and Steal;Relay Races"),
+        QStringLiteral(
+            "Arm Stretch;Leg Stretch;Laps;Base Laps;Sprints;Exercise;Running Drill;Run and Steal;Relay Races"),
         QStringLiteral("Fly Balls;Ground Balls;Fungo;Run Down;Communication;Long Toss;Short Toss;Infield Drill;"
                        "Outfield Drill;Charging Drill;High Rise;Short Hop;Throw and Run;Fielding Bunts;Fence Drill;"
                        "Field Jurisdiction"),
@@ -69,8 +70,8 @@ QString parseGSI(const QString &text)
     return QDir::cleanPath(text);
 }
 
-std::uint8_t gShowMsgDlog(const QString &message, const QString &explanation,
-                          const QString &actionCaption, const QString &altCaption)
+std::uint8_t gShowMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
+                          const QString &altCaption)
 {
     return platform::messages().showMsgDlog(message, explanation, actionCaption, altCaption);
 }
@@ -113,8 +114,8 @@ QList<int> gCreateVertPrinterPts(const platform::PrinterSetup &setup, int step)
 
 bool gIsEmailValid(const QString &text)
 {
-    static const QRegularExpression re(QStringLiteral(
-        R"(^\w+((-\w+)|(\.\w+))*\@[A-Za-z0-9]+((\.|-)[A-Za-z0-9]+)*\.[A-Za-z0-9]+$)"));
+    static const QRegularExpression re(
+        QStringLiteral(R"(^\w+((-\w+)|(\.\w+))*\@[A-Za-z0-9]+((\.|-)[A-Za-z0-9]+)*\.[A-Za-z0-9]+$)"));
     if (!re.isValid())
         return false;
     return re.match(text).hasMatch();

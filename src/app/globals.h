@@ -44,8 +44,8 @@ QString createGSI(const QString &folder);
 QString parseGSI(const QString &text);
 
 // The standard message dialog: 0 action, 1 cancel, 2 alternate.
-std::uint8_t gShowMsgDlog(const QString &message, const QString &explanation,
-                          const QString &actionCaption, const QString &altCaption = {});
+std::uint8_t gShowMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
+                          const QString &altCaption = {});
 // A plain one-line message box.
 void gMsgBox(const QString &text);
 // The system's alert sound.
@@ -64,7 +64,10 @@ bool gIsEmailValid(const QString &text);
 QString TruncateStr(const QFontMetricsF &metrics, const QString &text, qreal maxWidth);
 // "7:05 PM" -> {"7", "05", "PM"}; empty text and "---" read as "0:00 PM".
 std::array<QString, 3> gParseTimeStr(const QString &text);
-inline int gBool2Int(bool flag) { return flag ? 1 : 0; }
+inline int gBool2Int(bool flag)
+{
+    return flag ? 1 : 0;
+}
 // True for Return (13) and Enter (3).
 bool gIsEnterKey(const QString &key);
 // Strip leading / trailing characters found (case-insensitively) in `set`.

@@ -260,8 +260,7 @@ bool myDB::exec(const QString &sql, const QVariantList &params)
     try {
         SQLite::Statement statement(*tlynData, utf8(sql));
         bindAll(statement, params);
-        while (statement.executeStep()) {
-        }
+        while (statement.executeStep()) {}
         clearError();
         return true;
     } catch (const SQLite::Exception &e) {

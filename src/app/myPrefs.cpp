@@ -210,9 +210,8 @@ void myPrefs::initPrefs()
         "RH Pitcher,LH Pitcher,Catcher,First Base,Second Base,Third Base,Shortstop,Outfield,Left Field,"
         "Center Field,Right Field,Designated Hitter,Short Field,Left-Center Field,Right-Center Field,"
         "Pitch Hitter,Pitch Runner");
-    prGameTypes = QStringLiteral(
-        "Division,Non-Div/League,Non-Div/Non-Lg,PreSeason,Sectional,Regional,State Tournament,"
-        "Weather/Rain Out,Forfeit");
+    prGameTypes = QStringLiteral("Division,Non-Div/League,Non-Div/Non-Lg,PreSeason,Sectional,Regional,State Tournament,"
+                                 "Weather/Rain Out,Forfeit");
     prAbbrevPos = QStringLiteral("RHP,LHP,C,B1,B2,B3,SS,OF,LF,CF,RF,DH,SF,LCF,RCF,PH,PR");
     prEmailAuth = false;
     prEmailPort = 25;
@@ -271,27 +270,14 @@ bool myPrefs::decode(const QByteArray &bytes)
     };
     qint32 version = 0; // read and dropped: every version has this one layout
     quint8 freq = 0;
-    return in.number(version)
-        && in.pascal(b) && text(prHomeTeam)
-        && in.pascal(b) && text(prSeason)
-        && in.flag(prLogoOnStart)
-        && in.flag(prLogoOnReport)
-        && in.pascal(b) && text(prInnings)
-        && in.pascal(b) && text(prLineUp)
-        && in.counted(b) && base64(prDataBackupLoc)
-        && in.counted(b) && text(prAbbrevPos)
-        && in.counted(b) && text(prPositions)
-        && in.counted(b) && text(prGameTypes)
-        && in.pascal(b) && base64(prEmailServer)
-        && in.pascal(b) && base64(prEmailUser)
-        && in.pascal(b) && base64(prEmailPW)
-        && in.number(prEmailPort)
-        && in.flag(prEmailAuth)
-        && in.pascal(b) && text(prUDB)
-        && in.pascal(b) && text(prUDF)
-        && in.pascal(b) && text(prUDP)
-        && in.number(freq) && ((prBackupFreq = freq), true)
-        && in.number(prLastDBClean);
+    return in.number(version) && in.pascal(b) && text(prHomeTeam) && in.pascal(b) && text(prSeason) &&
+           in.flag(prLogoOnStart) && in.flag(prLogoOnReport) && in.pascal(b) && text(prInnings) && in.pascal(b) &&
+           text(prLineUp) && in.counted(b) && base64(prDataBackupLoc) && in.counted(b) && text(prAbbrevPos) &&
+           in.counted(b) && text(prPositions) && in.counted(b) && text(prGameTypes) && in.pascal(b) &&
+           base64(prEmailServer) && in.pascal(b) && base64(prEmailUser) && in.pascal(b) && base64(prEmailPW) &&
+           in.number(prEmailPort) && in.flag(prEmailAuth) && in.pascal(b) && text(prUDB) && in.pascal(b) &&
+           text(prUDF) && in.pascal(b) && text(prUDP) && in.number(freq) && ((prBackupFreq = freq), true) &&
+           in.number(prLastDBClean);
 }
 
 void myPrefs::readPrefs()

@@ -12,11 +12,7 @@ const QString kOK = QStringLiteral("OK");
 
 } // namespace
 
-GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent)
-    : QObject(parent)
-    , m_db(db)
-    , m_card(card)
-    , m_store(db)
+GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent) : QObject(parent), m_db(db), m_card(card), m_store(db)
 {
     m_defLineup = lineupSlots();
     m_card.setDefInnings(regulationInnings());
@@ -516,8 +512,8 @@ void GameDay::onWalkoff()
 {
     if (m_cur != 1)
         return;
-    if (gShowMsgDlog(QStringLiteral("Is this game over?"), QStringLiteral("Click 'Cancel' to continue entering At Bats."),
-                     QStringLiteral("Yes")) == 0)
+    if (gShowMsgDlog(QStringLiteral("Is this game over?"),
+                     QStringLiteral("Click 'Cancel' to continue entering At Bats."), QStringLiteral("Yes")) == 0)
         updateRunsHits();
 }
 

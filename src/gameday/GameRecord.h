@@ -88,7 +88,7 @@ struct TeamStrings
     QString headings;
     QString bench;
     QString players;
-    QString actions;  // grid form, or run-entry form beginning "xxx"
+    QString actions; // grid form, or run-entry form beginning "xxx"
     QString outcomes;
     QString batStats;
     bool operator==(const TeamStrings &) const = default;
@@ -97,8 +97,8 @@ struct TeamStrings
 struct GameRecord
 {
     QString schedID;
-    std::array<QString, 2> teamIDs;      // team A (bats first), team B
-    std::array<TeamStrings, 2> teams;    // index 0 team A, 1 team B
+    std::array<QString, 2> teamIDs;   // team A (bats first), team B
+    std::array<TeamStrings, 2> teams; // index 0 team A, 1 team B
     QString gameType = QStringLiteral("No Selection");
     bool recorded = false;
 

@@ -124,8 +124,8 @@ std::optional<BenchLine> GameStore::player(const QString &playerID) const
 
 std::optional<GameRecord> GameStore::load(const QString &schedID) const
 {
-    const QList<Record> rows =
-        m_db.select(QStringLiteral("SELECT * FROM Games WHERE schedID = ? ORDER BY gameID LIMIT 1"), {schedID});
+    const QList<Record> rows = m_db.select(
+        QStringLiteral("SELECT * FROM Games WHERE schedID = ? ORDER BY gameID LIMIT 1"), {schedID});
     if (rows.isEmpty())
         return std::nullopt;
     const Record &r = rows.first();

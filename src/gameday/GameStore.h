@@ -19,7 +19,7 @@ namespace gameday {
 struct GameEvent
 {
     QString schedID;
-    QDate date;           // invalid when the stored date doesn't read
+    QDate date; // invalid when the stored date doesn't read
     QString location;
     std::array<QString, 2> teamIDs; // team A bats first, team B last
 };

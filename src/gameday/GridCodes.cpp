@@ -22,25 +22,27 @@ bool isBackgroundCode(QStringView code)
 
 const QStringList &atBatCodes()
 {
-    static const QStringList codes = { QStringLiteral("B1"), QStringLiteral("B2"), QStringLiteral("B3"),
-        QStringLiteral("HR"), QStringLiteral("BB"), QStringLiteral("IBB"), QStringLiteral("HBP"), QStringLiteral("SAC"),
-        QStringLiteral("FO"), QStringLiteral("GO"), QStringLiteral("KS"), QStringLiteral("KL"), QStringLiteral("HDP"),
-        QStringLiteral("ROE"), QStringLiteral("FC"), QStringLiteral("CI") };
+    static const QStringList codes = {QStringLiteral("B1"),  QStringLiteral("B2"),  QStringLiteral("B3"),
+                                      QStringLiteral("HR"),  QStringLiteral("BB"),  QStringLiteral("IBB"),
+                                      QStringLiteral("HBP"), QStringLiteral("SAC"), QStringLiteral("FO"),
+                                      QStringLiteral("GO"),  QStringLiteral("KS"),  QStringLiteral("KL"),
+                                      QStringLiteral("HDP"), QStringLiteral("ROE"), QStringLiteral("FC"),
+                                      QStringLiteral("CI")};
     return codes;
 }
 
 const QStringList &resultCodes()
 {
-    static const QStringList codes = { QStringLiteral("xCS"), QStringLiteral("xPOB"), QStringLiteral("xFrcO"),
-        QStringLiteral("xOUT"), QStringLiteral("xRUN"), QStringLiteral("xLOB") };
+    static const QStringList codes = {QStringLiteral("xCS"),  QStringLiteral("xPOB"), QStringLiteral("xFrcO"),
+                                      QStringLiteral("xOUT"), QStringLiteral("xRUN"), QStringLiteral("xLOB")};
     return codes;
 }
 
 const QStringList &commandCaptions()
 {
-    static const QStringList captions
-        = { QStringLiteral("Clear Cell"), QStringLiteral("Disable Cell"), QStringLiteral("Clear Column"),
-              QStringLiteral("Disable Column"), QStringLiteral("Clear Row"), QStringLiteral("Disable Row") };
+    static const QStringList captions = {QStringLiteral("Clear Cell"),   QStringLiteral("Disable Cell"),
+                                         QStringLiteral("Clear Column"), QStringLiteral("Disable Column"),
+                                         QStringLiteral("Clear Row"),    QStringLiteral("Disable Row")};
     return captions;
 }
 

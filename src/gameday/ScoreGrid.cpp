@@ -37,8 +37,7 @@ int lineupSlots()
     return n > 0 ? n : 9;
 }
 
-ScoreGrid::ScoreGrid(QObject *parent)
-    : QObject(parent)
+ScoreGrid::ScoreGrid(QObject *parent) : QObject(parent)
 {
     initDict();
     setColumnCount(kDefaultColumns);
@@ -50,9 +49,9 @@ void ScoreGrid::initDict()
     actionDict.clear();
     const QString none = bkg(kBkgNone);
     const QString out = bkg(kBkgOut);
-    for (const char *code : { "B1", "B2", "B3", "BB", "IBB", "HBP", "ROE", "FC", "CI" })
+    for (const char *code : {"B1", "B2", "B3", "BB", "IBB", "HBP", "ROE", "FC", "CI"})
         actionDict.insert(QString::fromLatin1(code), none);
-    for (const char *code : { "SAC", "FO", "GO", "KS", "KL", "HDP", "xCS", "xPOB", "xFrcO", "xOUT" })
+    for (const char *code : {"SAC", "FO", "GO", "KS", "KL", "HDP", "xCS", "xPOB", "xFrcO", "xOUT"})
         actionDict.insert(QString::fromLatin1(code), out);
     actionDict.insert(QStringLiteral("HR"), bkg(kBkgRun));
     actionDict.insert(QStringLiteral("xRUN"), bkg(kBkgRun));
@@ -188,7 +187,7 @@ void ScoreGrid::cellClicked(int row, int col, bool optionDown)
     // inning can still be corrected.
     if (cellText(row, col).isEmpty() && check4ThreeOuts(col)) {
         gShowMsgDlog(QStringLiteral("There are already three outs in that inning."),
-            QStringLiteral("Clear at least 1 of the outs before adding an AB"), QStringLiteral("OK"));
+                     QStringLiteral("Clear at least 1 of the outs before adding an AB"), QStringLiteral("OK"));
         return;
     }
 
@@ -270,8 +269,8 @@ void ScoreGrid::applyChoice(int row, int col, const QString &choice)
             // Every one of the 23 columns holds data: the coach is told why
             // no column appears and can go on clearing or correcting cells.
             gShowMsgDlog(QStringLiteral("There is no room on the scorecard for another column."),
-                QStringLiteral("A game can use at most 23 columns, and the last one holds data."),
-                QStringLiteral("OK"));
+                         QStringLiteral("A game can use at most 23 columns, and the last one holds data."),
+                         QStringLiteral("OK"));
         }
     } else if (check4ThreeOuts(col)) {
         Q_EMIT doCalcs(col);
@@ -346,9 +345,9 @@ void ScoreGrid::disableWholeCol(int col)
     if (!inColumns(col))
         return;
     if (!isColumnEmpty(col)) {
-        const auto answer
-            = gShowMsgDlog(QStringLiteral("Are you sure you want to clear the data in column %1?").arg(col + 1),
-                QStringLiteral("Click 'Cancel' to leave the data"), QStringLiteral("Clear"));
+        const auto answer = gShowMsgDlog(
+            QStringLiteral("Are you sure you want to clear the data in column %1?").arg(col + 1),
+            QStringLiteral("Click 'Cancel' to leave the data"), QStringLiteral("Clear"));
         if (answer != 0)
             return;
     }
@@ -620,8 +619,8 @@ std::array<int, 10> ScoreGrid::countRunsByInning() const
     // An inning is "no data" (-1) only when none of its columns holds an at
     // bat: a doubled inning whose second column is still empty, or a tenth
     // inning followed by unplayed ones, keeps the runs it has.
-    std::array<int, 10> runs {};
-    std::array<bool, 10> played {};
+    std::array<int, 10> runs{};
+    std::array<bool, 10> played{};
     for (int c = 0; c < qMin(columnCount(), kStoredBkgCols); ++c) {
         const int slot = qMin(numericValue(heading(c)) - 1, 9);
         if (slot < 0)
@@ -641,7 +640,7 @@ std::array<int, 10> ScoreGrid::countRunsByInning() const
 
 std::array<int, 21> ScoreGrid::getHittingStats(int row) const
 {
-    std::array<int, 21> stats {};
+    std::array<int, 21> stats{};
     if (!inRows(row))
         return stats;
     for (const QString &text : m_texts.at(row)) {
@@ -674,7 +673,7 @@ void ScoreGrid::setMyData(const QString &data)
     const QStringList lines = data.isEmpty() ? QStringList() : data.split(kCR);
     if (lines.size() > rowCount()) {
         gShowMsgDlog(QStringLiteral("There is an error in the saved data."),
-            QStringLiteral("Please re-create the game data."), QStringLiteral("OK"));
+                     QStringLiteral("Please re-create the game data."), QStringLiteral("OK"));
         return;
     }
     for (QStringList &texts : m_texts)
@@ -768,7 +767,7 @@ void ScoreGrid::af_calcPitchingData()
     autoFillData.fill(0);
     auto fail = [this] {
         gShowMsgDlog(QStringLiteral("An error occurred while retrieving the pitcher's data"),
-            QStringLiteral("Please fill in the data manually."), QStringLiteral("OK"));
+                     QStringLiteral("Please fill in the data manually."), QStringLiteral("OK"));
         Q_EMIT autoFillFailed();
     };
     if (!inRows(autoRowStart) || !inRows(autoRowEnd) || !inColumns(autoColStart) || !inColumns(autoColEnd)) {

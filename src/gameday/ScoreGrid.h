@@ -83,7 +83,7 @@ public:
     int autoColStart = 0;
     int autoRowEnd = 0;
     int autoColEnd = 0;
-    AutoFillData autoFillData {};
+    AutoFillData autoFillData{};
     // When true every click is ignored (a statistics panel covers the grid).
     bool disableCellClick = false;
 

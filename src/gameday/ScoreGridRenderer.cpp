@@ -24,14 +24,14 @@ int ScoreGridRenderer::columnLeft(int col) const
 
 QSize ScoreGridRenderer::size() const
 {
-    return { columnLeft(m_grid.columnCount()) + 1, kHeaderHeight + m_grid.rowCount() * kRowHeight + 1 };
+    return {columnLeft(m_grid.columnCount()) + 1, kHeaderHeight + m_grid.rowCount() * kRowHeight + 1};
 }
 
 QRect ScoreGridRenderer::cellRect(int row, int col) const
 {
     if (row < 0 || row >= m_grid.rowCount() || col < 0 || col >= m_grid.columnCount())
         return {};
-    return { columnLeft(col), kHeaderHeight + row * kRowHeight, m_grid.columnWidth(col), kRowHeight };
+    return {columnLeft(col), kHeaderHeight + row * kRowHeight, m_grid.columnWidth(col), kRowHeight};
 }
 
 std::optional<GridCell> ScoreGridRenderer::cellAt(QPoint point) const
@@ -45,7 +45,7 @@ std::optional<GridCell> ScoreGridRenderer::cellAt(QPoint point) const
     for (int c = 0; c < m_grid.columnCount(); ++c) {
         x += m_grid.columnWidth(c);
         if (point.x() < x)
-            return GridCell { row, c };
+            return GridCell{row, c};
     }
     return std::nullopt;
 }
@@ -98,7 +98,7 @@ void ScoreGridRenderer::paint(QPainter &painter, const QFont &font, const Decora
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(r.adjusted(1, 1, -2, -2));
     }
-    for (const auto &mark : { decorations.markStart, decorations.markEnd }) {
+    for (const auto &mark : {decorations.markStart, decorations.markEnd}) {
         const QRect r = cellOf(mark).adjusted(1, 1, 0, 0);
         if (r.isEmpty())
             continue;

@@ -31,10 +31,7 @@ public:
     static constexpr int kRowHeight = 16;
     static constexpr int kHeaderHeight = 18;
 
-    explicit ScoreGridRenderer(const ScoreGrid &grid)
-        : m_grid(grid)
-    {
-    }
+    explicit ScoreGridRenderer(const ScoreGrid &grid) : m_grid(grid) {}
 
     QSize size() const;
     // The cell's rectangle; empty for a cell outside the rows and columns.
@@ -44,11 +41,11 @@ public:
 
     // Where the popover for a cell opens, relative to the grid's top left:
     // beside the cell, 160 across plus 43 a column, 48 down plus 16 a row.
-    static QPoint popoverOffset(int row, int col) { return { 160 + col * 43, row * kRowHeight + 48 }; }
+    static QPoint popoverOffset(int row, int col) { return {160 + col * 43, row * kRowHeight + 48}; }
 
     struct Decorations
     {
-        std::optional<GridCell> current; // the keyboard's cell, outlined
+        std::optional<GridCell> current;   // the keyboard's cell, outlined
         std::optional<GridCell> markStart; // auto-fill marks
         std::optional<GridCell> markEnd;
     };

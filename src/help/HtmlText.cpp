@@ -49,7 +49,7 @@ QString HtmlText::ReplaceEntities(QString text)
     // Case matters here: &Agrave; and &agrave; are two letters.
     static const QList<std::pair<QString, QString>> table = [] {
         QList<std::pair<QString, QString>> t = {
-            {u"&copy;"_qs, u"\u00A9"_qs},  {u"&reg;"_qs, u"\u00AE"_qs},  {u"&cent;"_qs, u"\u00A2"_qs},
+            {u"&copy;"_qs, u"\u00A9"_qs},  {u"&reg;"_qs, u"\u00AE"_qs},   {u"&cent;"_qs, u"\u00A2"_qs},
             {u"&yen;"_qs, u"\u00A5"_qs},   {u"&pound;"_qs, u"\u00A3"_qs}, {u"&euro;"_qs, u"\u20AC"_qs},
             {u"&trade;"_qs, u"\u2122"_qs}, {u"&quot;"_qs, u"\""_qs},      {u"&amp;"_qs, u"&"_qs},
             {u"&deg;"_qs, u"\u00B0"_qs},   {u"&nbsp;"_qs, u"\u00A0"_qs},
@@ -228,10 +228,12 @@ void HtmlText::tagLoop(QString &s)
 
         if (name == u"body") {
             bodyMet = true;
-            linkColor = attributes.contains(u"link"_qs) ? ColorFromHex(attributes.value(u"link"_qs)) : QColor(0, 0, 255);
+            linkColor = attributes.contains(u"link"_qs) ? ColorFromHex(attributes.value(u"link"_qs))
+                                                        : QColor(0, 0, 255);
             background = attributes.contains(u"bgcolor"_qs) ? ColorFromHex(attributes.value(u"bgcolor"_qs))
-                                                              : QColor(Qt::white);
-            textColor = attributes.contains(u"text"_qs) ? ColorFromHex(attributes.value(u"text"_qs)) : QColor(Qt::black);
+                                                            : QColor(Qt::white);
+            textColor = attributes.contains(u"text"_qs) ? ColorFromHex(attributes.value(u"text"_qs))
+                                                        : QColor(Qt::black);
         } else if (name == u"b") {
             bolds.append(range(p, c2));
         } else if (name == u"i") {

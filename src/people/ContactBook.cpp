@@ -11,7 +11,7 @@ namespace {
 QList<QStringList> rowsOf(myDB &db, const QString &sql, const QString &teamID, const QStringList &columns)
 {
     QList<QStringList> out;
-    for (const Record &r : db.select(sql, { teamID })) {
+    for (const Record &r : db.select(sql, {teamID})) {
         QStringList cells;
         for (const QString &c : columns)
             cells.append(r.text(c));
@@ -22,9 +22,9 @@ QList<QStringList> rowsOf(myDB &db, const QString &sql, const QString &teamID, c
 
 QStringList playerColumns()
 {
-    return { QStringLiteral("First"), QStringLiteral("Last"), QStringLiteral("PhoneNumber"),
-        QStringLiteral("CellPhone"), QStringLiteral("Email"), QStringLiteral("Guardian"),
-        QStringLiteral("GuardianPhone"), QStringLiteral("EmergContact"), QStringLiteral("EmergPhone") };
+    return {QStringLiteral("First"),         QStringLiteral("Last"),         QStringLiteral("PhoneNumber"),
+            QStringLiteral("CellPhone"),     QStringLiteral("Email"),        QStringLiteral("Guardian"),
+            QStringLiteral("GuardianPhone"), QStringLiteral("EmergContact"), QStringLiteral("EmergPhone")};
 }
 
 } // namespace
@@ -36,9 +36,11 @@ QList<TeamChoice> ContactBook::teams() const
 
 QStringList ContactBook::playerHeadings()
 {
-    return { QStringLiteral("First"), QStringLiteral("Last"), QStringLiteral("Phone"), QStringLiteral("Cell"),
-        QStringLiteral("Email"), QStringLiteral("Guardian"), QStringLiteral("Guardian Phone"),
-        QStringLiteral("Emergency Contact"), QStringLiteral("Emergency Phone") };
+    return {QStringLiteral("First"),          QStringLiteral("Last"),
+            QStringLiteral("Phone"),          QStringLiteral("Cell"),
+            QStringLiteral("Email"),          QStringLiteral("Guardian"),
+            QStringLiteral("Guardian Phone"), QStringLiteral("Emergency Contact"),
+            QStringLiteral("Emergency Phone")};
 }
 
 QStringList ContactBook::coachHeadings()
@@ -49,16 +51,16 @@ QStringList ContactBook::coachHeadings()
 QList<QStringList> ContactBook::playerRows(const QString &teamID) const
 {
     return rowsOf(m_db,
-        QStringLiteral("SELECT First, Last, PhoneNumber, CellPhone, Email, Guardian, GuardianPhone, "
-                       "EmergContact, EmergPhone FROM Players WHERE TeamNum = ?"),
-        teamID, playerColumns());
+                  QStringLiteral("SELECT First, Last, PhoneNumber, CellPhone, Email, Guardian, GuardianPhone, "
+                                 "EmergContact, EmergPhone FROM Players WHERE TeamNum = ?"),
+                  teamID, playerColumns());
 }
 
 QList<QStringList> ContactBook::coachRows(const QString &teamID) const
 {
     return rowsOf(m_db,
-        QStringLiteral("SELECT First, Last, PhoneNumber, CellPhone, Email FROM Coaches WHERE TeamNum = ?"), teamID,
-        playerColumns().mid(0, 5));
+                  QStringLiteral("SELECT First, Last, PhoneNumber, CellPhone, Email FROM Coaches WHERE TeamNum = ?"),
+                  teamID, playerColumns().mid(0, 5));
 }
 
 QUrl ContactBook::messageTo(const QStringList &addresses, const QString &teamName)
@@ -70,10 +72,10 @@ QList<ContactBook::Recipient> ContactBook::coachRecipients(const QString &teamID
 {
     QList<Recipient> out;
     for (const Record &r :
-        m_db.select(QStringLiteral("SELECT First, Last, coachID, Email FROM Coaches WHERE TeamNum = ?"), { teamID }))
-        out.append({ r.text(QStringLiteral("coachID")),
-            r.text(QStringLiteral("First")) + u' ' + r.text(QStringLiteral("Last")), r.text(QStringLiteral("Email")),
-            false });
+         m_db.select(QStringLiteral("SELECT First, Last, coachID, Email FROM Coaches WHERE TeamNum = ?"), {teamID}))
+        out.append({r.text(QStringLiteral("coachID")),
+                    r.text(QStringLiteral("First")) + u' ' + r.text(QStringLiteral("Last")),
+                    r.text(QStringLiteral("Email")), false});
     return out;
 }
 
@@ -81,17 +83,17 @@ QList<ContactBook::Recipient> ContactBook::playerRecipients(const QString &teamI
 {
     QList<Recipient> out;
     for (const Record &r :
-        m_db.select(QStringLiteral("SELECT First, Last, Email, playerID FROM Players WHERE TeamNum = ?"), { teamID }))
-        out.append({ r.text(QStringLiteral("playerID")),
-            r.text(QStringLiteral("First")) + u' ' + r.text(QStringLiteral("Last")), r.text(QStringLiteral("Email")),
-            false });
+         m_db.select(QStringLiteral("SELECT First, Last, Email, playerID FROM Players WHERE TeamNum = ?"), {teamID}))
+        out.append({r.text(QStringLiteral("playerID")),
+                    r.text(QStringLiteral("First")) + u' ' + r.text(QStringLiteral("Last")),
+                    r.text(QStringLiteral("Email")), false});
     return out;
 }
 
 QString ContactBook::recipientStr(const QList<Recipient> &coaches, const QList<Recipient> &players)
 {
     QStringList addresses;
-    for (const QList<Recipient> *list : { &coaches, &players }) {
+    for (const QList<Recipient> *list : {&coaches, &players}) {
         for (const Recipient &r : *list) {
             if (r.checked && !r.Email.isEmpty() && r.Email.contains(u'@'))
                 addresses.append(r.Email);

@@ -15,10 +15,7 @@ namespace people {
 class ContactBook
 {
 public:
-    explicit ContactBook(myDB &db)
-        : m_db(db)
-    {
-    }
+    explicit ContactBook(myDB &db) : m_db(db) {}
 
     // The team popups: by name, with their ids.
     QList<TeamChoice> teams() const;

@@ -25,7 +25,7 @@ bool inTransaction(myDB &db, const std::function<bool()> &body)
     try {
         return db.runInTransaction([&] {
             if (!body())
-                throw Abandoned {};
+                throw Abandoned{};
         });
     } catch (const Abandoned &) {
         return false;
@@ -37,27 +37,24 @@ constexpr qint64 kMaxImportBytes = 4 * 1024 * 1024;
 
 } // namespace
 
-InventoryBook::InventoryBook(myDB &db)
-    : m_db(db)
-{
-}
+InventoryBook::InventoryBook(myDB &db) : m_db(db) {}
 
 QStringList InventoryBook::poolHeadings()
 {
-    return { QStringLiteral("Quantity"), QStringLiteral("Item"), QStringLiteral("ID") };
+    return {QStringLiteral("Quantity"), QStringLiteral("Item"), QStringLiteral("ID")};
 }
 
 QStringList InventoryBook::heldHeadings()
 {
-    return { QStringLiteral("Item"), QStringLiteral("ID") };
+    return {QStringLiteral("Item"), QStringLiteral("ID")};
 }
 
 QList<InventoryChoice> InventoryBook::teams() const
 {
     QList<InventoryChoice> out;
     for (const Record &r : m_db.select(QStringLiteral("SELECT teamID, TeamName, SchoolName FROM Teams")))
-        out.append({ r.text(QStringLiteral("teamID")),
-            r.text(QStringLiteral("SchoolName")) + u' ' + r.text(QStringLiteral("TeamName")) });
+        out.append({r.text(QStringLiteral("teamID")),
+                    r.text(QStringLiteral("SchoolName")) + u' ' + r.text(QStringLiteral("TeamName"))});
     return out;
 }
 
@@ -65,9 +62,9 @@ QList<InventoryChoice> InventoryBook::players(const QString &teamID) const
 {
     QList<InventoryChoice> out;
     for (const Record &r :
-        m_db.select(QStringLiteral("SELECT playerID, First, Last FROM Players WHERE TeamNum = ?"), { teamID }))
-        out.append({ r.text(QStringLiteral("playerID")),
-            r.text(QStringLiteral("First")) + u' ' + r.text(QStringLiteral("Last")) });
+         m_db.select(QStringLiteral("SELECT playerID, First, Last FROM Players WHERE TeamNum = ?"), {teamID}))
+        out.append({r.text(QStringLiteral("playerID")),
+                    r.text(QStringLiteral("First")) + u' ' + r.text(QStringLiteral("Last"))});
     return out;
 }
 
@@ -91,9 +88,9 @@ void InventoryBook::loadTeamList()
         return;
     for (const Record &r : m_db.select(QStringLiteral("SELECT serial, quantity, item, ItemID FROM TeamInventory "
                                                       "WHERE teamID = ? ORDER BY serial"),
-             { m_teamID }))
-        m_pool.append({ r.integer(QStringLiteral("serial")), int(r.integer(QStringLiteral("quantity"))),
-            r.text(QStringLiteral("item")), r.text(QStringLiteral("ItemID")) });
+                                       {m_teamID}))
+        m_pool.append({r.integer(QStringLiteral("serial")), int(r.integer(QStringLiteral("quantity"))),
+                       r.text(QStringLiteral("item")), r.text(QStringLiteral("ItemID"))});
 }
 
 void InventoryBook::fillPlayerList()
@@ -103,9 +100,10 @@ void InventoryBook::fillPlayerList()
         return;
     for (const Record &r : m_db.select(QStringLiteral("SELECT serial, ctrlNum, PlayerID, Item, ItemID FROM "
                                                       "PlayerInventory WHERE PlayerID = ? ORDER BY serial"),
-             { m_playerID }))
-        m_held.append({ r.integer(QStringLiteral("serial")), r.integer(QStringLiteral("ctrlNum")),
-            r.text(QStringLiteral("PlayerID")), r.text(QStringLiteral("Item")), r.text(QStringLiteral("ItemID")) });
+                                       {m_playerID}))
+        m_held.append({r.integer(QStringLiteral("serial")), r.integer(QStringLiteral("ctrlNum")),
+                       r.text(QStringLiteral("PlayerID")), r.text(QStringLiteral("Item")),
+                       r.text(QStringLiteral("ItemID"))});
 }
 
 int InventoryBook::poolRowOf(qint64 serial) const
@@ -119,9 +117,10 @@ int InventoryBook::poolRowOf(qint64 serial) const
 
 qint64 InventoryBook::insertPoolItem(int quantity, const QString &item, const QString &itemID)
 {
-    return m_db.insert(QStringLiteral("TeamInventory"),
-        { { QStringLiteral("teamID"), m_teamID }, { QStringLiteral("quantity"), quantity == 0 ? 1 : quantity },
-            { QStringLiteral("item"), item }, { QStringLiteral("ItemID"), itemID } });
+    return m_db.insert(QStringLiteral("TeamInventory"), {{QStringLiteral("teamID"), m_teamID},
+                                                         {QStringLiteral("quantity"), quantity == 0 ? 1 : quantity},
+                                                         {QStringLiteral("item"), item},
+                                                         {QStringLiteral("ItemID"), itemID}});
 }
 
 bool InventoryBook::enterItem(int poolRow, const QString &quantityText, const QString &item, const QString &itemID)
@@ -134,9 +133,10 @@ bool InventoryBook::enterItem(int poolRow, const QString &quantityText, const QS
         ok = insertPoolItem(quantity, item, itemID) >= 0;
     } else {
         ok = m_db.update(QStringLiteral("TeamInventory"),
-            { { QStringLiteral("quantity"), quantity }, { QStringLiteral("item"), item },
-                { QStringLiteral("ItemID"), itemID } },
-            QStringLiteral("serial"), m_pool.at(poolRow).serial);
+                         {{QStringLiteral("quantity"), quantity},
+                          {QStringLiteral("item"), item},
+                          {QStringLiteral("ItemID"), itemID}},
+                         QStringLiteral("serial"), m_pool.at(poolRow).serial);
     }
     loadTeamList();
     return ok;
@@ -146,8 +146,8 @@ bool InventoryBook::deleteTeamItem(int poolRow)
 {
     if (poolRow < 0 || poolRow >= m_pool.size())
         return false;
-    const bool ok
-        = m_db.exec(QStringLiteral("DELETE FROM TeamInventory WHERE serial = ?"), { m_pool.at(poolRow).serial });
+    const bool ok = m_db.exec(QStringLiteral("DELETE FROM TeamInventory WHERE serial = ?"),
+                              {m_pool.at(poolRow).serial});
     loadTeamList();
     return ok;
 }
@@ -163,21 +163,21 @@ bool InventoryBook::assign(int poolRow)
     const PoolItem from = m_pool.at(poolRow);
     if (from.quantity < 1) {
         gShowMsgDlog(QStringLiteral("It appears there are no ") + from.item + QStringLiteral(" to assign."),
-            QStringLiteral("Increase the count of this item or delete it from your inventory."),
-            QStringLiteral("Continue"));
+                     QStringLiteral("Increase the count of this item or delete it from your inventory."),
+                     QStringLiteral("Continue"));
         return false;
     }
     // The unit moves whole: the held row and the smaller pool go together.
     const bool ok = inTransaction(m_db, [&] {
-        if (m_db.insert(QStringLiteral("PlayerInventory"),
-                { { QStringLiteral("ctrlNum"), from.serial }, { QStringLiteral("PlayerID"), m_playerID },
-                    { QStringLiteral("Item"), from.item }, { QStringLiteral("ItemID"), from.ItemID } })
-            < 0)
+        if (m_db.insert(QStringLiteral("PlayerInventory"), {{QStringLiteral("ctrlNum"), from.serial},
+                                                            {QStringLiteral("PlayerID"), m_playerID},
+                                                            {QStringLiteral("Item"), from.item},
+                                                            {QStringLiteral("ItemID"), from.ItemID}}) < 0)
             return false;
         if (from.quantity == 1)
-            return m_db.exec(QStringLiteral("DELETE FROM TeamInventory WHERE serial = ?"), { from.serial });
-        return m_db.exec(
-            QStringLiteral("UPDATE TeamInventory SET quantity = quantity - 1 WHERE serial = ?"), { from.serial });
+            return m_db.exec(QStringLiteral("DELETE FROM TeamInventory WHERE serial = ?"), {from.serial});
+        return m_db.exec(QStringLiteral("UPDATE TeamInventory SET quantity = quantity - 1 WHERE serial = ?"),
+                         {from.serial});
     });
     loadTeamList();
     fillPlayerList();
@@ -191,19 +191,18 @@ bool InventoryBook::giveBack(int heldRow)
     const HeldItem unit = m_held.at(heldRow);
     const bool ok = inTransaction(m_db, [&] {
         // The pool row it came from, when this team still has it.
-        const bool poolRowThere
-            = m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM TeamInventory WHERE serial = ? AND teamID = ?"),
-                      { unit.ctrlNum, m_teamID })
-                  .toInt()
-            > 0;
+        const bool poolRowThere = m_db.scalar(QStringLiteral(
+                                                  "SELECT COUNT(*) FROM TeamInventory WHERE serial = ? AND teamID = ?"),
+                                              {unit.ctrlNum, m_teamID})
+                                      .toInt() > 0;
         if (poolRowThere) {
             if (!m_db.exec(QStringLiteral("UPDATE TeamInventory SET quantity = quantity + 1 WHERE serial = ?"),
-                    { unit.ctrlNum }))
+                           {unit.ctrlNum}))
                 return false;
         } else if (insertPoolItem(1, unit.Item, unit.ItemID) < 0) {
             return false;
         }
-        return m_db.exec(QStringLiteral("DELETE FROM PlayerInventory WHERE serial = ?"), { unit.serial });
+        return m_db.exec(QStringLiteral("DELETE FROM PlayerInventory WHERE serial = ?"), {unit.serial});
     });
     loadTeamList();
     fillPlayerList();
@@ -215,11 +214,10 @@ bool InventoryBook::drop(int heldRow)
     if (heldRow < 0 || heldRow >= m_held.size())
         return false;
     if (gShowMsgDlog(QStringLiteral("Delete this item without adding it back to the team inventory?"),
-            QStringLiteral("This action cannot be undone."), QStringLiteral("Delete"))
-        != 0)
+                     QStringLiteral("This action cannot be undone."), QStringLiteral("Delete")) != 0)
         return false;
-    const bool ok
-        = m_db.exec(QStringLiteral("DELETE FROM PlayerInventory WHERE serial = ?"), { m_held.at(heldRow).serial });
+    const bool ok = m_db.exec(QStringLiteral("DELETE FROM PlayerInventory WHERE serial = ?"),
+                              {m_held.at(heldRow).serial});
     fillPlayerList();
     return ok;
 }
@@ -239,21 +237,21 @@ InventoryBook::ImportResult InventoryBook::importInvItems(const QByteArray &byte
     result.skipped = file.skipped;
     for (const support::TabbedLines::Line &line : file.lines) {
         // This screen's own export begins with its title and the headings.
-        const bool exportTitle = line.number == 1 && line.fields.size() == 1
-            && line.fields.first().endsWith(QStringLiteral("'s Inventory"));
+        const bool exportTitle = line.number == 1 && line.fields.size() == 1 &&
+                                 line.fields.first().endsWith(QStringLiteral("'s Inventory"));
         if (exportTitle || line.fields == poolHeadings())
             continue;
         if (!wholeNumber.match(line.fields.first()).hasMatch()) {
             result.skipped.append(line.number);
             continue;
         }
-        items.append({ line.fields.first().trimmed().toInt(), line.fields.value(1), line.fields.value(2) });
+        items.append({line.fields.first().trimmed().toInt(), line.fields.value(1), line.fields.value(2)});
     }
     std::sort(result.skipped.begin(), result.skipped.end());
 
     if (items.isEmpty() && result.skipped.isEmpty()) {
         gShowMsgDlog(QStringLiteral("Either there was an error or the list is empty."),
-            QStringLiteral("Please check the list and try again."), QStringLiteral("Continue"));
+                     QStringLiteral("Please check the list and try again."), QStringLiteral("Continue"));
         return result;
     }
     result.read = inTransaction(m_db, [&] {
@@ -268,11 +266,11 @@ InventoryBook::ImportResult InventoryBook::importInvItems(const QByteArray &byte
     loadTeamList();
     if (result.read && !result.skipped.isEmpty()) {
         gShowMsgDlog(QStringLiteral("Some lines were not imported."),
-            (result.skipped.size() == 1 ? QStringLiteral("Line ") : QStringLiteral("Lines "))
-                + support::lineNumberList(result.skipped)
-                + QStringLiteral(" did not hold a whole-number quantity, a tab and the item, with the "
-                                 "ID after another tab."),
-            QStringLiteral("Continue"));
+                     (result.skipped.size() == 1 ? QStringLiteral("Line ") : QStringLiteral("Lines ")) +
+                         support::lineNumberList(result.skipped) +
+                         QStringLiteral(" did not hold a whole-number quantity, a tab and the item, with the "
+                                        "ID after another tab."),
+                     QStringLiteral("Continue"));
     }
     return result;
 }
@@ -280,8 +278,8 @@ InventoryBook::ImportResult InventoryBook::importInvItems(const QByteArray &byte
 InventoryBook::ImportResult InventoryBook::importInvFile(const QString &path)
 {
     // A file of another type is ignored, as the file dialog offers text only.
-    if (!FileTypes::pText.matches(path)
-        && !QMimeDatabase().mimeTypeForFile(path).inherits(QStringLiteral("text/plain")))
+    if (!FileTypes::pText.matches(path) &&
+        !QMimeDatabase().mimeTypeForFile(path).inherits(QStringLiteral("text/plain")))
         return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxImportBytes)

@@ -87,7 +87,7 @@ public:
     {
         int added = 0;
         QList<int> skipped; // line numbers
-        bool read = false; // false: the file couldn't be read or held no line
+        bool read = false;  // false: the file couldn't be read or held no line
     };
     // Adds a pool row for each line of quantity, item and ID (tab-separated)
     // of `bytes`, all in one transaction. The title and heading lines of

@@ -14,8 +14,8 @@ enum class MemberKind { Player, Coach };
 struct MemberRecord
 {
     MemberKind kind = MemberKind::Player;
-    QString id;       // playerID or coachID as decimal text; empty when new
-    QString TeamNum;  // the team's teamID as decimal text
+    QString id;      // playerID or coachID as decimal text; empty when new
+    QString TeamNum; // the team's teamID as decimal text
     QString First;
     QString Last;
     QString Address;

@@ -8,25 +8,27 @@ QList<MemberListRow> MemberStore::list(MemberKind kind, const QString &teamID) c
 {
     QList<MemberListRow> rows;
     if (kind == MemberKind::Player) {
-        for (const Record &r : m_db.select(
-                 QStringLiteral("SELECT First, Last, Pos1, playerID FROM Players WHERE TeamNum = ?"), {teamID}))
+        for (const Record &r :
+             m_db.select(QStringLiteral("SELECT First, Last, Pos1, playerID FROM Players WHERE TeamNum = ?"), {teamID}))
             rows.append({r.text(QStringLiteral("playerID")), r.text(QStringLiteral("First")),
                          r.text(QStringLiteral("Last")), r.text(QStringLiteral("Pos1"))});
     } else {
         for (const Record &r :
              m_db.select(QStringLiteral("SELECT First, Last, coachID FROM Coaches WHERE TeamNum = ?"), {teamID}))
-            rows.append({r.text(QStringLiteral("coachID")), r.text(QStringLiteral("First")),
-                         r.text(QStringLiteral("Last")), {}});
+            rows.append({r.text(QStringLiteral("coachID")),
+                         r.text(QStringLiteral("First")),
+                         r.text(QStringLiteral("Last")),
+                         {}});
     }
     return rows;
 }
 
 std::optional<MemberRecord> MemberStore::member(MemberKind kind, const QString &id) const
 {
-    const QList<Record> rows =
-        m_db.select(QStringLiteral("SELECT * FROM ") + MemberRecord::table(kind) + QStringLiteral(" WHERE ") +
-                        MemberRecord::keyColumn(kind) + QStringLiteral(" = ?"),
-                    {id});
+    const QList<Record> rows = m_db.select(QStringLiteral("SELECT * FROM ") + MemberRecord::table(kind) +
+                                               QStringLiteral(" WHERE ") + MemberRecord::keyColumn(kind) +
+                                               QStringLiteral(" = ?"),
+                                           {id});
     if (rows.isEmpty())
         return std::nullopt;
     return MemberRecord::fromRecord(kind, rows.first());

@@ -1,10 +1,10 @@
 #include "people/RosterBook.h"
 
 #include "app/globals.h"
-#include "platform/Messages.h"
 #include "people/Pictures.h"
 #include "people/PrintLayout.h"
 #include "people/TeamStore.h"
+#include "platform/Messages.h"
 
 namespace people {
 
@@ -89,8 +89,7 @@ bool RosterBook::hndlPrint(int kind, const QString &teamID, const QString &selec
     // Asked once for the whole printout, before the print dialog.
     const bool withPhoto = askInclPhoto();
     return runPrint(QStringLiteral("Player Data"), [&](platform::PrintJob &job) {
-        paintBlocks(job, playerDataBlocks(players, withPhoto, genericPicture(), job.setup().width()),
-                    kPlayerBlockStep);
+        paintBlocks(job, playerDataBlocks(players, withPhoto, genericPicture(), job.setup().width()), kPlayerBlockStep);
     });
 }
 

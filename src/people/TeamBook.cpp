@@ -1,9 +1,9 @@
 #include "people/TeamBook.h"
 
 #include "app/globals.h"
-#include "platform/Messages.h"
 #include "app/myPrefs.h"
 #include "people/PrintLayout.h"
+#include "platform/Messages.h"
 
 namespace people {
 
@@ -54,10 +54,10 @@ void TeamBook::becomeHome(const QString &teamID, bool askFirst)
 
 bool TeamBook::askChgHomeTeam(const QString &teamID)
 {
-    const auto answer =
-        gShowMsgDlog(QStringLiteral("Make this team the default 'Home Team'?"),
-                     QStringLiteral("Caution: Changing home teams mid-season can render much of the data invalid."),
-                     QStringLiteral("Change"));
+    const auto answer = gShowMsgDlog(
+        QStringLiteral("Make this team the default 'Home Team'?"),
+        QStringLiteral("Caution: Changing home teams mid-season can render much of the data invalid."),
+        QStringLiteral("Change"));
     if (answer != platform::MsgAction)
         return false;
     // The preference file takes it up at quit.

@@ -7,11 +7,11 @@ namespace platform {
 
 struct FileRequest
 {
-    QString title;          // the dialog's title
-    QString prompt;         // a line of explanation, where the platform shows one
-    QString actionCaption;  // the accept button's caption; empty for the platform's own
-    QString initialDir;     // where the dialog starts; empty for the user's documents
-    QString suggestedName;  // for save dialogs
+    QString title;           // the dialog's title
+    QString prompt;          // a line of explanation, where the platform shows one
+    QString actionCaption;   // the accept button's caption; empty for the platform's own
+    QString initialDir;      // where the dialog starts; empty for the user's documents
+    QString suggestedName;   // for save dialogs
     QStringList nameFilters; // "Pictures (*.png *.jpg)" style filters; empty for all files
 };
 

@@ -18,8 +18,8 @@ public:
 
     // The two-line message dialog with the caution icon. The cancel button
     // is always there; the alternate button only when altCaption isn't empty.
-    virtual std::uint8_t showMsgDlog(const QString &message, const QString &explanation,
-                                     const QString &actionCaption, const QString &altCaption) = 0;
+    virtual std::uint8_t showMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
+                                     const QString &altCaption) = 0;
 
     // A plain one-line message box with an OK button.
     virtual void msgBox(const QString &text) = 0;

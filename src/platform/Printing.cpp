@@ -10,8 +10,8 @@ namespace {
 // Letter paper with half-inch margins until the user chooses otherwise.
 QPageLayout defaultLayout()
 {
-    return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
-                       QMarginsF(36, 36, 36, 36), QPageLayout::Point);
+    return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(36, 36, 36, 36),
+                       QPageLayout::Point);
 }
 } // namespace
 

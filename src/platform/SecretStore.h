@@ -12,8 +12,8 @@ class SecretStore
 {
 public:
     enum class Status {
-        Found, // the secret was read
-        Missing, // the store answered: no secret under that key
+        Found,    // the secret was read
+        Missing,  // the store answered: no secret under that key
         NoAnswer, // no store, a locked one, or it refused
     };
     struct ReadResult

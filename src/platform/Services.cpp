@@ -29,13 +29,37 @@ const Services &installed()
     return g_services;
 }
 
-MessageService &messages() { return need(g_services.messages, "messages"); }
-FileDialogService &files() { return need(g_services.files, "files"); }
-PrintService &printing() { return need(g_services.printing, "printing"); }
-UrlOpener &urls() { return need(g_services.urls, "urls"); }
-Beeper &beeper() { return need(g_services.beeper, "beeper"); }
-Clock &clock() { return need(g_services.clock, "clock"); }
-HttpService &http() { return need(g_services.http, "http"); }
-SecretStore &secrets() { return need(g_services.secrets, "secrets"); }
+MessageService &messages()
+{
+    return need(g_services.messages, "messages");
+}
+FileDialogService &files()
+{
+    return need(g_services.files, "files");
+}
+PrintService &printing()
+{
+    return need(g_services.printing, "printing");
+}
+UrlOpener &urls()
+{
+    return need(g_services.urls, "urls");
+}
+Beeper &beeper()
+{
+    return need(g_services.beeper, "beeper");
+}
+Clock &clock()
+{
+    return need(g_services.clock, "clock");
+}
+HttpService &http()
+{
+    return need(g_services.http, "http");
+}
+SecretStore &secrets()
+{
+    return need(g_services.secrets, "secrets");
+}
 
 } // namespace platform

@@ -20,8 +20,8 @@ const QString rowsMimeType = QStringLiteral("application/x-tallyline-list-row");
 // Names this list in this process, so a drop can tell its own rows.
 QByteArray ownerId(const ListBoxModel *model)
 {
-    return QByteArray::number(QCoreApplication::applicationPid()) + ':'
-           + QByteArray::number(reinterpret_cast<quintptr>(model), 16);
+    return QByteArray::number(QCoreApplication::applicationPid()) + ':' +
+           QByteArray::number(reinterpret_cast<quintptr>(model), 16);
 }
 
 // Numbers before texts; numbers by value; texts without regard to case.
@@ -415,8 +415,8 @@ bool ListBoxModel::moveRows(const QModelIndex &sourceParent, int sourceRow, int 
                             const QModelIndex &destinationParent, int destinationChild)
 {
     const int n = int(m_rows.size());
-    if (sourceParent.isValid() || destinationParent.isValid() || count <= 0 || sourceRow < 0
-        || sourceRow + count > n || destinationChild < 0 || destinationChild > n)
+    if (sourceParent.isValid() || destinationParent.isValid() || count <= 0 || sourceRow < 0 || sourceRow + count > n ||
+        destinationChild < 0 || destinationChild > n)
         return false;
     // Moving a block inside itself or to where it already is changes nothing.
     if (destinationChild >= sourceRow && destinationChild <= sourceRow + count)
@@ -502,8 +502,7 @@ int ListBoxModel::draggedRow(const QMimeData *mime) const
     return ok && row >= 0 && row < m_rows.size() ? row : -1;
 }
 
-bool ListBoxModel::canDropMimeData(const QMimeData *data, Qt::DropAction action, int, int,
-                                   const QModelIndex &) const
+bool ListBoxModel::canDropMimeData(const QMimeData *data, Qt::DropAction action, int, int, const QModelIndex &) const
 {
     return m_rowsMovable && action == Qt::MoveAction && draggedRow(data) >= 0;
 }

@@ -24,7 +24,7 @@ constexpr int normalPoints = 12;
 // row the next row's y is checked against the printable height, and past it
 // the list goes on at the top of a new page. A list that fills its last page
 // exactly thus ends on a fresh, empty page, as the printout always has.
-template <typename CellX>
+template<typename CellX>
 Layout layoutRows(const platform::PrinterSetup &setup, const ListBoxModel &list, const QString &title,
                   const QString &date, const QStringList &headers, const QString &emptyText, CellX cellX)
 {

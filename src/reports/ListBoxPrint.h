@@ -17,7 +17,10 @@ class ListBoxModel;
 namespace ListBoxPrint {
 
 // The accent colour of title, date and headings.
-inline QColor accentColor() { return QColor(65, 117, 189); }
+inline QColor accentColor()
+{
+    return QColor(65, 117, 189);
+}
 constexpr int rowPitch = 16;
 
 // The printout's fonts. "System" is the desktop's general UI font and

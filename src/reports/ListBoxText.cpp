@@ -84,8 +84,8 @@ QString selectionsText(const ListBoxModel &list, QList<int> rows)
     for (int row : rows) {
         if (row < 0 || row >= list.rowCount())
             continue;
-        out += list.cell(row, 1) + u'\t' + list.cell(row, 2) + u'\t' + list.cell(row, 3) + u'\t'
-               + list.rowTag(row) + u'\r';
+        out += list.cell(row, 1) + u'\t' + list.cell(row, 2) + u'\t' + list.cell(row, 3) + u'\t' + list.rowTag(row) +
+               u'\r';
     }
     return out;
 }

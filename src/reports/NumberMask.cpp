@@ -16,9 +16,8 @@ QString formatMask(double value, const QString &mask)
         value = 0;
     QString text = QString::number(std::abs(value), 'f', decimals);
     // A value that rounds to zero has no sign.
-    const bool negative = value < 0 && std::any_of(text.cbegin(), text.cend(), [](QChar c) {
-        return c >= u'1' && c <= u'9';
-    });
+    const bool negative = value < 0 &&
+                          std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c >= u'1' && c <= u'9'; });
     qsizetype digits = decimals > 0 ? text.indexOf(u'.') : text.size();
     // The whole number's leading zero goes when the mask asks for no digit there.
     if (minimumDigits == 0 && digits == 1 && text.at(0) == u'0') {

@@ -80,11 +80,7 @@ QStringList headers(ReportKind kind, const QStringList &rows, const QList<bool> 
 
 } // namespace chooser
 
-SeasonReport::SeasonReport(ReportKind which, const QStringList &headers)
-    : m_kind(which),
-      m_headers(headers)
-{
-}
+SeasonReport::SeasonReport(ReportKind which, const QStringList &headers) : m_kind(which), m_headers(headers) {}
 
 QString SeasonReport::title() const
 {
@@ -197,9 +193,9 @@ QStringList SeasonReport::displayHitData(const hitReporter &r, const QList<int> 
 {
     QStringList cells;
     cells.reserve(6 + figures.size());
-    cells << r.FName
-          << r.LName << formatMask(r.mData[0], QStringLiteral("##0")) << formatMask(r.Avg, QStringLiteral(".000"))
-          << formatMask(r.OBP, QStringLiteral(".000")) << formatMask(r.SPct, QStringLiteral(".000"));
+    cells << r.FName << r.LName << formatMask(r.mData[0], QStringLiteral("##0"))
+          << formatMask(r.Avg, QStringLiteral(".000")) << formatMask(r.OBP, QStringLiteral(".000"))
+          << formatMask(r.SPct, QStringLiteral(".000"));
     appendFigures(cells, figures, r.mData);
     return cells;
 }

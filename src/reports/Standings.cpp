@@ -10,17 +10,13 @@
 
 namespace reports {
 
-Standings::Standings(myDB &db, const QString &homeTeam)
-    : m_db(db),
-      m_homeTeam(homeTeam)
-{
-}
+Standings::Standings(myDB &db, const QString &homeTeam) : m_db(db), m_homeTeam(homeTeam) {}
 
 QList<Standings::ViewEntry> Standings::viewEntries()
 {
     QList<ViewEntry> entries{{QStringLiteral("Overall"), Overall}};
-    const QList<Record> home =
-        m_db.select(QStringLiteral("SELECT League, Division FROM Teams WHERE teamID = ?"), {m_homeTeam});
+    const QList<Record> home = m_db.select(QStringLiteral("SELECT League, Division FROM Teams WHERE teamID = ?"),
+                                           {m_homeTeam});
     if (!home.isEmpty()) {
         const QString league = home.first().text(QStringLiteral("League"));
         const QString division = home.first().text(QStringLiteral("Division"));
@@ -42,8 +38,8 @@ void Standings::setUpTeamData()
     AllTeams.clear();
     LgTeams.clear();
     DivTeams.clear();
-    const QList<Record> teams =
-        m_db.select(QStringLiteral("SELECT teamID, TeamName, League, Division FROM Teams ORDER BY teamID"));
+    const QList<Record> teams = m_db.select(
+        QStringLiteral("SELECT teamID, TeamName, League, Division FROM Teams ORDER BY teamID"));
     if (teams.isEmpty() && m_db.lastErrorCode() != 0)
         m_readFailed = true;
     for (const Record &r : teams) {
@@ -63,8 +59,8 @@ void Standings::setUpTeamData()
 void Standings::acquireData()
 {
     tRecDict.clear();
-    const QList<Record> records =
-        m_db.select(QStringLiteral("SELECT teamID, W, L, Tie FROM GameResultsByTeam ORDER BY recID"));
+    const QList<Record> records = m_db.select(
+        QStringLiteral("SELECT teamID, W, L, Tie FROM GameResultsByTeam ORDER BY recID"));
     if (records.isEmpty() && m_db.lastErrorCode() != 0)
         m_readFailed = true;
     for (const Record &r : records) {
@@ -133,8 +129,7 @@ std::optional<QList<StandingsRow>> Standings::fillStandLB(View view) const
     for (qsizetype i = 1; i < rows.size(); ++i) {
         StandingsRow &row = rows[i];
         // A tie counts as half a win and no loss.
-        const double gb =
-            ((leadPts - leadL) - (cellValue(row.W) + 0.5 * cellValue(row.Tie) - cellValue(row.L))) / 2.0;
+        const double gb = ((leadPts - leadL) - (cellValue(row.W) + 0.5 * cellValue(row.Tie) - cellValue(row.L))) / 2.0;
         row.GB = formatMask(gb, QStringLiteral("#0.0"));
     }
     return rows;

@@ -24,27 +24,29 @@ QString seasonTable(ReportKind kind)
 
 const QStringList &seasonColumns(ReportKind kind)
 {
-    static const QStringList hitting{
-        QStringLiteral("AB"),  QStringLiteral("B1"),   QStringLiteral("B2"),   QStringLiteral("B3"),
-        QStringLiteral("HR"),  QStringLiteral("BB"),   QStringLiteral("IBB"),  QStringLiteral("HBP"),
-        QStringLiteral("SAC"), QStringLiteral("FO"),   QStringLiteral("GO"),   QStringLiteral("KS"),
-        QStringLiteral("KL"),  QStringLiteral("HDP"),  QStringLiteral("ROE"),  QStringLiteral("FC"),
-        QStringLiteral("CI"),  QStringLiteral("Runs"), QStringLiteral("RBI"),  QStringLiteral("SB"),
-        QStringLiteral("LOB"), QStringLiteral("UDB1"), QStringLiteral("UDB2"), QStringLiteral("UDB3"),
-        QStringLiteral("UDB4"), QStringLiteral("UDB5")};
-    static const QStringList fielding{
-        QStringLiteral("IP"),  QStringLiteral("CH"),  QStringLiteral("PO"),   QStringLiteral("Asst"),
-        QStringLiteral("FE"),  QStringLiteral("TE"),  QStringLiteral("DPL"),  QStringLiteral("PB"),
-        QStringLiteral("SBA"), QStringLiteral("CS"),  QStringLiteral("UDF1"), QStringLiteral("UDF2"),
-        QStringLiteral("UDF3")};
-    static const QStringList pitching{
-        QStringLiteral("Win"),   QStringLiteral("Loss"),  QStringLiteral("Save"), QStringLiteral("ND"),
-        QStringLiteral("Start"), QStringLiteral("ShO"),   QStringLiteral("CG"),   QStringLiteral("Balls"),
-        QStringLiteral("Ks"),    QStringLiteral("PitCt"), QStringLiteral("IP"),   QStringLiteral("BF"),
-        QStringLiteral("Hits"),  QStringLiteral("ErRuns"), QStringLiteral("HRA"), QStringLiteral("GrO"),
-        QStringLiteral("FlO"),   QStringLiteral("BB"),    QStringLiteral("IBB"),  QStringLiteral("PckO"),
-        QStringLiteral("Kouts"), QStringLiteral("Blk"),   QStringLiteral("WldP"), QStringLiteral("HitB"),
-        QStringLiteral("UDP1"),  QStringLiteral("UDP2"),  QStringLiteral("UDP3")};
+    static const QStringList hitting{QStringLiteral("AB"),   QStringLiteral("B1"),   QStringLiteral("B2"),
+                                     QStringLiteral("B3"),   QStringLiteral("HR"),   QStringLiteral("BB"),
+                                     QStringLiteral("IBB"),  QStringLiteral("HBP"),  QStringLiteral("SAC"),
+                                     QStringLiteral("FO"),   QStringLiteral("GO"),   QStringLiteral("KS"),
+                                     QStringLiteral("KL"),   QStringLiteral("HDP"),  QStringLiteral("ROE"),
+                                     QStringLiteral("FC"),   QStringLiteral("CI"),   QStringLiteral("Runs"),
+                                     QStringLiteral("RBI"),  QStringLiteral("SB"),   QStringLiteral("LOB"),
+                                     QStringLiteral("UDB1"), QStringLiteral("UDB2"), QStringLiteral("UDB3"),
+                                     QStringLiteral("UDB4"), QStringLiteral("UDB5")};
+    static const QStringList fielding{QStringLiteral("IP"),   QStringLiteral("CH"),   QStringLiteral("PO"),
+                                      QStringLiteral("Asst"), QStringLiteral("FE"),   QStringLiteral("TE"),
+                                      QStringLiteral("DPL"),  QStringLiteral("PB"),   QStringLiteral("SBA"),
+                                      QStringLiteral("CS"),   QStringLiteral("UDF1"), QStringLiteral("UDF2"),
+                                      QStringLiteral("UDF3")};
+    static const QStringList pitching{QStringLiteral("Win"),   QStringLiteral("Loss"),   QStringLiteral("Save"),
+                                      QStringLiteral("ND"),    QStringLiteral("Start"),  QStringLiteral("ShO"),
+                                      QStringLiteral("CG"),    QStringLiteral("Balls"),  QStringLiteral("Ks"),
+                                      QStringLiteral("PitCt"), QStringLiteral("IP"),     QStringLiteral("BF"),
+                                      QStringLiteral("Hits"),  QStringLiteral("ErRuns"), QStringLiteral("HRA"),
+                                      QStringLiteral("GrO"),   QStringLiteral("FlO"),    QStringLiteral("BB"),
+                                      QStringLiteral("IBB"),   QStringLiteral("PckO"),   QStringLiteral("Kouts"),
+                                      QStringLiteral("Blk"),   QStringLiteral("WldP"),   QStringLiteral("HitB"),
+                                      QStringLiteral("UDP1"),  QStringLiteral("UDP2"),   QStringLiteral("UDP3")};
     switch (kind) {
     case Batting:
         return hitting;

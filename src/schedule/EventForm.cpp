@@ -44,8 +44,8 @@ bool EventForm::setEventProperties(eventClass &result)
     gameAMPM = normalMeridiem(gameAMPM);
 
     if (dateText.trimmed().isEmpty()) {
-        gShowMsgDlog(QStringLiteral("Please set a date for this event"), QStringLiteral("Click the small calendar icon."),
-                     QStringLiteral("OK"));
+        gShowMsgDlog(QStringLiteral("Please set a date for this event"),
+                     QStringLiteral("Click the small calendar icon."), QStringLiteral("OK"));
         return false;
     }
     if (!mDate.isValid()) {
@@ -72,7 +72,7 @@ bool EventForm::setEventProperties(eventClass &result)
         }
     }
     event.oppID = opponentIndex >= 0 && opponentIndex < opponents.size() ? opponents.at(opponentIndex).tag
-                                                                          : QStringLiteral("-1");
+                                                                         : QStringLiteral("-1");
     event.location = location;
 
     if (event.eventType == u"Game" && event.opponent.isEmpty()) {
@@ -153,8 +153,8 @@ QString EventForm::opponentLabel(int index) const
     for (int i = 0; i < opponents.size(); ++i) {
         if (i != index && opponents.at(i).name == entry.name) {
             const QString school = entry.school.trimmed();
-            return entry.name + QStringLiteral(" (") + (school.isEmpty() ? QStringLiteral("team ") + entry.tag : school) +
-                   u')';
+            return entry.name + QStringLiteral(" (") +
+                   (school.isEmpty() ? QStringLiteral("team ") + entry.tag : school) + u')';
         }
     }
     return entry.name;

@@ -26,11 +26,11 @@ class EventForm
 {
 public:
     static const QStringList &eventTypes(); // "Practice", "Scrimmage", "Game", "Meeting", "Other"
-    static QStringList hours();              // "1" to "12"
-    static QStringList minutes();            // "00" to "55" in steps of 5
-    static QStringList meridiems();          // "AM", "PM"
-    static const QString kNoOpponent;        // "N/A"
-    static const QString kNoTime;            // "---"
+    static QStringList hours();             // "1" to "12"
+    static QStringList minutes();           // "00" to "55" in steps of 5
+    static QStringList meridiems();         // "AM", "PM"
+    static const QString kNoOpponent;       // "N/A"
+    static const QString kNoTime;           // "---"
 
     QString dateText; // eventDateFld: a long date, or whatever an old row held
     QDate mDate;      // the date picked with the calendar; invalid until then

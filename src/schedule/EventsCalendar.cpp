@@ -51,7 +51,7 @@ QString infoText(const mcEventDataClass &event)
 }
 
 void printOneCopy(QPainter &painter, const platform::PrinterSetup &setup, const MonthEventsCalendar &calendar,
-    const QString &teamName, const QDate &today, const QFont &font)
+                  const QString &teamName, const QDate &today, const QFont &font)
 {
     const double x = setup.left();
     double y = setup.top() + 36;
@@ -64,7 +64,7 @@ void printOneCopy(QPainter &painter, const platform::PrinterSetup &setup, const 
     y += 36;
 
     const QSizeF size = calendar.size();
-    const double scale = std::min({ 1.0, (setup.width() - x) / size.width(), (setup.height() - y) / size.height() });
+    const double scale = std::min({1.0, (setup.width() - x) / size.width(), (setup.height() - y) / size.height()});
     painter.translate(x, y);
     painter.scale(scale, scale);
     painter.setClipRect(QRectF(QPointF(0, 0), size));

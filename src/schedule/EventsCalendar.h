@@ -40,6 +40,6 @@ QString infoText(const mcEventDataClass &event);
 // On: " and today's date, then the calendar as it stands on the screen,
 // made smaller where the page is narrower than the screen.
 void printOneCopy(QPainter &painter, const platform::PrinterSetup &setup, const MonthEventsCalendar &calendar,
-    const QString &teamName, const QDate &today, const QFont &font);
+                  const QString &teamName, const QDate &today, const QFont &font);
 
 } // namespace EventsCalendar

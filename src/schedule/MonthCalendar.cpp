@@ -36,8 +36,7 @@ int qtDayOfColumn(int column)
 
 } // namespace
 
-MonthCalendar::MonthCalendar(QObject *parent)
-    : QObject(parent)
+MonthCalendar::MonthCalendar(QObject *parent) : QObject(parent)
 {
     const QDate now = today();
     m_dateSelected = now;
@@ -158,7 +157,7 @@ QRectF MonthCalendar::cellRect(int index) const
     if (index < 0 || index >= kCells)
         return {};
     const Cell &cell = m_cells[std::size_t(index)];
-    return { (cell.column - 1) * UnitH(), heightOfHeader + (cell.row - 1) * UnitV(), UnitH(), UnitV() };
+    return {(cell.column - 1) * UnitH(), heightOfHeader + (cell.row - 1) * UnitV(), UnitH(), UnitV()};
 }
 
 std::optional<int> MonthCalendar::cellAt(const QPointF &point) const
@@ -178,8 +177,8 @@ std::optional<int> MonthCalendar::cellAt(const QPointF &point) const
 QString MonthCalendar::title() const
 {
     const QLocale locale;
-    return locale.standaloneMonthName(m_dateSelected.month(), QLocale::LongFormat) + u' '
-        + QString::number(m_dateSelected.year());
+    return locale.standaloneMonthName(m_dateSelected.month(), QLocale::LongFormat) + u' ' +
+           QString::number(m_dateSelected.year());
 }
 
 std::optional<int> MonthCalendar::pressDate(const QPointF &point)
@@ -230,8 +229,8 @@ void MonthCalendar::paintHeader(QPainter &painter, const QFont &font) const
     painter.setFont(dayFont);
     painter.setPen(ColorTextDayName);
     for (int column = 1; column <= numberOfCol; ++column) {
-        const QString name
-            = locale.standaloneDayName(qtDayOfColumn(column), abbreviate ? QLocale::ShortFormat : QLocale::LongFormat);
+        const QString name = locale.standaloneDayName(qtDayOfColumn(column),
+                                                      abbreviate ? QLocale::ShortFormat : QLocale::LongFormat);
         const double x = UnitH() * (column - 1) + UnitH() / 2 - metrics.horizontalAdvance(name) / 2;
         painter.drawText(QPointF(x, heightOfHeader - 2 * metrics.height() / 3 + 4), name);
     }
@@ -263,9 +262,9 @@ void MonthCalendar::paintGrid(QPainter &painter, const QFont &font) const
         }
         const QString number = QString::number(cell.date.day());
         painter.setPen(text);
-        painter.drawText(
-            QPointF(left + unitH - (metrics.horizontalAdvance(number) + 3), cellTop + 2 * metrics.height() / 3 + 3),
-            number);
+        painter.drawText(QPointF(left + unitH - (metrics.horizontalAdvance(number) + 3),
+                                 cellTop + 2 * metrics.height() / 3 + 3),
+                         number);
     }
 
     painter.setPen(QPen(ColorLine, 0));

@@ -35,7 +35,7 @@ public:
     {
         QDate date;
         int column = 0; // 1 (Sunday) to 7 (Saturday)
-        int row = 0; // 1 to 6
+        int row = 0;    // 1 to 6
         bool thisMonth = false;
         bool weekend = false;
     };
@@ -122,6 +122,6 @@ private:
     int m_unitY = 0;
     QDate m_showingStart;
     QDate m_showingEnd;
-    std::array<Cell, kCells> m_cells {};
-    QSizeF m_size { 1, 1 };
+    std::array<Cell, kCells> m_cells{};
+    QSizeF m_size{1, 1};
 };

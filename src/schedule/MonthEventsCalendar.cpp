@@ -20,10 +20,7 @@ QDateTime startOfDay(const QDate &date)
 
 } // namespace
 
-MonthEventsCalendar::MonthEventsCalendar(QObject *parent)
-    : MonthCalendar(parent)
-{
-}
+MonthEventsCalendar::MonthEventsCalendar(QObject *parent) : MonthCalendar(parent) {}
 
 QString MonthEventsCalendar::addEvent(const mcEventDataClass &event, const QString &gUID, bool refresh)
 {
@@ -101,7 +98,7 @@ bool MonthEventsCalendar::isWithin(const QDateTime &start, const QDateTime &end,
 MonthEventsCalendar::Layout MonthEventsCalendar::layout() const
 {
     Layout out;
-    std::array<int, kCells> items {};
+    std::array<int, kCells> items{};
     const double unitH = UnitH();
     const double unitV = UnitV();
     const QSizeF bar = barSize();
@@ -276,8 +273,8 @@ void MonthEventsCalendar::paint(QPainter &painter, const QFont &font) const
     painter.save();
 
     const QDate washed = QDate::fromString(userSelectedDate(), Qt::ISODate);
-    if (washed.isValid() && washed.month() == showingStartDate().month()
-        && washed.year() == showingStartDate().year()) {
+    if (washed.isValid() && washed.month() == showingStartDate().month() &&
+        washed.year() == showingStartDate().year()) {
         const double x = unitX() * UnitH() - UnitH();
         const double y = unitY() * UnitV() - (UnitV() - heightOfHeader);
         painter.fillRect(QRectF(x + 1, y + 1, UnitH() - 1, UnitV() - 1), kWashColor);
@@ -296,7 +293,7 @@ void MonthEventsCalendar::paint(QPainter &painter, const QFont &font) const
         painter.setFont(stripFont);
         painter.setPen(Qt::white);
         painter.drawText(QPointF(record.x1 + 5, record.y1 + 9),
-            QStringLiteral("More (%1)...").arg(shown.overflowed[std::size_t(record.eventDateID)]));
+                         QStringLiteral("More (%1)...").arg(shown.overflowed[std::size_t(record.eventDateID)]));
     }
     painter.restore();
 }

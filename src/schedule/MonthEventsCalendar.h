@@ -50,7 +50,7 @@ public:
     QList<mcDisplayDataClass> displayData() const;
     // How many events a cell's strip stands for (0 without a strip).
     int overflowed(int cell) const;
-    QSizeF barSize() const { return { UnitH() - UnitH() * 0.05, kBarHeight }; }
+    QSizeF barSize() const { return {UnitH() - UnitH() * 0.05, kBarHeight}; }
 
     // A press at `point` (a contextual one, or the second press of a double
     // click); then its release. A press off the grid changes nothing.
@@ -84,7 +84,7 @@ private:
     struct Layout
     {
         QList<mcDisplayDataClass> records;
-        std::array<int, kCells> overflowed {};
+        std::array<int, kCells> overflowed{};
     };
     Layout layout() const;
     void paintBar(QPainter &painter, const QFont &font, const mcDisplayDataClass &record) const;

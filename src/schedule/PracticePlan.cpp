@@ -82,12 +82,10 @@ PlanFile::ReadResult PlanFile::parse(const QByteArray &bytes)
 
 // The practice -----------------------------------------------------------
 
-PracticePlan::PracticePlan(myDB &db, QString schedID)
-    : m_db(db)
-    , m_schedID(std::move(schedID))
+PracticePlan::PracticePlan(myDB &db, QString schedID) : m_db(db), m_schedID(std::move(schedID))
 {
-    const QList<Record> rows
-        = m_db.select(QStringLiteral("SELECT SchedDate, Location FROM Schedule WHERE eventID = ?"), { m_schedID });
+    const QList<Record> rows = m_db.select(QStringLiteral("SELECT SchedDate, Location FROM Schedule WHERE eventID = ?"),
+                                           {m_schedID});
     if (!rows.isEmpty()) {
         const QString stored = rows.first().text(QStringLiteral("SchedDate"));
         const QDate date = EventDates::fromStored(stored);
@@ -101,9 +99,9 @@ QList<DrillRow> PracticePlan::loadData() const
     QList<DrillRow> out;
     for (const Record &r : m_db.select(QStringLiteral("SELECT planID, drill, start, pEnd, coach FROM Drills "
                                                       "WHERE scheduleID = ?"),
-             { m_schedID }))
-        out.append({ r.integer(QStringLiteral("planID")), r.text(QStringLiteral("drill")),
-            r.text(QStringLiteral("start")), r.text(QStringLiteral("pEnd")), r.text(QStringLiteral("coach")) });
+                                       {m_schedID}))
+        out.append({r.integer(QStringLiteral("planID")), r.text(QStringLiteral("drill")),
+                    r.text(QStringLiteral("start")), r.text(QStringLiteral("pEnd")), r.text(QStringLiteral("coach"))});
     return out;
 }
 
@@ -114,15 +112,16 @@ qint64 PracticePlan::addActivity(const QStringList &cells)
         gMsgBox(QStringLiteral("Please enter a drill."));
         return -1;
     }
-    return m_db.insert(QStringLiteral("Drills"),
-        { { QStringLiteral("scheduleID"), m_schedID }, { QStringLiteral("drill"), cells.value(0) },
-            { QStringLiteral("start"), cells.value(1) }, { QStringLiteral("pEnd"), cells.value(2) },
-            { QStringLiteral("coach"), cells.value(3) } });
+    return m_db.insert(QStringLiteral("Drills"), {{QStringLiteral("scheduleID"), m_schedID},
+                                                  {QStringLiteral("drill"), cells.value(0)},
+                                                  {QStringLiteral("start"), cells.value(1)},
+                                                  {QStringLiteral("pEnd"), cells.value(2)},
+                                                  {QStringLiteral("coach"), cells.value(3)}});
 }
 
 bool PracticePlan::deleteActivity(qint64 planID)
 {
-    return m_db.exec(QStringLiteral("DELETE FROM Drills WHERE planID = ?"), { planID });
+    return m_db.exec(QStringLiteral("DELETE FROM Drills WHERE planID = ?"), {planID});
 }
 
 QList<qint64> PracticePlan::addRecalled(const QList<QStringList> &rows)
@@ -131,12 +130,13 @@ QList<qint64> PracticePlan::addRecalled(const QList<QStringList> &rows)
     try {
         const bool ok = m_db.runInTransaction([&] {
             for (const QStringList &cells : rows) {
-                const qint64 id = m_db.insert(QStringLiteral("Drills"),
-                    { { QStringLiteral("scheduleID"), m_schedID }, { QStringLiteral("drill"), cells.value(0) },
-                        { QStringLiteral("start"), cells.value(1) }, { QStringLiteral("pEnd"), cells.value(2) },
-                        { QStringLiteral("coach"), cells.value(3) } });
+                const qint64 id = m_db.insert(QStringLiteral("Drills"), {{QStringLiteral("scheduleID"), m_schedID},
+                                                                         {QStringLiteral("drill"), cells.value(0)},
+                                                                         {QStringLiteral("start"), cells.value(1)},
+                                                                         {QStringLiteral("pEnd"), cells.value(2)},
+                                                                         {QStringLiteral("coach"), cells.value(3)}});
                 if (id < 0)
-                    throw Abandoned {};
+                    throw Abandoned{};
                 ids.append(id);
             }
         });
@@ -166,8 +166,8 @@ QStringList PracticePlan::timeBlocks()
     for (int hour = 7; hour <= 22; ++hour) {
         for (int minute = 0; minute < 60; minute += 15) {
             const int shown = hour > 12 ? hour - 12 : hour;
-            out.append(QString::number(shown) + u':' + QStringLiteral("%1").arg(minute, 2, 10, QChar(u'0'))
-                + (hour < 12 ? QStringLiteral(" AM") : QStringLiteral(" PM")));
+            out.append(QString::number(shown) + u':' + QStringLiteral("%1").arg(minute, 2, 10, QChar(u'0')) +
+                       (hour < 12 ? QStringLiteral(" AM") : QStringLiteral(" PM")));
         }
     }
     return out;
@@ -186,13 +186,13 @@ QString PracticePlan::planFolder(const QString &appDataRoot)
     QDir qlm(appDataRoot);
     if (appDataRoot.isEmpty() || !qlm.cd(QStringLiteral("QLM"))) {
         gShowMsgDlog(QStringLiteral("There was an error finding the correct location."),
-            QStringLiteral("Please restart Tallyline Baseball"), QStringLiteral("OK"));
+                     QStringLiteral("Please restart Tallyline Baseball"), QStringLiteral("OK"));
         return {};
     }
     const QString folder = QStringLiteral("TLYN2/Practice Plans");
     if (!qlm.mkpath(folder)) {
         gShowMsgDlog(QStringLiteral("There was an error finding the correct location."),
-            QStringLiteral("Please restart Tallyline Baseball"), QStringLiteral("OK"));
+                     QStringLiteral("Please restart Tallyline Baseball"), QStringLiteral("OK"));
         return {};
     }
     return qlm.filePath(folder);
@@ -211,7 +211,7 @@ bool PracticePlan::savePlan(const QString &folder, const QString &name, const QL
         safe.replace(0, 1, u'-');
     if (!PlanFile::write(QDir(folder).filePath(safe + QStringLiteral(".pplan")), rows)) {
         gShowMsgDlog(QStringLiteral("There was an error attempting to save this file"),
-            QStringLiteral("Restart Tallyline Baseball and try again"), QStringLiteral("OK"));
+                     QStringLiteral("Restart Tallyline Baseball and try again"), QStringLiteral("OK"));
         return false;
     }
     return true;
@@ -223,18 +223,18 @@ PlanFile::ReadResult PracticePlan::readPlan(const QString &path)
     PlanFile::ReadResult result;
     if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxPlanBytes) {
         gShowMsgDlog(QStringLiteral("This plan could not be read."),
-            QStringLiteral("The file is missing, unreadable or too large to be a practice plan."),
-            QStringLiteral("Continue"));
+                     QStringLiteral("The file is missing, unreadable or too large to be a practice plan."),
+                     QStringLiteral("Continue"));
         return result;
     }
     result = PlanFile::parse(file.readAll());
     if (!result.skipped.isEmpty()) {
         gShowMsgDlog(QStringLiteral("Some lines of this plan were not recalled."),
-            (result.skipped.size() == 1 ? QStringLiteral("Line ") : QStringLiteral("Lines "))
-                + support::lineNumberList(result.skipped)
-                + QStringLiteral(" did not hold a drill with at most a start, an end and a coach, "
-                                 "separated by tabs."),
-            QStringLiteral("Continue"));
+                     (result.skipped.size() == 1 ? QStringLiteral("Line ") : QStringLiteral("Lines ")) +
+                         support::lineNumberList(result.skipped) +
+                         QStringLiteral(" did not hold a drill with at most a start, an end and a coach, "
+                                        "separated by tabs."),
+                     QStringLiteral("Continue"));
     }
     return result;
 }

@@ -18,7 +18,7 @@ struct DrillRow
     QString pEnd;
     QString coach;
 
-    QStringList cells() const { return { drill, start, pEnd, coach }; }
+    QStringList cells() const { return {drill, start, pEnd, coach}; }
 };
 
 // The ".pplan" file: one line per drill, its fields drill, start, end and
@@ -37,7 +37,7 @@ bool write(const QString &path, const QList<QStringList> &rows);
 struct ReadResult
 {
     QList<QStringList> rows; // four cells each
-    QList<int> skipped; // numbers of refused lines
+    QList<int> skipped;      // numbers of refused lines
 };
 // Reads a plan that may have been edited by hand. A line is taken whole or
 // not at all: more than four fields, a blank drill, a field too long for a

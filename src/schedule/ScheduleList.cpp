@@ -11,9 +11,9 @@ ScheduleList::ScheduleList(myDB &db) : m_store(db), m_db(db) {}
 
 const QStringList &ScheduleList::headings()
 {
-    static const QStringList names = {QStringLiteral("Date"),     QStringLiteral("Bus Departs"),
+    static const QStringList names = {QStringLiteral("Date"),       QStringLiteral("Bus Departs"),
                                       QStringLiteral("Start Time"), QStringLiteral("Event"),
-                                      QStringLiteral("Opponent"), QStringLiteral("Location"),
+                                      QStringLiteral("Opponent"),   QStringLiteral("Location"),
                                       QStringLiteral("H")};
     return names;
 }

@@ -147,7 +147,8 @@ QList<OpponentEntry> ScheduleStore::teams() const
     const QList<Record> rows = m_db.select(
         QStringLiteral("SELECT TeamName, teamID, SchoolName FROM Teams ORDER BY TeamName COLLATE NOCASE, teamID"));
     for (const Record &r : rows)
-        list.append({r.text(QStringLiteral("TeamName")), r.text(QStringLiteral("teamID")), r.text(QStringLiteral("SchoolName"))});
+        list.append({r.text(QStringLiteral("TeamName")), r.text(QStringLiteral("teamID")),
+                     r.text(QStringLiteral("SchoolName"))});
     return list;
 }
 

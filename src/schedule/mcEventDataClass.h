@@ -11,8 +11,8 @@ class mcEventDataClass
 {
 public:
     QDateTime startDate; // first day of the event, with its start time
-    QDateTime endDate; // last day of the event
-    QString subject; // the text on the bar
+    QDateTime endDate;   // last day of the event
+    QString subject;     // the text on the bar
     bool allDay = false; // a filled bar with white text rather than coloured text
     QString gUID;
     QColor eventColor;

@@ -11,7 +11,7 @@ struct FreqRow
     const char *text;
     int minutes;
 };
-constexpr FreqRow kFreqRows[] = {{"Never", 0}, {"5 min.", 5}, {"10 min.", 10},
+constexpr FreqRow kFreqRows[] = {{"Never", 0},    {"5 min.", 5},   {"10 min.", 10},
                                  {"15 min.", 15}, {"30 min.", 30}, {"1 hour", 60}};
 
 QString withoutCommas(QString text)
@@ -34,7 +34,7 @@ qsizetype utf8Size(const QList<UDSlot> &slots)
     qsizetype bytes = 0;
     for (const UDSlot &s : slots)
         bytes += s.abbrev.toUtf8().size() + s.desc.toUtf8().size() + 2; // and the two tabs
-    return bytes - 1; // no tab after the last piece
+    return bytes - 1;                                                   // no tab after the last piece
 }
 
 // Drops the last character (a whole surrogate pair where there is one).

@@ -31,8 +31,8 @@ QString integrityOf(sqlite3 *db)
 {
     sqlite3_stmt *stmt = nullptr;
     QString result;
-    if (sqlite3_prepare_v2(db, "PRAGMA integrity_check", -1, &stmt, nullptr) == SQLITE_OK
-        && sqlite3_step(stmt) == SQLITE_ROW)
+    if (sqlite3_prepare_v2(db, "PRAGMA integrity_check", -1, &stmt, nullptr) == SQLITE_OK &&
+        sqlite3_step(stmt) == SQLITE_ROW)
         result = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 0)));
     sqlite3_finalize(stmt);
     return result;
@@ -57,8 +57,8 @@ QString dateFolderName(const QDate &date, const QLocale &locale)
 {
     QString name = locale.toString(date, QLocale::ShortFormat);
     for (QChar &c : name) {
-        if (c == u'/' || c == u'\\' || c == u':' || c == u'*' || c == u'?' || c == u'"' || c == u'<' || c == u'>'
-            || c == u'|' || c.category() == QChar::Other_Control)
+        if (c == u'/' || c == u'\\' || c == u':' || c == u'*' || c == u'?' || c == u'"' || c == u'<' || c == u'>' ||
+            c == u'|' || c.category() == QChar::Other_Control)
             c = u'_';
     }
     // Windows drops trailing dots and blanks from a name; a date that ends
@@ -200,8 +200,7 @@ bool BackupJob::runToEnd()
 {
     if (!start())
         return false;
-    while (step()) {
-    }
+    while (step()) {}
     return m_errorCode == 0 && finish();
 }
 

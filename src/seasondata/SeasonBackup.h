@@ -67,7 +67,7 @@ private:
 
     sqlite3 *m_source;
     QString m_target;
-    bool m_intoLive = false; // restoring: m_target is the source file
+    bool m_intoLive = false;   // restoring: m_target is the source file
     sqlite3 *m_dest = nullptr; // the connection this job opened on its file
     sqlite3_backup *m_backup = nullptr;
     bool m_done = false;
@@ -99,6 +99,5 @@ int compactSeasonFile(const QString &file, QString *message = nullptr);
 // Whether `file` is a sound season: it opens, passes integrity_check and
 // holds the season's tables.
 bool isSoundSeasonFile(const QString &file);
-
 
 } // namespace seasondata

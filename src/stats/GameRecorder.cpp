@@ -55,13 +55,15 @@ GamePanels GameRecorder::loadPanels(const QString &schedID)
     // One query per table for the whole game. A player's first row for the
     // game is his; the panels never write a second one.
     GamePanels panels;
-    for (const Record &r : m_db.select(
-             QStringLiteral("SELECT playerID, stats FROM GamesIndivHitting WHERE gameID = ? ORDER BY recID"), {schedID})) {
+    for (const Record &r :
+         m_db.select(QStringLiteral("SELECT playerID, stats FROM GamesIndivHitting WHERE gameID = ? ORDER BY recID"),
+                     {schedID})) {
         if (!panels.hitting.contains(r.text(QStringLiteral("playerID"))))
             panels.hitting.insert(r.text(QStringLiteral("playerID")), r.text(QStringLiteral("stats")));
     }
-    for (const Record &r : m_db.select(
-             QStringLiteral("SELECT playerID, stats FROM GamesIndivFielding WHERE gameID = ? ORDER BY recID"), {schedID})) {
+    for (const Record &r :
+         m_db.select(QStringLiteral("SELECT playerID, stats FROM GamesIndivFielding WHERE gameID = ? ORDER BY recID"),
+                     {schedID})) {
         if (!panels.fielding.contains(r.text(QStringLiteral("playerID"))))
             panels.fielding.insert(r.text(QStringLiteral("playerID")), r.text(QStringLiteral("stats")));
     }
@@ -115,8 +117,8 @@ int GameRecorder::countRecRBI(const QString &batterStats)
 
 std::array<bool, 4> GameRecorder::performPreChecks(const gameday::GameRecord &game)
 {
-    std::array<bool, 4> passed {};
-    std::array<int, 2> runs {};
+    std::array<bool, 4> passed{};
+    std::array<int, 2> runs{};
     bool outs = true;
     bool complete = true;
     for (int t = 0; t < 2; ++t) {

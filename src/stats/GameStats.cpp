@@ -28,9 +28,12 @@ int leadingInt(const QString &text)
 int fieldCount(Panel panel)
 {
     switch (panel) {
-    case Panel::Batting: return kBattingFields;
-    case Panel::Fielding: return kFieldingFields;
-    case Panel::Pitching: return kPitchingFields;
+    case Panel::Batting:
+        return kBattingFields;
+    case Panel::Fielding:
+        return kFieldingFields;
+    case Panel::Pitching:
+        return kPitchingFields;
     }
     return 0;
 }
@@ -38,9 +41,12 @@ int fieldCount(Panel panel)
 QString tableName(Panel panel)
 {
     switch (panel) {
-    case Panel::Batting: return QStringLiteral("GamesIndivHitting");
-    case Panel::Fielding: return QStringLiteral("GamesIndivFielding");
-    case Panel::Pitching: return QStringLiteral("GamesIndivPitching");
+    case Panel::Batting:
+        return QStringLiteral("GamesIndivHitting");
+    case Panel::Fielding:
+        return QStringLiteral("GamesIndivFielding");
+    case Panel::Pitching:
+        return QStringLiteral("GamesIndivPitching");
     }
     return {};
 }
@@ -99,7 +105,8 @@ QStringList applyAutoFill(QStringList f, const gameday::AutoFillData &d)
 std::optional<QString> GameStatStore::stats(Panel panel, const QString &game, const QString &player) const
 {
     const QList<Record> rows = m_db.select(QStringLiteral("SELECT stats FROM ") + tableName(panel) +
-                                               QStringLiteral(" WHERE gameID = ? AND playerID = ? ORDER BY recID LIMIT 1"),
+                                               QStringLiteral(
+                                                   " WHERE gameID = ? AND playerID = ? ORDER BY recID LIMIT 1"),
                                            {game, player});
     if (rows.isEmpty())
         return std::nullopt;
@@ -111,12 +118,14 @@ bool GameStatStore::saveStats(Panel panel, const QString &game, const QString &p
 {
     const QString table = tableName(panel);
     return m_db.runInTransaction([&] {
-        const int changed = run(m_db, QStringLiteral("UPDATE ") + table +
-                                          QStringLiteral(" SET teamID = ?, stats = ? WHERE gameID = ? AND playerID = ?"),
+        const int changed = run(m_db,
+                                QStringLiteral("UPDATE ") + table +
+                                    QStringLiteral(" SET teamID = ?, stats = ? WHERE gameID = ? AND playerID = ?"),
                                 {team, statsText, game, player});
         if (changed == 0)
-            run(m_db, QStringLiteral("INSERT INTO ") + table +
-                          QStringLiteral(" (gameID, playerID, teamID, stats) VALUES (?, ?, ?, ?)"),
+            run(m_db,
+                QStringLiteral("INSERT INTO ") + table +
+                    QStringLiteral(" (gameID, playerID, teamID, stats) VALUES (?, ?, ?, ?)"),
                 {game, player, team, statsText});
     });
 }
@@ -142,11 +151,10 @@ std::optional<PitchingLine> GameStatStore::pitching(const QString &game, const Q
     return p;
 }
 
-bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team,
-                                 const PitchingLine &p)
+bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team, const PitchingLine &p)
 {
-    const QVariantList values = {team, p.gameResult, p.start ? 1 : 0, p.shutout ? 1 : 0, p.compGame ? 1 : 0,
-                                 p.totBalls, p.totKs, p.stats};
+    const QVariantList values = {team,       p.gameResult, p.start ? 1 : 0, p.shutout ? 1 : 0, p.compGame ? 1 : 0,
+                                 p.totBalls, p.totKs,      p.stats};
     return m_db.runInTransaction([&] {
         const int changed = run(m_db,
                                 QStringLiteral("UPDATE GamesIndivPitching SET teamID = ?, gameResult = ?, start = ?, "
@@ -164,8 +172,8 @@ bool GameStatStore::savePitching(const QString &game, const QString &player, con
 int GameStatStore::teamErrors(const QString &game, const QString &team) const
 {
     int sum = 0;
-    const QList<Record> rows =
-        m_db.select(QStringLiteral("SELECT stats FROM GamesIndivFielding WHERE gameID = ? AND teamID = ?"), {game, team});
+    const QList<Record> rows = m_db.select(
+        QStringLiteral("SELECT stats FROM GamesIndivFielding WHERE gameID = ? AND teamID = ?"), {game, team});
     for (const Record &r : rows) {
         const QStringList f = r.text(QStringLiteral("stats")).split(u'\t');
         sum += leadingInt(f.value(4)) + leadingInt(f.value(5));
@@ -175,7 +183,8 @@ int GameStatStore::teamErrors(const QString &game, const QString &team) const
 
 bool GameStatStore::hasFieldingAndPitching(const QString &game) const
 {
-    return m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM GamesIndivFielding WHERE gameID = ?"), {game}).toInt() > 0 &&
+    return m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM GamesIndivFielding WHERE gameID = ?"), {game}).toInt() >
+               0 &&
            m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM GamesIndivPitching WHERE gameID = ?"), {game}).toInt() > 0;
 }
 

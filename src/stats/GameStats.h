@@ -73,8 +73,7 @@ public:
     // The stored string of a batting or fielding row, when there is one.
     std::optional<QString> stats(Panel panel, const QString &game, const QString &player) const;
     // Updates the player's row (teamID and stats) or inserts one.
-    bool saveStats(Panel panel, const QString &game, const QString &player, const QString &team,
-                   const QString &stats);
+    bool saveStats(Panel panel, const QString &game, const QString &player, const QString &team, const QString &stats);
 
     std::optional<PitchingLine> pitching(const QString &game, const QString &player) const;
     bool savePitching(const QString &game, const QString &player, const QString &team, const PitchingLine &line);

@@ -6,24 +6,26 @@ namespace stats {
 
 const std::array<const char *, kHittingFigures> &hittingColumns()
 {
-    static const std::array<const char *, kHittingFigures> names = {
-        "AB",  "B1",  "B2",  "B3", "HR", "BB",   "IBB", "HBP", "SAC",  "FO",   "GO",   "KS",   "KL",
-        "HDP", "ROE", "FC",  "CI", "Runs", "RBI", "SB",  "LOB", "UDB1", "UDB2", "UDB3", "UDB4", "UDB5"};
+    static const std::array<const char *, kHittingFigures> names = {"AB",   "B1",   "B2",   "B3",   "HR",  "BB", "IBB",
+                                                                    "HBP",  "SAC",  "FO",   "GO",   "KS",  "KL", "HDP",
+                                                                    "ROE",  "FC",   "CI",   "Runs", "RBI", "SB", "LOB",
+                                                                    "UDB1", "UDB2", "UDB3", "UDB4", "UDB5"};
     return names;
 }
 
 const std::array<const char *, kFieldingFigures> &fieldingColumns()
 {
-    static const std::array<const char *, kFieldingFigures> names = {
-        "IP", "CH", "PO", "Asst", "FE", "TE", "DPL", "PB", "SBA", "CS", "UDF1", "UDF2", "UDF3"};
+    static const std::array<const char *, kFieldingFigures> names = {"IP", "CH",  "PO", "Asst", "FE",   "TE",  "DPL",
+                                                                     "PB", "SBA", "CS", "UDF1", "UDF2", "UDF3"};
     return names;
 }
 
 const std::array<const char *, kPitchingFigures> &pitchingColumns()
 {
     static const std::array<const char *, kPitchingFigures> names = {
-        "Win", "Loss", "Save", "ND",   "Start", "ShO",  "CG",   "Balls", "Ks",  "PitCt", "IP",   "BF",   "Hits", "ErRuns",
-        "HRA", "GrO",  "FlO",  "BB",   "IBB",   "PckO", "Kouts", "Blk",  "WldP", "HitB", "UDP1", "UDP2", "UDP3"};
+        "Win",   "Loss", "Save",  "ND",   "Start",  "ShO",  "CG",   "Balls", "Ks",
+        "PitCt", "IP",   "BF",    "Hits", "ErRuns", "HRA",  "GrO",  "FlO",   "BB",
+        "IBB",   "PckO", "Kouts", "Blk",  "WldP",   "HitB", "UDP1", "UDP2",  "UDP3"};
     return names;
 }
 

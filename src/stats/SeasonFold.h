@@ -28,7 +28,7 @@ struct SeasonRow
     qint64 recID = -1; // -1: no row yet, it is inserted
     qint64 teamID = 0;
     qint64 gameID = 0;
-    std::array<qint64, N> figures {};
+    std::array<qint64, N> figures{};
     bool changed = false;
 };
 

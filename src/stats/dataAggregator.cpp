@@ -41,7 +41,7 @@ QStringList dataAggregator::extractID(const QString &lineupText)
 
 std::optional<PitchArray> dataAggregator::getNewPitchingStats(const PitchingLine &row)
 {
-    PitchArray game {};
+    PitchArray game{};
     const int decision = row.gameResult >= 1 && row.gameResult <= 4 ? row.gameResult : 4;
     game[decision - 1] += 1;
     game[4] += row.start ? 1 : 0;
@@ -109,7 +109,7 @@ TeamAdditions dataAggregator::collect(const gameday::ScoreGrid &grid, const QStr
             addEntries(player.hitting, *it, kHitFirstUser);
 
         if (const auto it = panels.fielding.constFind(player.playerID); it != panels.fielding.cend()) {
-            player.fielding = FldArray {};
+            player.fielding = FldArray{};
             addEntries(*player.fielding, *it, 0);
         }
 

@@ -30,8 +30,8 @@ struct PlayerAdditions
 {
     QString playerID;
     QString name;
-    HitArray hitting {};
-    std::optional<FldArray> fielding; // only with a fielding panel row
+    HitArray hitting{};
+    std::optional<FldArray> fielding;   // only with a fielding panel row
     std::optional<PitchArray> pitching; // only with a pitching panel row
 };
 

@@ -7,8 +7,7 @@
 
 namespace support {
 
-NumberKeyAction numberKeyAction(int key, const QString &text, Qt::KeyboardModifiers modifiers,
-                                NumberKeyOptions options)
+NumberKeyAction numberKeyAction(int key, const QString &text, Qt::KeyboardModifiers modifiers, NumberKeyOptions options)
 {
     if (modifiers & (Qt::ControlModifier | Qt::MetaModifier))
         return NumberKeyAction::Pass;

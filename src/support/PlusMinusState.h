@@ -16,10 +16,10 @@ public:
     static constexpr int width = 45;
     static constexpr int height = 22;
 
-    int focusedbutton = None;  // the half the keyboard is on
-    bool plusEnabled = true;   // each half can be turned off by itself
+    int focusedbutton = None; // the half the keyboard is on
+    bool plusEnabled = true;  // each half can be turned off by itself
     bool minusEnabled = true;
-    bool pushPlus = false;     // the half being pressed
+    bool pushPlus = false; // the half being pressed
     bool pushMinus = false;
     bool windowEnabled = true; // false while the window is in the background
     bool enabled = true;       // the control as a whole

@@ -25,16 +25,35 @@ QStringList ParseParams(const QString &codes)
         switch (state) {
         case 0:
             switch (ch.unicode()) {
-            case u'i': state = 2; break;
-            case u'u': state = 3; break;
-            case u'o': state = 1; break;
-            case u'b': result.append(QStringLiteral("boolean")); break;
-            case u's': result.append(QStringLiteral("string")); break;
-            case u'f': state = 4; break;
-            case u'c': result.append(QStringLiteral("color")); break;
-            case u'A': state = 5; break;
-            case u'&': byReference.append(result.size()); break;
-            default: break; // anything else between types is passed over
+            case u'i':
+                state = 2;
+                break;
+            case u'u':
+                state = 3;
+                break;
+            case u'o':
+                state = 1;
+                break;
+            case u'b':
+                result.append(QStringLiteral("boolean"));
+                break;
+            case u's':
+                result.append(QStringLiteral("string"));
+                break;
+            case u'f':
+                state = 4;
+                break;
+            case u'c':
+                result.append(QStringLiteral("color"));
+                break;
+            case u'A':
+                state = 5;
+                break;
+            case u'&':
+                byReference.append(result.size());
+                break;
+            default:
+                break; // anything else between types is passed over
             }
             break;
         case 1:
@@ -51,8 +70,8 @@ QStringList ParseParams(const QString &codes)
         case 2:
         case 3:
             if (ch.isDigit()) {
-                result.append((state == 2 ? QStringLiteral("int") : QStringLiteral("uint"))
-                              + QString::number(ch.digitValue() * 8));
+                result.append((state == 2 ? QStringLiteral("int") : QStringLiteral("uint")) +
+                              QString::number(ch.digitValue() * 8));
                 state = 0;
             }
             break;
@@ -86,8 +105,11 @@ QString CleanMangledFunction(const QString &frame)
     // The program's start-up: the entry point and the event loop that
     // every stack passes through tell the reader nothing.
     static const QStringList startUp = {
-        QStringLiteral("_NewAppInstance"), QStringLiteral("_Main"), QStringLiteral("% main"),
-        QStringLiteral("QCoreApplication.exec%i4%"), QStringLiteral("TallylineApplication.notify%b%o<QObject>o<QEvent>"),
+        QStringLiteral("_NewAppInstance"),
+        QStringLiteral("_Main"),
+        QStringLiteral("% main"),
+        QStringLiteral("QCoreApplication.exec%i4%"),
+        QStringLiteral("TallylineApplication.notify%b%o<QObject>o<QEvent>"),
     };
     if (startUp.contains(frame))
         return {};

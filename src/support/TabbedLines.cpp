@@ -77,7 +77,7 @@ TabbedLines TabbedLines::parse(const QByteArray &bytes, int maxFields)
         if (refused)
             out.skipped.append(number);
         else
-            out.lines.append({ number, fields });
+            out.lines.append({number, fields});
     }
     return out;
 }
@@ -88,8 +88,8 @@ QString lineNumberList(const QList<int> &numbers, int shown)
     for (int i = 0; i < numbers.size() && i < shown; ++i)
         parts.append(QString::number(numbers.at(i)));
     if (numbers.size() > shown)
-        return parts.join(QStringLiteral(", ")) + QStringLiteral(" and ") + QString::number(numbers.size() - shown)
-            + QStringLiteral(" more");
+        return parts.join(QStringLiteral(", ")) + QStringLiteral(" and ") + QString::number(numbers.size() - shown) +
+               QStringLiteral(" more");
     if (parts.size() <= 1)
         return parts.join(QString());
     const QString last = parts.takeLast();

@@ -20,9 +20,9 @@ struct TabbedLines
         QStringList fields;
     };
 
-    QList<Line> lines; // the lines taken, in file order
+    QList<Line> lines;  // the lines taken, in file order
     QList<int> skipped; // numbers of the lines refused
-    int blank = 0; // empty or white lines, passed over quietly
+    int blank = 0;      // empty or white lines, passed over quietly
 
     // The longest field taken; a longer one refuses its line.
     static constexpr int kMaxField = 255;

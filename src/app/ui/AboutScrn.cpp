@@ -29,10 +29,10 @@ AboutScrn::AboutScrn(QWidget *parent) : QDialog(parent)
     creditsTxt->setObjectName(QStringLiteral("creditsTxt"));
     creditsTxt->setAccessibleName(QStringLiteral("Credits"));
     creditsTxt->setReadOnly(true);
-    creditsTxt->setPlainText(QStringLiteral(
-        "Tallyline Baseball keeps a team's season: teams, players and coaches, the schedule, "
-        "the scorecard of every game, season statistics, standings, practice plans and inventory.\n\n"
-        "Built with Qt and SQLite."));
+    creditsTxt->setPlainText(
+        QStringLiteral("Tallyline Baseball keeps a team's season: teams, players and coaches, the schedule, "
+                       "the scorecard of every game, season statistics, standings, practice plans and inventory.\n\n"
+                       "Built with Qt and SQLite."));
     creditsTxt->setMaximumHeight(110);
     creditsTxt->viewport()->installEventFilter(this);
     layout->addWidget(creditsTxt);

@@ -103,8 +103,7 @@ QLabel *buddyLabel(QWidget *field, const QString &caption, QWidget *parent)
     return label;
 }
 
-QPushButton *button(QWidget *parent, const QString &objectName, const QString &caption,
-                    const QString &accessibleName)
+QPushButton *button(QWidget *parent, const QString &objectName, const QString &caption, const QString &accessibleName)
 {
     auto *b = new QPushButton(caption, parent);
     b->setObjectName(objectName);

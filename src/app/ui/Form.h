@@ -139,7 +139,6 @@ private:
 };
 
 // A combo box set up as Rows::comboBox makes it, without a row.
-QComboBox *comboBox(QWidget *parent, const QString &objectName, const QString &accessibleName,
-                    ComboKind kind = Fixed);
+QComboBox *comboBox(QWidget *parent, const QString &objectName, const QString &accessibleName, ComboKind kind = Fixed);
 
 } // namespace form

@@ -28,13 +28,16 @@ MainMenuBar::MainMenuBar(QWidget *parent) : QMenuBar(parent)
 
     QMenu *file = addMenu(QStringLiteral("&File"));
     file->setObjectName(QStringLiteral("FileMenu"));
-    addItem(file, QStringLiteral("FilePrinterSetup"), QStringLiteral("Printer Setup"), QKeySequence(QStringLiteral("Ctrl+Shift+P")));
+    addItem(file, QStringLiteral("FilePrinterSetup"), QStringLiteral("Printer Setup"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+P")));
     addItem(file, QStringLiteral("FilePrint"), QStringLiteral("Print"), QKeySequence(QStringLiteral("Ctrl+P")));
-    addItem(file, QStringLiteral("FileExport"), QStringLiteral("Export Data"), QKeySequence(QStringLiteral("Ctrl+Shift+E")));
+    addItem(file, QStringLiteral("FileExport"), QStringLiteral("Export Data"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+E")));
     addItem(file, QStringLiteral("FileBackup"), QStringLiteral("Backup Data"));
     addItem(file, QStringLiteral("FileRestore"), QStringLiteral("Restore Data..."));
     file->addSeparator();
-    QAction *quit = addItem(file, QStringLiteral("FileQuit"), QStringLiteral("&Quit"), QKeySequence(QStringLiteral("Ctrl+Q")));
+    QAction *quit = addItem(file, QStringLiteral("FileQuit"), QStringLiteral("&Quit"),
+                            QKeySequence(QStringLiteral("Ctrl+Q")));
     quit->setMenuRole(QAction::QuitRole);
     installHandler(QStringLiteral("FileQuit"), [] {
         // Closing every window lets each screen save on its way out; the
@@ -49,14 +52,10 @@ MainMenuBar::MainMenuBar(QWidget *parent) : QMenuBar(parent)
     {
         const char *name, *text, *key, *slot;
     } editItems[] = {
-        {"EditUndo", "&Undo", "Ctrl+Z", "undo"},
-        {"EditSeparator1", "-", "", nullptr},
-        {"EditCut", "Cu&t", "Ctrl+X", "cut"},
-        {"EditCopy", "&Copy", "Ctrl+C", "copy"},
-        {"EditPaste", "&Paste", "Ctrl+V", "paste"},
-        {"EditClear", "&Delete", "", "del"},
-        {"EditSeparator2", "-", "", nullptr},
-        {"EditSelectAll", "Select &All", "Ctrl+A", "selectAll"},
+        {"EditUndo", "&Undo", "Ctrl+Z", "undo"},    {"EditSeparator1", "-", "", nullptr},
+        {"EditCut", "Cu&t", "Ctrl+X", "cut"},       {"EditCopy", "&Copy", "Ctrl+C", "copy"},
+        {"EditPaste", "&Paste", "Ctrl+V", "paste"}, {"EditClear", "&Delete", "", "del"},
+        {"EditSeparator2", "-", "", nullptr},       {"EditSelectAll", "Select &All", "Ctrl+A", "selectAll"},
     };
     for (const auto &e : editItems) {
         if (!e.slot) {

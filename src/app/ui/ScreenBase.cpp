@@ -32,18 +32,42 @@ void ScreenBase::installHelpMenus(int topic)
     if (topic < 0) {
         // Each screen's page in the help index.
         switch (m_id) {
-        case ScreenId::teamScrn: topic = 2; break;
-        case ScreenId::personnelScrn: topic = 3; break;
-        case ScreenId::contactInfoScrn: topic = 4; break;
-        case ScreenId::standingsScrn: topic = 5; break;
-        case ScreenId::scheduleScrn: topic = 6; break;
-        case ScreenId::gameDayScrn: topic = 7; break;
-        case ScreenId::practicePlanScrn: topic = 8; break;
-        case ScreenId::reportIntroScrn: topic = 9; break;
-        case ScreenId::InventoryScrn: topic = 10; break;
-        case ScreenId::formsScrn: topic = 11; break;
-        case ScreenId::prefScrn: topic = 13; break;
-        default: topic = 0; break;
+        case ScreenId::teamScrn:
+            topic = 2;
+            break;
+        case ScreenId::personnelScrn:
+            topic = 3;
+            break;
+        case ScreenId::contactInfoScrn:
+            topic = 4;
+            break;
+        case ScreenId::standingsScrn:
+            topic = 5;
+            break;
+        case ScreenId::scheduleScrn:
+            topic = 6;
+            break;
+        case ScreenId::gameDayScrn:
+            topic = 7;
+            break;
+        case ScreenId::practicePlanScrn:
+            topic = 8;
+            break;
+        case ScreenId::reportIntroScrn:
+            topic = 9;
+            break;
+        case ScreenId::InventoryScrn:
+            topic = 10;
+            break;
+        case ScreenId::formsScrn:
+            topic = 11;
+            break;
+        case ScreenId::prefScrn:
+            topic = 13;
+            break;
+        default:
+            topic = 0;
+            break;
         }
     }
     const struct
@@ -72,10 +96,7 @@ void ScreenBase::installHelpMenus(int topic)
     }
 }
 
-ScreenBase::ScreenBase(ScreenId id, const QString &title, QWidget *parent)
-    : ScreenBase(id, title, Options{}, parent)
-{
-}
+ScreenBase::ScreenBase(ScreenId id, const QString &title, QWidget *parent) : ScreenBase(id, title, Options{}, parent) {}
 
 ScreenBase::~ScreenBase() = default;
 

@@ -5,27 +5,48 @@
 QString screenName(ScreenId id)
 {
     switch (id) {
-    case ScreenId::teamScrn: return QStringLiteral("teamScrn");
-    case ScreenId::personnelScrn: return QStringLiteral("personnelScrn");
-    case ScreenId::scheduleScrn: return QStringLiteral("scheduleScrn");
-    case ScreenId::gameDayScrn: return QStringLiteral("gameDayScrn");
-    case ScreenId::practicePlanScrn: return QStringLiteral("practicePlanScrn");
-    case ScreenId::InventoryScrn: return QStringLiteral("InventoryScrn");
-    case ScreenId::eventsCalendarScrn: return QStringLiteral("eventsCalendarScrn");
-    case ScreenId::contactInfoScrn: return QStringLiteral("contactInfoScrn");
-    case ScreenId::emailInfoScrn: return QStringLiteral("emailInfoScrn");
-    case ScreenId::reportIntroScrn: return QStringLiteral("reportIntroScrn");
-    case ScreenId::reportScrn: return QStringLiteral("reportScrn");
-    case ScreenId::standingsScrn: return QStringLiteral("standingsScrn");
-    case ScreenId::formsScrn: return QStringLiteral("formsScrn");
-    case ScreenId::prefScrn: return QStringLiteral("prefScrn");
-    case ScreenId::TransferDataScrn: return QStringLiteral("TransferDataScrn");
-    case ScreenId::backUpDlog: return QStringLiteral("backUpDlog");
-    case ScreenId::restoreDlog: return QStringLiteral("restoreDlog");
-    case ScreenId::updateDlog: return QStringLiteral("updateDlog");
-    case ScreenId::helpScrn2: return QStringLiteral("helpScrn2");
-    case ScreenId::HelpAbbrevScrn: return QStringLiteral("HelpAbbrevScrn");
-    case ScreenId::startScrn1: return QStringLiteral("startScrn1");
+    case ScreenId::teamScrn:
+        return QStringLiteral("teamScrn");
+    case ScreenId::personnelScrn:
+        return QStringLiteral("personnelScrn");
+    case ScreenId::scheduleScrn:
+        return QStringLiteral("scheduleScrn");
+    case ScreenId::gameDayScrn:
+        return QStringLiteral("gameDayScrn");
+    case ScreenId::practicePlanScrn:
+        return QStringLiteral("practicePlanScrn");
+    case ScreenId::InventoryScrn:
+        return QStringLiteral("InventoryScrn");
+    case ScreenId::eventsCalendarScrn:
+        return QStringLiteral("eventsCalendarScrn");
+    case ScreenId::contactInfoScrn:
+        return QStringLiteral("contactInfoScrn");
+    case ScreenId::emailInfoScrn:
+        return QStringLiteral("emailInfoScrn");
+    case ScreenId::reportIntroScrn:
+        return QStringLiteral("reportIntroScrn");
+    case ScreenId::reportScrn:
+        return QStringLiteral("reportScrn");
+    case ScreenId::standingsScrn:
+        return QStringLiteral("standingsScrn");
+    case ScreenId::formsScrn:
+        return QStringLiteral("formsScrn");
+    case ScreenId::prefScrn:
+        return QStringLiteral("prefScrn");
+    case ScreenId::TransferDataScrn:
+        return QStringLiteral("TransferDataScrn");
+    case ScreenId::backUpDlog:
+        return QStringLiteral("backUpDlog");
+    case ScreenId::restoreDlog:
+        return QStringLiteral("restoreDlog");
+    case ScreenId::updateDlog:
+        return QStringLiteral("updateDlog");
+    case ScreenId::helpScrn2:
+        return QStringLiteral("helpScrn2");
+    case ScreenId::HelpAbbrevScrn:
+        return QStringLiteral("HelpAbbrevScrn");
+    case ScreenId::startScrn1:
+        return QStringLiteral("startScrn1");
     }
     return {};
 }

@@ -9,24 +9,24 @@ enum class ScreenId {
     teamScrn,
     personnelScrn,
     scheduleScrn,
-    gameDayScrn,        // argument: the event id of the game
-    practicePlanScrn,   // argument: the event id of the practice
+    gameDayScrn,      // argument: the event id of the game
+    practicePlanScrn, // argument: the event id of the practice
     InventoryScrn,
     eventsCalendarScrn,
     contactInfoScrn,
-    emailInfoScrn,      // the mail settings
+    emailInfoScrn, // the mail settings
     reportIntroScrn,
-    reportScrn,         // opened by reportIntroScrn with the chosen columns
+    reportScrn, // opened by reportIntroScrn with the chosen columns
     standingsScrn,
     formsScrn,
     prefScrn,
     TransferDataScrn,
     backUpDlog,
-    restoreDlog,        // puts a chosen backup in place of the current season
+    restoreDlog, // puts a chosen backup in place of the current season
     updateDlog,
-    helpScrn2,          // argument: the topic number, or none for the index
+    helpScrn2, // argument: the topic number, or none for the index
     HelpAbbrevScrn,
-    startScrn1,         // the hub; made through startScrn1::showStartScreen()
+    startScrn1, // the hub; made through startScrn1::showStartScreen()
 };
 
 // The window's objectName: the name the program's design gives it.

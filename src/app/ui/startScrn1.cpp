@@ -26,9 +26,9 @@ const QString kSelectSeason = QStringLiteral("Select Season");
 // The screens from which a coach types into the season.
 bool writesSeason(ScreenId target)
 {
-    return target == ScreenId::teamScrn || target == ScreenId::personnelScrn || target == ScreenId::scheduleScrn
-           || target == ScreenId::InventoryScrn || target == ScreenId::eventsCalendarScrn
-           || target == ScreenId::contactInfoScrn;
+    return target == ScreenId::teamScrn || target == ScreenId::personnelScrn || target == ScreenId::scheduleScrn ||
+           target == ScreenId::InventoryScrn || target == ScreenId::eventsCalendarScrn ||
+           target == ScreenId::contactInfoScrn;
 }
 } // namespace
 
@@ -61,8 +61,7 @@ void LogoCanvas::paintEvent(QPaintEvent *)
 }
 
 startScrn1::startScrn1(QWidget *parent)
-    : ScreenBase(ScreenId::startScrn1, u"Tallyline Baseball"_s, {.backupTimer = false, .returnToStart = false},
-                 parent)
+    : ScreenBase(ScreenId::startScrn1, u"Tallyline Baseball"_s, {.backupTimer = false, .returnToStart = false}, parent)
 {
     g_startScreen = this;
     auto *central = new QWidget(this);
@@ -207,8 +206,8 @@ QPushButton *startScrn1::addTargetButton(const QString &objectName, const QStrin
     button->setEnabled(screens::has(target));
     m_targets.append({button, target});
     // These open beside the start screen; the others take its place.
-    const bool closeStart = target != ScreenId::eventsCalendarScrn && target != ScreenId::contactInfoScrn
-                            && target != ScreenId::standingsScrn;
+    const bool closeStart = target != ScreenId::eventsCalendarScrn && target != ScreenId::contactInfoScrn &&
+                            target != ScreenId::standingsScrn;
     if (target == ScreenId::TransferDataScrn) {
         connect(button, &QPushButton::clicked, this, [this, target] {
             if (QWidget *sheet = screens::create(target)) {

@@ -8,8 +8,7 @@
 #include <QVBoxLayout>
 
 AddPlayersToGameScrn::AddPlayersToGameScrn(const QList<gameday::BenchLine> &players, QWidget *parent)
-    : QDialog(parent)
-    , m_players(players)
+    : QDialog(parent), m_players(players)
 {
     setObjectName(QStringLiteral("AddPlayersToGameScrn"));
     setWindowTitle(tr("Add Players to Game"));

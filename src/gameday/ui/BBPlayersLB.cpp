@@ -2,8 +2,7 @@
 
 #include <QKeyEvent>
 
-BBPlayersLB::BBPlayersLB(QWidget *parent)
-    : qlmListBox(parent)
+BBPlayersLB::BBPlayersLB(QWidget *parent) : qlmListBox(parent)
 {
     setObjectName(QStringLiteral("Names_PosLB"));
     setAccessibleName(tr("Lineup"));

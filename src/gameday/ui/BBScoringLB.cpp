@@ -11,8 +11,7 @@
 using gameday::GridCell;
 using gameday::ScoreGrid;
 
-BBScoringLB::BBScoringLB(QWidget *parent)
-    : QWidget(parent)
+BBScoringLB::BBScoringLB(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("BBScoringLB"));
     setAccessibleName(tr("Scorecard"));
@@ -28,10 +27,10 @@ BBScoringLB::BBScoringLB(QWidget *parent)
     connect(&m_grid, &ScoreGrid::changed, this, &BBScoringLB::gridChanged);
     connect(&m_grid, &ScoreGrid::autoMarkTaken, this, [this](int row, int col) {
         if (m_grid.autoClickCt <= 1) {
-            m_markStart = GridCell { row, col };
+            m_markStart = GridCell{row, col};
             m_markEnd.reset();
         } else {
-            m_markEnd = GridCell { row, col };
+            m_markEnd = GridCell{row, col};
         }
         update();
     });
@@ -48,7 +47,7 @@ void BBScoringLB::setCurrentCell(int row, int col)
     if (m_grid.rowCount() == 0 || m_grid.columnCount() == 0) {
         m_current.reset();
     } else {
-        m_current = GridCell { qBound(0, row, m_grid.rowCount() - 1), qBound(0, col, m_grid.columnCount() - 1) };
+        m_current = GridCell{qBound(0, row, m_grid.rowCount() - 1), qBound(0, col, m_grid.columnCount() - 1)};
     }
     announceCurrent();
     update();
@@ -120,7 +119,7 @@ void BBScoringLB::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
         return;
     }
-    const GridCell at = m_current.value_or(GridCell { 0, 0 });
+    const GridCell at = m_current.value_or(GridCell{0, 0});
     switch (event->key()) {
     case Qt::Key_Left:
         setCurrentCell(at.row, m_current ? at.col - 1 : 0);

@@ -51,7 +51,7 @@ private:
     void announceCurrent();
 
     gameday::ScoreGrid m_grid;
-    gameday::ScoreGridRenderer m_renderer { m_grid };
+    gameday::ScoreGridRenderer m_renderer{m_grid};
     std::optional<gameday::GridCell> m_current;
     std::optional<gameday::GridCell> m_markStart;
     std::optional<gameday::GridCell> m_markEnd;

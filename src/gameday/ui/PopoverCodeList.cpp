@@ -7,10 +7,7 @@
 #include <QToolTip>
 
 PopoverCodeList::PopoverCodeList(int rows, int columns, QList<Cell> cells, QWidget *parent)
-    : QWidget(parent)
-    , m_rows(rows)
-    , m_columns(columns)
-    , m_cells(std::move(cells))
+    : QWidget(parent), m_rows(rows), m_columns(columns), m_cells(std::move(cells))
 {
     Q_ASSERT(m_cells.size() == qsizetype(rows) * columns);
     setFocusPolicy(Qt::StrongFocus);
@@ -27,7 +24,7 @@ QRect PopoverCodeList::cellRect(int row, int col) const
     const int x1 = width() * (col + 1) / m_columns;
     const int y0 = height() * row / m_rows;
     const int y1 = height() * (row + 1) / m_rows;
-    return { x0, y0, x1 - x0, y1 - y0 };
+    return {x0, y0, x1 - x0, y1 - y0};
 }
 
 int PopoverCodeList::indexAt(QPoint point) const

@@ -27,13 +27,26 @@ const QColor kResultColour = QColor::fromRgb(0xD8EECD);
 
 QList<PopoverCodeList::Cell> actionCells()
 {
-    const char *const descriptions[16] = { "single", "double", "triple", "home run", "base on balls",
-        "intentional base on balls", "hit by pitch", "sacrifice fly", "fly out", "ground out", "strike out swinging",
-        "strike out looking", "hit into double play", "reached on error", "fielder's choice", "catcher interference" };
+    const char *const descriptions[16] = {"single",
+                                          "double",
+                                          "triple",
+                                          "home run",
+                                          "base on balls",
+                                          "intentional base on balls",
+                                          "hit by pitch",
+                                          "sacrifice fly",
+                                          "fly out",
+                                          "ground out",
+                                          "strike out swinging",
+                                          "strike out looking",
+                                          "hit into double play",
+                                          "reached on error",
+                                          "fielder's choice",
+                                          "catcher interference"};
     QList<PopoverCodeList::Cell> cells;
     const QStringList &codes = gameday::atBatCodes();
     for (int i = 0; i < codes.size(); ++i)
-        cells.append({ codes.at(i), codes.at(i), QString::fromLatin1(descriptions[i]), kActionColour });
+        cells.append({codes.at(i), codes.at(i), QString::fromLatin1(descriptions[i]), kActionColour});
     return cells;
 }
 
@@ -42,20 +55,19 @@ QList<PopoverCodeList::Cell> resultCells()
     using gameday::backgroundColour;
     // The second row carries the colours its results give a grid cell.
     return {
-        { QStringLiteral("CS"), QStringLiteral("xCS"), QStringLiteral("caught stealing"), kResultColour },
-        { QStringLiteral("POB"), QStringLiteral("xPOB"), QStringLiteral("picked off base"), kResultColour },
-        { QStringLiteral("FrO"), QStringLiteral("xFrcO"), QStringLiteral("force out"), kResultColour },
-        { QStringLiteral("OUT"), QStringLiteral("xOUT"), QStringLiteral("out"), backgroundColour(gameday::kBkgOut) },
-        { QStringLiteral("RUN"), QStringLiteral("xRUN"), QStringLiteral("run"), backgroundColour(gameday::kBkgRun) },
-        { QStringLiteral("LOB"), QStringLiteral("xLOB"), QStringLiteral("left on base"),
-            backgroundColour(gameday::kBkgLeft) },
+        {QStringLiteral("CS"), QStringLiteral("xCS"), QStringLiteral("caught stealing"), kResultColour},
+        {QStringLiteral("POB"), QStringLiteral("xPOB"), QStringLiteral("picked off base"), kResultColour},
+        {QStringLiteral("FrO"), QStringLiteral("xFrcO"), QStringLiteral("force out"), kResultColour},
+        {QStringLiteral("OUT"), QStringLiteral("xOUT"), QStringLiteral("out"), backgroundColour(gameday::kBkgOut)},
+        {QStringLiteral("RUN"), QStringLiteral("xRUN"), QStringLiteral("run"), backgroundColour(gameday::kBkgRun)},
+        {QStringLiteral("LOB"), QStringLiteral("xLOB"), QStringLiteral("left on base"),
+         backgroundColour(gameday::kBkgLeft)},
     };
 }
 
 } // namespace
 
-battingPOP::battingPOP(QWidget *parent)
-    : QWidget(parent, Qt::Popup)
+battingPOP::battingPOP(QWidget *parent) : QWidget(parent, Qt::Popup)
 {
     setObjectName(QStringLiteral("battingPOP"));
     setAccessibleName(tr("At bat entry"));
@@ -107,8 +119,8 @@ void battingPOP::layOut(bool showAll)
     batActionLB->setGeometry(kMargin, displayTop + 18, kListWidth, 88);
     resultLabel->setGeometry(kMargin, displayTop + 110, kListWidth, 18);
     resultLB->setGeometry(kMargin, displayTop + 128, kListWidth, 44);
-    for (QWidget *w : { static_cast<QWidget *>(batActionLabel), static_cast<QWidget *>(batActionLB),
-             static_cast<QWidget *>(resultLabel), static_cast<QWidget *>(resultLB) })
+    for (QWidget *w : {static_cast<QWidget *>(batActionLabel), static_cast<QWidget *>(batActionLB),
+                       static_cast<QWidget *>(resultLabel), static_cast<QWidget *>(resultLB)})
         w->setVisible(showAll);
 
     const int half = (kListWidth - 4) / 2;
@@ -126,8 +138,8 @@ QString battingPOP::getClickedTxt(int left, int top, bool showAll)
     layOut(showAll);
 
     QPoint at(left, top);
-    if (const QScreen *screen
-        = QGuiApplication::screenAt(at) ? QGuiApplication::screenAt(at) : QGuiApplication::primaryScreen()) {
+    if (const QScreen *screen = QGuiApplication::screenAt(at) ? QGuiApplication::screenAt(at)
+                                                              : QGuiApplication::primaryScreen()) {
         const QRect area = screen->availableGeometry();
         at.setX(qBound(area.left(), at.x(), qMax(area.left(), area.right() + 1 - width())));
         at.setY(qBound(area.top(), at.y(), qMax(area.top(), area.bottom() + 1 - height())));

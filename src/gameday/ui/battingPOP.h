@@ -32,7 +32,7 @@ public:
     PopoverCodeList *batActionLB = nullptr;
     QLabel *resultLabel = nullptr;
     PopoverCodeList *resultLB = nullptr;
-    std::array<QPushButton *, 6> actionBtn {};
+    std::array<QPushButton *, 6> actionBtn{};
 
 Q_SIGNALS:
     // Shown and laid out; getClickedTxt is waiting for a choice.

@@ -15,8 +15,8 @@
 #include "stats/GameStats.h"
 #include "stats/RecordGameData.h"
 #include "stats/ui/FieldingCtr.h"
-#include "stats/ui/finalCheckScrn.h"
 #include "stats/ui/battingCtr.h"
+#include "stats/ui/finalCheckScrn.h"
 #include "stats/ui/pitchingCtr.h"
 #include "support/NumberKeyRule.h"
 #include "support/ui/NumberKeyFilter.h"
@@ -150,7 +150,8 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     dataAnalLB->hide();
     scroll->setFocusPolicy(Qt::NoFocus);
     gridRow->addWidget(scroll, 1);
-    batterStatLB = form::named(new qlmListBox(m_gridArea), QStringLiteral("batterStatLB"), tr("Runs batted in and stolen bases"));
+    batterStatLB = form::named(new qlmListBox(m_gridArea), QStringLiteral("batterStatLB"),
+                               tr("Runs batted in and stolen bases"));
     batterStatLB->setColumnCount(2);
     batterStatLB->setHeadings({QStringLiteral("RBI"), QStringLiteral("SB")});
     batterStatLB->setColumnWidths(QStringLiteral("36,36"));
@@ -159,8 +160,8 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     batterStatLB->setFixedWidth(84);
     gridRow->addWidget(batterStatLB);
     // Lineup, grid and batter statistics stand row for row.
-    const QString rows16 = QStringLiteral("QTreeView::item { height: %1px; padding: 0px; }")
-                               .arg(gameday::ScoreGridRenderer::kRowHeight);
+    const QString rows16 =
+        QStringLiteral("QTreeView::item { height: %1px; padding: 0px; }").arg(gameday::ScoreGridRenderer::kRowHeight);
     Names_PosLB->setStyleSheet(rows16);
     batterStatLB->setStyleSheet(rows16);
     middle->addWidget(m_gridArea, 1);
@@ -235,9 +236,8 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     connect(moveUpBtn, &QToolButton::clicked, this, [move] { move(-1); });
     connect(Names_PosLB, &BBPlayersLB::orderKey, this, [move](int delta) { move(delta); });
     connect(moveDownBtn, &QToolButton::clicked, this, [move] { move(+1); });
-    connect(PlusMinusPlayers, &PlusMinusContainer::PlusPressed, this, [this] {
-        m_game->addBenchPlayers(AddPlayersToGameScrn::getNewPlayers(m_game->teamPlayers(), this));
-    });
+    connect(PlusMinusPlayers, &PlusMinusContainer::PlusPressed, this,
+            [this] { m_game->addBenchPlayers(AddPlayersToGameScrn::getNewPlayers(m_game->teamPlayers(), this)); });
     connect(PlusMinusPlayers, &PlusMinusContainer::MinusPressed, this,
             [this] { m_game->removeBenchPlayer(rosterList->selectedRow()); });
     connect(rosterList, &qlmListBox::rowSelectionChanged, this, [this] {
@@ -281,7 +281,8 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     });
     connect(UDBatStatsBtn, &QPushButton::toggled, this, [this](bool on) { toggleStats(UDBatStatsBtn, myBatCtr, on); });
     connect(fldStatsBtn, &QPushButton::toggled, this, [this](bool on) { toggleStats(fldStatsBtn, myFldCtr, on); });
-    connect(pitchStatsBtn, &QPushButton::toggled, this, [this](bool on) { toggleStats(pitchStatsBtn, myPitchCtr, on); });
+    connect(pitchStatsBtn, &QPushButton::toggled, this,
+            [this](bool on) { toggleStats(pitchStatsBtn, myPitchCtr, on); });
     const std::array<std::pair<StatPanel *, QPushButton *>, 3> panels = {
         {{myBatCtr, UDBatStatsBtn}, {myFldCtr, fldStatsBtn}, {myPitchCtr, pitchStatsBtn}}};
     for (const auto &[panel, toggle] : panels) {
@@ -373,11 +374,13 @@ void gameDayScrn::buildScoreboard(QWidget *central, QGridLayout *board)
         hitsFld[size_t(t)] = boardBox(central, QStringLiteral("hitsFld_%1").arg(t), tr("Team %1 hits").arg(team));
         errsFld[size_t(t)] = boardBox(central, QStringLiteral("errsFld_%1").arg(t), tr("Team %1 errors").arg(team));
         LOBFld[size_t(t)] = boardBox(central, QStringLiteral("LOBFld_%1").arg(t), tr("Team %1 left on base").arg(team));
-        const std::array<QLineEdit *, 4> boxes = {runsFld[size_t(t)], hitsFld[size_t(t)], errsFld[size_t(t)], LOBFld[size_t(t)]};
+        const std::array<QLineEdit *, 4> boxes = {runsFld[size_t(t)], hitsFld[size_t(t)], errsFld[size_t(t)],
+                                                  LOBFld[size_t(t)]};
         for (int i = 0; i < 4; ++i)
             board->addWidget(boxes[size_t(i)], t + 1, 12 + i);
-        const std::array<std::pair<QLineEdit *, int>, 3> typed = {
-            {{hitsFld[size_t(t)], GameDay::kHitsBox}, {errsFld[size_t(t)], GameDay::kErrsBox}, {LOBFld[size_t(t)], GameDay::kLobBox}}};
+        const std::array<std::pair<QLineEdit *, int>, 3> typed = {{{hitsFld[size_t(t)], GameDay::kHitsBox},
+                                                                   {errsFld[size_t(t)], GameDay::kErrsBox},
+                                                                   {LOBFld[size_t(t)], GameDay::kLobBox}}};
         for (const auto &[box, which] : typed) {
             QLineEdit *b = box;
             const int w = which;
@@ -622,7 +625,8 @@ void gameDayScrn::printLineup()
             job->newPage();
         // The date stands 100 points to the right: a longer name is cut to fit.
         p.drawText(QPointF(40, 40), TruncateStr(QFontMetricsF(font), team, 96));
-        p.drawText(QPointF(140, 40), QStringLiteral("Printed: ") + EventDates::shortDate(platform::clock().now().date()));
+        p.drawText(QPointF(140, 40),
+                   QStringLiteral("Printed: ") + EventDates::shortDate(platform::clock().now().date()));
         const QRectF source(m_gridArea->geometry());
         const double scale = page.width() / source.width();
         p.drawPixmap(QRectF(0, 60, page.width(), qMin(page.height() - 60, source.height() * scale)), picture, source);

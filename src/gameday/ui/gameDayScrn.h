@@ -55,12 +55,12 @@ public:
     QToolButton *moveUpBtn = nullptr;
     QToolButton *moveDownBtn = nullptr;
     PlusMinusContainer *PlusMinusPlayers = nullptr;
-    std::array<QRadioButton *, 2> TeamBtn {};
-    std::array<std::array<QLineEdit *, 10>, 2> inningFlds {}; // teamAInnings, teamBInnings
-    std::array<QLineEdit *, 2> runsFld {};
-    std::array<QLineEdit *, 2> hitsFld {};
-    std::array<QLineEdit *, 2> errsFld {};
-    std::array<QLineEdit *, 2> LOBFld {};
+    std::array<QRadioButton *, 2> TeamBtn{};
+    std::array<std::array<QLineEdit *, 10>, 2> inningFlds{}; // teamAInnings, teamBInnings
+    std::array<QLineEdit *, 2> runsFld{};
+    std::array<QLineEdit *, 2> hitsFld{};
+    std::array<QLineEdit *, 2> errsFld{};
+    std::array<QLineEdit *, 2> LOBFld{};
     QPushButton *EnterRHE_Btn = nullptr;
     QComboBox *gameTypePop = nullptr;
     QLabel *dateFld = nullptr;

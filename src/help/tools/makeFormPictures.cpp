@@ -66,10 +66,7 @@ public:
         p.setBrush(Qt::NoBrush);
         p.drawRect(r);
     }
-    void shade(const QRectF &r)
-    {
-        p.fillRect(r, kShade);
-    }
+    void shade(const QRectF &r) { p.fillRect(r, kShade); }
     // A caption and a line to write on: "Team ________".
     void field(double x, double y, double w, const QString &caption)
     {
@@ -106,7 +103,8 @@ public:
 void title(Sheet &s, double pageWidth, const QString &name)
 {
     s.text(QRectF(36, 30, pageWidth - 72, 26), name, Qt::AlignLeft | Qt::AlignVCenter, 18, true);
-    s.text(QRectF(36, 30, pageWidth - 72, 26), QStringLiteral("Tallyline Baseball"), Qt::AlignRight | Qt::AlignVCenter, 8);
+    s.text(QRectF(36, 30, pageWidth - 72, 26), QStringLiteral("Tallyline Baseball"), Qt::AlignRight | Qt::AlignVCenter,
+           8);
     s.line(36, 58, pageWidth - 36, 58, 1.5, kInk);
 }
 
@@ -122,7 +120,8 @@ bool lineupCard(const QString &path)
         s.field(x0, 78, w, QStringLiteral("Team"));
         s.field(x0, 102, w * 0.58, QStringLiteral("vs."));
         s.field(x0 + w * 0.62, 102, w * 0.38, QStringLiteral("Date"));
-        s.text(QRectF(x0, 108, w, 14), QStringLiteral("Home  \u25a1      Visitor  \u25a1"), Qt::AlignLeft | Qt::AlignVCenter, 9);
+        s.text(QRectF(x0, 108, w, 14), QStringLiteral("Home  \u25a1      Visitor  \u25a1"),
+               Qt::AlignLeft | Qt::AlignVCenter, 9);
 
         // Batting order: each slot has a starter's line and a shaded line
         // beneath it for the substitute.
@@ -212,9 +211,10 @@ bool pitchingChart(const QString &path)
     // The pitcher's line, as the pitching panel asks for it.
     y += 22;
     s.text(QRectF(36, y - 16, 200, 14), QStringLiteral("PITCHER'S LINE"), Qt::AlignLeft | Qt::AlignVCenter, 9, true);
-    const QStringList heads = {QStringLiteral("IP"), QStringLiteral("BF"), QStringLiteral("H"), QStringLiteral("R"),
-                               QStringLiteral("ER"), QStringLiteral("HRA"), QStringLiteral("BB"), QStringLiteral("IBB"),
-                               QStringLiteral("Ks"), QStringLiteral("HB"), QStringLiteral("WP"), QStringLiteral("Blk"),
+    const QStringList heads = {QStringLiteral("IP"),    QStringLiteral("BF"),      QStringLiteral("H"),
+                               QStringLiteral("R"),     QStringLiteral("ER"),      QStringLiteral("HRA"),
+                               QStringLiteral("BB"),    QStringLiteral("IBB"),     QStringLiteral("Ks"),
+                               QStringLiteral("HB"),    QStringLiteral("WP"),      QStringLiteral("Blk"),
                                QStringLiteral("Balls"), QStringLiteral("Strikes"), QStringLiteral("Pitches")};
     const double cw = (W - 72) / heads.size();
     s.shade(QRectF(36, y, W - 72, 16));
@@ -227,7 +227,8 @@ bool pitchingChart(const QString &path)
     s.box(QRectF(36, y, W - 72, 40));
     y += 58;
     s.text(QRectF(36, y, W - 72, 14),
-           QStringLiteral("Decision:   W  \u25a1    L  \u25a1    S  \u25a1    ND  \u25a1          Start  \u25a1    Shut Out  \u25a1    Complete Game  \u25a1"),
+           QStringLiteral("Decision:   W  \u25a1    L  \u25a1    S  \u25a1    ND  \u25a1          Start  \u25a1    "
+                          "Shut Out  \u25a1    Complete Game  \u25a1"),
            Qt::AlignLeft | Qt::AlignVCenter, 9);
     return s.save(path);
 }
@@ -271,7 +272,8 @@ bool scoresheet(const QString &path)
     }
     const double gridBottom = y;
     // Line score under the at bats.
-    const QStringList sums = {QStringLiteral("Runs"), QStringLiteral("Hits"), QStringLiteral("Errors"), QStringLiteral("Left on base")};
+    const QStringList sums = {QStringLiteral("Runs"), QStringLiteral("Hits"), QStringLiteral("Errors"),
+                              QStringLiteral("Left on base")};
     for (const QString &sum : sums) {
         s.shade(QRectF(cNo, y, cInn - cNo, 15));
         s.text(QRectF(cName, y, cInn - cName, 15), sum, Qt::AlignLeft | Qt::AlignVCenter, 8, true);
@@ -289,15 +291,17 @@ bool scoresheet(const QString &path)
     s.box(QRectF(cNo, top, cTot - cNo, y - top));
     s.box(QRectF(cTot, top, right - cTot, gridBottom - top));
     // The final score beside the line score.
-    s.text(QRectF(cTot + 8, gridBottom + 4, right - cTot - 8, 14), QStringLiteral("FINAL"), Qt::AlignLeft | Qt::AlignVCenter, 9, true);
+    s.text(QRectF(cTot + 8, gridBottom + 4, right - cTot - 8, 14), QStringLiteral("FINAL"),
+           Qt::AlignLeft | Qt::AlignVCenter, 9, true);
     s.field(cTot + 8, gridBottom + 36, (right - cTot - 8) / 2 - 4, QStringLiteral("Us"));
     s.field(cTot + 8 + (right - cTot - 8) / 2 + 4, gridBottom + 36, (right - cTot - 8) / 2 - 4, QStringLiteral("Them"));
 
     // Pitchers.
     y += 10;
-    const QStringList ph = {QStringLiteral("Pitcher"), QStringLiteral("IP"), QStringLiteral("BF"), QStringLiteral("H"),
-                            QStringLiteral("R"), QStringLiteral("ER"), QStringLiteral("BB"), QStringLiteral("Ks"),
-                            QStringLiteral("HB"), QStringLiteral("WP"), QStringLiteral("Pitches"), QStringLiteral("W/L/S")};
+    const QStringList ph = {QStringLiteral("Pitcher"), QStringLiteral("IP"),      QStringLiteral("BF"),
+                            QStringLiteral("H"),       QStringLiteral("R"),       QStringLiteral("ER"),
+                            QStringLiteral("BB"),      QStringLiteral("Ks"),      QStringLiteral("HB"),
+                            QStringLiteral("WP"),      QStringLiteral("Pitches"), QStringLiteral("W/L/S")};
     const double nameW = 170, pw = (W - 72 - nameW) / (ph.size() - 1);
     s.shade(QRectF(36, y, W - 72, 15));
     for (int i = 0; i < ph.size(); ++i) {
@@ -315,7 +319,8 @@ bool scoresheet(const QString &path)
     }
     s.box(QRectF(36, y, W - 72, py - y));
     s.text(QRectF(36, py + 3, W - 72, 12),
-           QStringLiteral("Codes: B1 B2 B3 HR  BB IBB HBP  SAC FO GO KS KL HDP  ROE FC CI  \u2014  runner out: CS POB FrO"),
+           QStringLiteral(
+               "Codes: B1 B2 B3 HR  BB IBB HBP  SAC FO GO KS KL HDP  ROE FC CI  \u2014  runner out: CS POB FrO"),
            Qt::AlignLeft | Qt::AlignVCenter, 7);
     return s.save(path);
 }
@@ -332,8 +337,8 @@ int main(int argc, char *argv[])
     const QDir dir(QString::fromLocal8Bit(argv[1]));
     if (!dir.exists() && !QDir().mkpath(dir.path()))
         return 1;
-    const bool ok = lineupCard(dir.filePath(QStringLiteral("Line-up Card.png")))
-        && pitchingChart(dir.filePath(QStringLiteral("Pitching Chart.png")))
-        && scoresheet(dir.filePath(QStringLiteral("Scoresheet.png")));
+    const bool ok = lineupCard(dir.filePath(QStringLiteral("Line-up Card.png"))) &&
+                    pitchingChart(dir.filePath(QStringLiteral("Pitching Chart.png"))) &&
+                    scoresheet(dir.filePath(QStringLiteral("Scoresheet.png")));
     return ok ? 0 : 1;
 }

@@ -86,10 +86,10 @@ void seedSchedule()
         std::uint8_t home;
     };
     const E events[] = {
-        {14, "---", "4:00 PM", "Practice", -1, 0},  {17, "2:45 PM", "4:30 PM", "Game", 1, 2},
-        {19, "---", "4:30 PM", "Game", 2, 1},       {21, "---", "10:00 AM", "Practice", -1, 0},
-        {23, "---", "7:00 PM", "Meeting", -1, 0},   {24, "3:00 PM", "4:30 PM", "Scrimmage", 3, 2},
-        {26, "---", "4:30 PM", "Game", 4, 1},       {28, "1:15 PM", "3:00 PM", "Game", 3, 2},
+        {14, "---", "4:00 PM", "Practice", -1, 0}, {17, "2:45 PM", "4:30 PM", "Game", 1, 2},
+        {19, "---", "4:30 PM", "Game", 2, 1},      {21, "---", "10:00 AM", "Practice", -1, 0},
+        {23, "---", "7:00 PM", "Meeting", -1, 0},  {24, "3:00 PM", "4:30 PM", "Scrimmage", 3, 2},
+        {26, "---", "4:30 PM", "Game", 4, 1},      {28, "1:15 PM", "3:00 PM", "Game", 3, 2},
     };
     const QString homeField = opponent(0).HomeField;
     const int year = gPrefs->prSeason.toInt() > 2000 ? gPrefs->prSeason.toInt() : 2026;

@@ -70,9 +70,8 @@ void HTMLField::DoStyles()
     });
     apply(m_page.fonts, [](QTextCharFormat &f, const QStringList &v) { f.setFontFamilies({v.value(0)}); });
     apply(m_page.sizes, [](QTextCharFormat &f, const QStringList &v) { f.setFontPointSize(v.value(0).toInt()); });
-    apply(m_page.colors, [](QTextCharFormat &f, const QStringList &v) {
-        f.setForeground(help::HtmlText::ColorFromHex(v.value(0)));
-    });
+    apply(m_page.colors,
+          [](QTextCharFormat &f, const QStringList &v) { f.setForeground(help::HtmlText::ColorFromHex(v.value(0))); });
     const QColor linkColour = m_page.linkColor;
     apply(m_page.links, [linkColour](QTextCharFormat &f, const QStringList &) {
         f.setForeground(linkColour);

@@ -79,7 +79,8 @@ formsScrn::formsScrn(QWidget *parent) : ScreenBase(ScreenId::formsScrn, QStringL
 
     auto *canvas = new FormCanvas(whichP, central);
     displayCnv = form::named(canvas, QStringLiteral("displayCnv"), QStringLiteral("The chosen form"));
-    auto *scroller = form::named(new QScrollArea(central), QStringLiteral("formScroller"), QStringLiteral("Form picture"));
+    auto *scroller = form::named(new QScrollArea(central), QStringLiteral("formScroller"),
+                                 QStringLiteral("Form picture"));
     scroller->setWidget(displayCnv);
     scroller->setAlignment(Qt::AlignCenter);
     outer->addWidget(scroller, 1);

@@ -92,8 +92,9 @@ helpScrn2::helpScrn2(int topic, QWidget *parent)
     });
     // The file's name alone: a link to a place in a page ("A_07.html#codes")
     // still leaves that page's file to print.
-    connect(myHTML, &QTextBrowser::sourceChanged, this,
-            [this](const QUrl &url) { curDocName = url.adjusted(QUrl::RemoveFragment | QUrl::RemoveQuery).fileName(); });
+    connect(myHTML, &QTextBrowser::sourceChanged, this, [this](const QUrl &url) {
+        curDocName = url.adjusted(QUrl::RemoveFragment | QUrl::RemoveQuery).fileName();
+    });
     connect(hideBtn, &QPushButton::clicked, this, &helpScrn2::setVisibles);
     connect(closeBtn, &QPushButton::clicked, this, &QWidget::close);
     menus()->installHandler(QStringLiteral("FilePrint"), [this] {

@@ -29,8 +29,8 @@ constexpr int kHelpTopic = 10;
 }
 
 InventoryScrn::InventoryScrn(QWidget *parent)
-    : ScreenBase(ScreenId::InventoryScrn, QStringLiteral("Equipment Inventory"), { .backupTimer = true }, parent)
-    , m_book(*gData)
+    : ScreenBase(ScreenId::InventoryScrn, QStringLiteral("Equipment Inventory"), {.backupTimer = true}, parent),
+      m_book(*gData)
 {
     buildControls();
     installMenus();
@@ -81,10 +81,10 @@ void InventoryScrn::buildControls()
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setAlignment(Qt::AlignCenter);
     left->addWidget(Label1);
-    const char *fieldNames[] = { "Quantity", "Item", "ID" };
+    const char *fieldNames[] = {"Quantity", "Item", "ID"};
     for (int i = 0; i < 3; ++i) {
         inputFld[i] = form::named(new QLineEdit(central), QStringLiteral("inputFld%1").arg(i),
-            QStringLiteral("New item's ") + QString::fromLatin1(fieldNames[i]).toLower());
+                                  QStringLiteral("New item's ") + QString::fromLatin1(fieldNames[i]).toLower());
         inputFld[i]->installEventFilter(this);
     }
     inputFld[0]->setPlaceholderText(QStringLiteral("Qty"));
@@ -92,7 +92,7 @@ void InventoryScrn::buildControls()
     inputFld[1]->setPlaceholderText(QStringLiteral("Item"));
     inputFld[0]->setToolTip(QStringLiteral("Enter adds the item, or saves the selected one; + and - change the count"));
     // The count may go below 0 as the coach counts down.
-    support::NumberKeyFilter::install(inputFld[0], { .floorAtZero = false });
+    support::NumberKeyFilter::install(inputFld[0], {.floorAtZero = false});
     auto *fields = new QHBoxLayout;
     fields->addWidget(inputFld[0]);
     fields->addWidget(inputFld[1], 1);
@@ -104,9 +104,9 @@ void InventoryScrn::buildControls()
 
     auto *poolButtons = new QHBoxLayout;
     TeamInvPlusMinus = form::named(new PlusMinusContainer(central), QStringLiteral("TeamInvPlusMinus"),
-        QStringLiteral("Add or delete a team item"));
-    TeamInvPlusMinus->setHalfNames(
-        QStringLiteral("Add the item, or save the selected one"), QStringLiteral("Delete the selected item"));
+                                   QStringLiteral("Add or delete a team item"));
+    TeamInvPlusMinus->setHalfNames(QStringLiteral("Add the item, or save the selected one"),
+                                   QStringLiteral("Delete the selected item"));
     printTeamInvBtn = form::button(central, QStringLiteral("printTeamInvBtn"), QStringLiteral("&Print Team Inventory"));
     poolButtons->addWidget(TeamInvPlusMinus);
     poolButtons->addStretch(1);
@@ -118,11 +118,11 @@ void InventoryScrn::buildControls()
     auto *middle = new QVBoxLayout;
     middle->addStretch(1);
     addBtn = form::button(central, QStringLiteral("addBtn"), QStringLiteral("&Assign >"),
-        QStringLiteral("Assign the selected item to the player"));
+                          QStringLiteral("Assign the selected item to the player"));
     RemoveBtn = form::button(central, QStringLiteral("RemoveBtn"), QStringLiteral("< &Return"),
-        QStringLiteral("Return the selected unit to the team inventory"));
+                             QStringLiteral("Return the selected unit to the team inventory"));
     deleteItemBtn = form::button(central, QStringLiteral("deleteItemBtn"), QStringLiteral("D&rop Unit"),
-        QStringLiteral("Drop the selected unit without returning it"));
+                                 QStringLiteral("Drop the selected unit without returning it"));
     middle->addWidget(addBtn);
     middle->addWidget(RemoveBtn);
     middle->addWidget(deleteItemBtn);
@@ -142,8 +142,8 @@ void InventoryScrn::buildControls()
     IndivList->setHeadings(people::InventoryBook::heldHeadings());
     IndivList->setColumnWidths(QStringLiteral("*,90"));
     right->addWidget(IndivList, 1);
-    printPlayerInvBtn
-        = form::button(central, QStringLiteral("printPlayerInvBtn"), QStringLiteral("Print Pla&yer Inventory"));
+    printPlayerInvBtn = form::button(central, QStringLiteral("printPlayerInvBtn"),
+                                     QStringLiteral("Print Pla&yer Inventory"));
     right->addWidget(printPlayerInvBtn, 0, Qt::AlignRight);
     columns->addLayout(right, 2);
 
@@ -234,7 +234,7 @@ void InventoryScrn::loadTeamList()
     prohibitChange = true;
     teamInvList->deleteAllRows();
     for (const people::PoolItem &p : m_book.pool())
-        teamInvList->addRow({ QString::number(p.quantity), p.item, p.ItemID }, QString::number(p.serial));
+        teamInvList->addRow({QString::number(p.quantity), p.item, p.ItemID}, QString::number(p.serial));
     prohibitChange = false;
     teamInvList_Change();
 }
@@ -243,7 +243,7 @@ void InventoryScrn::fillPlayerList()
 {
     IndivList->deleteAllRows();
     for (const people::HeldItem &h : m_book.held())
-        IndivList->addRow({ h.Item, h.ItemID }, QString::number(h.ctrlNum));
+        IndivList->addRow({h.Item, h.ItemID}, QString::number(h.ctrlNum));
     IndivList_Change();
 }
 
@@ -334,10 +334,10 @@ void InventoryScrn::importInvItems()
 {
     platform::FileRequest request;
     request.title = QStringLiteral("Select a text file to import");
-    request.prompt
-        = QStringLiteral("Select a text file (TSV) containing quantities and items. See HELP for formatting info.");
+    request.prompt = QStringLiteral(
+        "Select a text file (TSV) containing quantities and items. See HELP for formatting info.");
     request.initialDir = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    request.nameFilters = { FileTypes::pText.nameFilter(), QStringLiteral("Tab-separated text (*.tsv)") };
+    request.nameFilters = {FileTypes::pText.nameFilter(), QStringLiteral("Tab-separated text (*.tsv)")};
     const QString path = platform::files().openFile(request);
     if (path.isEmpty())
         return;

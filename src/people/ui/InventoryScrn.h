@@ -42,7 +42,7 @@ public:
     qlmListBox *IndivList = nullptr;
     QLabel *Label1 = nullptr;
     QLabel *IDLabel = nullptr;
-    std::array<QLineEdit *, 3> inputFld {};
+    std::array<QLineEdit *, 3> inputFld{};
     PlusMinusContainer *TeamInvPlusMinus = nullptr;
     QPushButton *addBtn = nullptr;
     QPushButton *RemoveBtn = nullptr;

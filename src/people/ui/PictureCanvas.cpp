@@ -37,9 +37,8 @@ void PictureCanvas::paintEvent(QPaintEvent *)
         return;
     const QRect inner = rect().adjusted(2, 2, -2, -2);
     const QSize scaled = shown.size().scaled(inner.size(), Qt::KeepAspectRatio);
-    const QRect target(inner.topLeft() + QPoint((inner.width() - scaled.width()) / 2,
-                                                (inner.height() - scaled.height()) / 2),
-                       scaled);
+    const QRect target(
+        inner.topLeft() + QPoint((inner.width() - scaled.width()) / 2, (inner.height() - scaled.height()) / 2), scaled);
     p.drawImage(target, shown);
 }
 

@@ -20,8 +20,8 @@ constexpr int kHelpTopic = 4;
 }
 
 contactInfoScrn::contactInfoScrn(QWidget *parent)
-    : ScreenBase(ScreenId::contactInfoScrn, QStringLiteral("Contact Info"), { .returnToStart = false }, parent)
-    , m_book(*gData)
+    : ScreenBase(ScreenId::contactInfoScrn, QStringLiteral("Contact Info"), {.returnToStart = false}, parent),
+      m_book(*gData)
 {
     auto *central = new QWidget(this);
     auto *outer = new QVBoxLayout(central);
@@ -49,8 +49,8 @@ contactInfoScrn::contactInfoScrn(QWidget *parent)
     auto *buttons = new QHBoxLayout;
     helpBtn = form::named(new myInfoBtn(kHelpTopic, central), QStringLiteral("helpBtn"), QStringLiteral("Help"));
     emailBtn = form::button(central, QStringLiteral("emailBtn"), QStringLiteral("&Email Selected"));
-    printBtn = form::button(
-        central, QStringLiteral("printBtn"), QStringLiteral("P&rint"), QStringLiteral("Print the players' contacts"));
+    printBtn = form::button(central, QStringLiteral("printBtn"), QStringLiteral("P&rint"),
+                            QStringLiteral("Print the players' contacts"));
     closeBtn = form::button(central, QStringLiteral("closeBtn"), QStringLiteral("&Close"));
     buttons->addWidget(helpBtn);
     buttons->addStretch(1);
@@ -111,7 +111,7 @@ void contactInfoScrn::listChanged(qlmListBox *changed, qlmListBox *other)
 void contactInfoScrn::hndlEmail()
 {
     QStringList addresses;
-    for (qlmListBox *list : { playersList, coachesList }) {
+    for (qlmListBox *list : {playersList, coachesList}) {
         for (int row : list->selectedRows())
             addresses.append(list->cell(row, people::ContactBook::kEmailColumn));
     }

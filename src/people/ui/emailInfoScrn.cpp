@@ -14,8 +14,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-emailInfoScrn::emailInfoScrn(QWidget *parent)
-    : QDialog(parent)
+emailInfoScrn::emailInfoScrn(QWidget *parent) : QDialog(parent)
 {
     setObjectName(screenName(ScreenId::emailInfoScrn));
     setWindowTitle(QStringLiteral("Email Settings"));
@@ -32,7 +31,7 @@ emailInfoScrn::emailInfoScrn(QWidget *parent)
     portFld->setMaximumWidth(80);
     support::NumberKeyFilter::install(portFld);
     authReqBox = form::named(new qlmCheckBox(QStringLiteral("Password Authentication Required"), this),
-        QStringLiteral("authReqBox"), QStringLiteral("Password Authentication Required"));
+                             QStringLiteral("authReqBox"), QStringLiteral("Password Authentication Required"));
     layout->addRow(QString(), authReqBox);
     outer->addLayout(layout);
 
@@ -81,8 +80,8 @@ QString emailInfoScrn::getMyInfo(QWidget *parent)
 
 people::MailSettings emailInfoScrn::entries() const
 {
-    return { serverFld->text(), usernameFld->text(), passwordFld->text(), portFld->text(), authReqBox->isChecked(),
-        false };
+    return {serverFld->text(), usernameFld->text(),     passwordFld->text(),
+            portFld->text(),   authReqBox->isChecked(), false};
 }
 
 bool emailInfoScrn::validateEntries()

@@ -17,7 +17,7 @@ namespace {
 qlmListBox *recipientList(QWidget *parent, const QString &name, const QString &spoken)
 {
     auto *list = form::named(new qlmListBox(parent), name, spoken);
-    list->setHeadings({ QString(), QStringLiteral("Name"), QStringLiteral("Email") });
+    list->setHeadings({QString(), QStringLiteral("Name"), QStringLiteral("Email")});
     list->setColumnType(0, ListBoxModel::CellType::CheckBox);
     list->setColumnWidths(QStringLiteral("28,*,*"));
     return list;
@@ -25,9 +25,7 @@ qlmListBox *recipientList(QWidget *parent, const QString &name, const QString &s
 
 } // namespace
 
-emailRecipientsDlog::emailRecipientsDlog(QWidget *parent)
-    : QDialog(parent)
-    , m_book(*gData)
+emailRecipientsDlog::emailRecipientsDlog(QWidget *parent) : QDialog(parent), m_book(*gData)
 {
     setObjectName(QStringLiteral("emailRecipientsDlog"));
     setWindowTitle(QStringLiteral("Select Recipients"));
@@ -44,10 +42,10 @@ emailRecipientsDlog::emailRecipientsDlog(QWidget *parent)
 
     coachesList = recipientList(this, QStringLiteral("coachesList"), QStringLiteral("Coaches"));
     coachSelAllCheck = form::named(new qlmCheckBox(QStringLiteral("All Coaches"), this),
-        QStringLiteral("coachSelAllCheck"), QStringLiteral("Check all coaches"));
+                                   QStringLiteral("coachSelAllCheck"), QStringLiteral("Check all coaches"));
     playersList = recipientList(this, QStringLiteral("playersList"), QStringLiteral("Players"));
     playerSelAllCheck = form::named(new qlmCheckBox(QStringLiteral("All Players"), this),
-        QStringLiteral("playerSelAllCheck"), QStringLiteral("Check all players"));
+                                    QStringLiteral("playerSelAllCheck"), QStringLiteral("Check all players"));
     outer->addWidget(form::buddyLabel(coachesList, QStringLiteral("&Coaches:"), this));
     outer->addWidget(coachesList, 1);
     outer->addWidget(coachSelAllCheck);
@@ -99,15 +97,15 @@ void emailRecipientsDlog::fillLists()
     const QString team = teamIDFld->text();
     m_coaches = m_book.coachRecipients(team);
     m_players = m_book.playerRecipients(team);
-    for (auto [list, rows] : { std::pair { coachesList, &m_coaches }, std::pair { playersList, &m_players } }) {
+    for (auto [list, rows] : {std::pair{coachesList, &m_coaches}, std::pair{playersList, &m_players}}) {
         list->deleteAllRows();
         for (const people::ContactBook::Recipient &r : *rows)
-            list->addRow({ QString(), r.name, r.Email }, r.id);
+            list->addRow({QString(), r.name, r.Email}, r.id);
     }
 }
 
-QList<people::ContactBook::Recipient> emailRecipientsDlog::checked(
-    const qlmListBox *list, const QList<people::ContactBook::Recipient> &rows)
+QList<people::ContactBook::Recipient> emailRecipientsDlog::checked(const qlmListBox *list,
+                                                                   const QList<people::ContactBook::Recipient> &rows)
 {
     QList<people::ContactBook::Recipient> out = rows;
     for (int r = 0; r < out.size() && r < list->rowCount(); ++r)
@@ -117,7 +115,7 @@ QList<people::ContactBook::Recipient> emailRecipientsDlog::checked(
 
 void emailRecipientsDlog::setBtn_Action()
 {
-    m_recipientStr
-        = people::ContactBook::recipientStr(checked(coachesList, m_coaches), checked(playersList, m_players));
+    m_recipientStr = people::ContactBook::recipientStr(checked(coachesList, m_coaches),
+                                                       checked(playersList, m_players));
     accept();
 }

@@ -38,8 +38,8 @@ public:
 
 private:
     void setBtn_Action();
-    static QList<people::ContactBook::Recipient> checked(
-        const qlmListBox *list, const QList<people::ContactBook::Recipient> &rows);
+    static QList<people::ContactBook::Recipient> checked(const qlmListBox *list,
+                                                         const QList<people::ContactBook::Recipient> &rows);
 
     people::ContactBook m_book;
     QList<people::ContactBook::Recipient> m_coaches;

@@ -57,7 +57,8 @@ personnelScrn::personnelScrn(QWidget *parent)
       m_book(std::make_unique<people::RosterBook>(*gData))
 {
     buildControls();
-    installPeopleMenus(menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
+    installPeopleMenus(
+        menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
 
     fillTeamPopups();
     setPlayerMode(true);
@@ -90,10 +91,10 @@ void personnelScrn::buildControls()
                                    u"*,*,48"_s);
     coachesList = qlmListBox::make(central, u"coachesList"_s, u"Coaches"_s, {u"First"_s, u"Last"_s}, u"*,*"_s);
     coachesList->setMaximumHeight(150);
-    PlusMinusPlayers = form::make<PlusMinusContainer>(central, u"PlusMinusPlayers"_s, u"Players"_s,
-                                                      u"Add player"_s, u"Delete player"_s);
-    PlusMinusCoaches = form::make<PlusMinusContainer>(central, u"PlusMinusCoaches"_s, u"Coaches"_s,
-                                                      u"Add coach"_s, u"Delete coach"_s);
+    PlusMinusPlayers = form::make<PlusMinusContainer>(central, u"PlusMinusPlayers"_s, u"Players"_s, u"Add player"_s,
+                                                      u"Delete player"_s);
+    PlusMinusCoaches = form::make<PlusMinusContainer>(central, u"PlusMinusCoaches"_s, u"Coaches"_s, u"Add coach"_s,
+                                                      u"Delete coach"_s);
     printBtn = form::printButton(central, {u"Player List"_s, u"Single Player Data"_s, u"All Players' Data"_s},
                                  [this](int kind) { hndlPrint(kind); });
     auto *left = new QVBoxLayout;
@@ -117,8 +118,8 @@ void personnelScrn::buildControls()
     StatePop->addItems(gStateList);
     zipFld = grid.add(3, 4, u"&Zip:"_s, form::lineEdit(central, u"zipFld"_s, u"Zip"_s));
     newPhoneFld[0] = grid.add(4, 0, u"P&hone:"_s, form::make<iPhoneField>(central, u"newPhoneFld_0"_s, u"Phone"_s));
-    newPhoneFld[1] =
-        grid.add(4, 2, u"Ce&ll:"_s, form::make<iPhoneField>(central, u"newPhoneFld_1"_s, u"Cell phone"_s), 3);
+    newPhoneFld[1] = grid.add(4, 2, u"Ce&ll:"_s, form::make<iPhoneField>(central, u"newPhoneFld_1"_s, u"Cell phone"_s),
+                              3);
     emailFld = grid.add(5, 0, u"&E-mail:"_s, form::lineEdit(central, u"emailFld"_s, u"E-mail"_s), 5);
     activeCheck = form::make<qlmCheckBox>(central, u"activeCheck"_s, u"Active"_s, u"Active"_s);
     asstCheck = form::make<qlmCheckBox>(central, u"asstCheck"_s, u"Assistant"_s, u"Assistant"_s);
@@ -173,10 +174,8 @@ void personnelScrn::buildControls()
         if (!m_state.disableChg)
             selectTeamPop_Change();
     });
-    connect(playersList, &qlmListBox::rowSelectionChanged, this,
-            [this] { listSelectionChanged(MemberKind::Player); });
-    connect(coachesList, &qlmListBox::rowSelectionChanged, this,
-            [this] { listSelectionChanged(MemberKind::Coach); });
+    connect(playersList, &qlmListBox::rowSelectionChanged, this, [this] { listSelectionChanged(MemberKind::Player); });
+    connect(coachesList, &qlmListBox::rowSelectionChanged, this, [this] { listSelectionChanged(MemberKind::Coach); });
     connect(PlusMinusPlayers, &PlusMinusContainer::PlusPressed, this, [this] {
         if (m_state.needsSaveQuestion())
             askSaveDirty();

@@ -72,10 +72,11 @@ playerInfoCtr::playerInfoCtr(QWidget *parent) : QWidget(parent)
         QLineEdit *&field;
         QString name, caption, spoken;
     } callers[] = {{guardianFld, u"guardianFld"_s, u"&Guardian:"_s, u"Guardian"_s},
-                  {emergFld, u"emergFld"_s, u"&Emergency:"_s, u"Emergency contact"_s},
-                  {doctorFld, u"doctorFld"_s, u"D&octor:"_s, u"Doctor"_s}};
+                   {emergFld, u"emergFld"_s, u"&Emergency:"_s, u"Emergency contact"_s},
+                   {doctorFld, u"doctorFld"_s, u"D&octor:"_s, u"Doctor"_s}};
     for (int i = 0; i < 3; ++i) {
-        callers[i].field = cgrid.add(i, 0, callers[i].caption, form::lineEdit(contacts, callers[i].name, callers[i].spoken));
+        callers[i].field = cgrid.add(i, 0, callers[i].caption,
+                                     form::lineEdit(contacts, callers[i].name, callers[i].spoken));
         contactPhone[i] = cgrid.add(i, 2, u"Phone &%1:"_s.arg(i + 1),
                                     form::make<iPhoneField>(contacts, u"contactPhone_%1"_s.arg(i),
                                                             callers[i].spoken + u"'s phone"_s));

@@ -54,7 +54,8 @@ teamScrn::teamScrn(QWidget *parent)
       m_book(std::make_unique<people::TeamBook>(*gData, *gPrefs))
 {
     buildControls();
-    installPeopleMenus(menus(), QStringLiteral("Print Team List"), [this] { hndlPrint(0); }, 2);
+    installPeopleMenus(
+        menus(), QStringLiteral("Print Team List"), [this] { hndlPrint(0); }, 2);
 
     // Opening: the list, the offered values and an empty form.
     loadTeamList();
@@ -143,9 +144,9 @@ void teamScrn::buildControls()
     resize(860, 560);
 
     // The keyboard goes through the form first, then to the list.
-    QWidget *order[] = {teamFld, schoolFld, LeagueFld, DivisionFld, address1Fld, address2Fld, cityFld, StatePop,
-                        zipFld, phoneFld, homeFldFld, activeCheck, homeTeamBox, PlusMinusTeamLogo, cancelBtn,
-                        actionBtn, teamList, teamListPlusMInus, printBtn};
+    QWidget *order[] = {teamFld,   schoolFld, LeagueFld, DivisionFld,       address1Fld, address2Fld, cityFld,
+                        StatePop,  zipFld,    phoneFld,  homeFldFld,        activeCheck, homeTeamBox, PlusMinusTeamLogo,
+                        cancelBtn, actionBtn, teamList,  teamListPlusMInus, printBtn};
     for (size_t i = 1; i < std::size(order); ++i)
         QWidget::setTabOrder(order[i - 1], order[i]);
 

@@ -2,8 +2,8 @@
 
 #include "people/TeamBook.h"
 
-#include <QImage>
 #include "app/ui/ScreenBase.h"
+#include <QImage>
 
 #include <memory>
 

@@ -48,9 +48,9 @@ SecretStore::ReadResult QtSecretStore::readSecret(const QString &key)
     const bool finished = runJob(*job);
     if (finished) {
         if (job->error() == QKeychain::NoError)
-            result = { Status::Found, job->textData() };
+            result = {Status::Found, job->textData()};
         else if (job->error() == QKeychain::EntryNotFound)
-            result = { Status::Missing, {} };
+            result = {Status::Missing, {}};
     }
     dispose(job, finished);
     return result;

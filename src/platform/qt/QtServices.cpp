@@ -68,10 +68,7 @@ public:
     QPainter &painter() override { return m_painter; }
     const PrinterSetup &setup() const override { return m_setup; }
     bool newPage() override { return m_printer->newPage(); }
-    int copies() const override
-    {
-        return m_printer->supportsMultipleCopies() ? 1 : m_printer->copyCount();
-    }
+    int copies() const override { return m_printer->supportsMultipleCopies() ? 1 : m_printer->copyCount(); }
     bool finish() override { return m_painter.end(); }
 
 private:

@@ -11,8 +11,8 @@ namespace platform::qt {
 class QtMessageService final : public MessageService
 {
 public:
-    std::uint8_t showMsgDlog(const QString &message, const QString &explanation,
-                             const QString &actionCaption, const QString &altCaption) override;
+    std::uint8_t showMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
+                             const QString &altCaption) override;
     void msgBox(const QString &text) override;
 };
 

@@ -24,10 +24,10 @@ constexpr int kInnings = 7;
 // An opponent's roster: nine players, one at each position.
 void addRoster(myDB &db, const QString &teamID, int seed, QColor jersey)
 {
-    static const char *firsts[] = {"Aiden", "Brody", "Carter", "Dominic", "Evan",  "Finn",   "Grant",
-                                   "Hudson", "Isaac", "Jonah", "Kai",    "Landon", "Miles", "Nolan"};
-    static const char *lasts[] = {"Abbott", "Becker", "Castillo", "Doyle",  "Ellison", "Foster", "Garza",
-                                  "Hale",   "Ibarra", "Jensen",   "Kline",  "Lund",    "Moreno", "Novak"};
+    static const char *firsts[] = {"Aiden",  "Brody", "Carter", "Dominic", "Evan",   "Finn",  "Grant",
+                                   "Hudson", "Isaac", "Jonah",  "Kai",     "Landon", "Miles", "Nolan"};
+    static const char *lasts[] = {"Abbott", "Becker", "Castillo", "Doyle", "Ellison", "Foster", "Garza",
+                                  "Hale",   "Ibarra", "Jensen",   "Kline", "Lund",    "Moreno", "Novak"};
     static const char *positions[] = {"CF", "SS", "B1", "C", "B3", "LF", "B2", "RF", "RHP"};
     static const QColor skins[] = {QColor(224, 172, 105), QColor(241, 194, 125), QColor(198, 134, 66),
                                    QColor(141, 85, 36)};
@@ -153,8 +153,8 @@ HalfGame playHalf(gameday::ScoreGrid &grid, const QStringList &script, int innin
 
 struct GamePlan
 {
-    int opponent;       // index among the opponents
-    bool home;          // the home team plays at home (bats last)
+    int opponent; // index among the opponents
+    bool home;    // the home team plays at home (bats last)
     QDate date;
     QString location;
     QStringList homeScript; // the home team's at bats
@@ -273,7 +273,9 @@ std::optional<PlayedGame> playGame(myDB &db, const QString &schedID, const QStri
         const bool won = halves[size_t(team)].runs > halves[size_t(1 - team)].runs;
         const bool lost = halves[size_t(team)].runs < halves[size_t(1 - team)].runs;
         savePanels(db, schedID, day.teamID(team), lineups[size_t(team)], halves[size_t(1 - team)],
-                   won ? 1 : lost ? 2 : 4);
+                   won    ? 1
+                   : lost ? 2
+                          : 4);
     }
     if (stats::GameRecorder(db).record(schedID, runsA, runsB) != stats::GameRecorder::Result::Recorded)
         return std::nullopt;
@@ -303,12 +305,12 @@ QList<PlayedGame> buildSeason(myDB &db, myPrefs &prefs, int games)
     for (int i = 0; i < opponents.size(); ++i)
         addRoster(db, opponents.at(i).text(QStringLiteral("teamID")), i + 1, jerseys[i % 4]);
 
-    const QStringList homeScript = QString::fromLatin1(
-        "B1 KS FO B2 GO BB KL B1 FO HR GO KS B1 B1 FO GO B3 KS BB FO GO B1 KL FO")
-                                       .split(u' ');
+    const QStringList homeScript =
+        QString::fromLatin1("B1 KS FO B2 GO BB KL B1 FO HR GO KS B1 B1 FO GO B3 KS BB FO GO B1 KL FO").split(u' ');
     const QList<GamePlan> plans = {
         {0, true, QDate(2026, 4, 7), QStringLiteral("Celtic Field"), homeScript,
-         QString::fromLatin1("GO KS B1 FO GO KL BB FO B2 GO KS FO B1 GO FO").split(u' '), QStringLiteral("Owen Schäfer")},
+         QString::fromLatin1("GO KS B1 FO GO KL BB FO B2 GO KS FO B1 GO FO").split(u' '),
+         QStringLiteral("Owen Schäfer")},
         {1, false, QDate(2026, 4, 9), QStringLiteral("Liberty Diamond"), homeScript.mid(3) + homeScript.mid(0, 3),
          QString::fromLatin1("B1 B2 FO KS HR GO BB B1 KL FO GO B1 B1 FO GO KS").split(u' '),
          QStringLiteral("Noah Kowalski")},

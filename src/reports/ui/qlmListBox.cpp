@@ -37,8 +37,8 @@ qlmListBox::qlmListBox(QWidget *parent) : QTreeView(parent), m_model(new ListBox
     setAllColumnsShowFocus(true);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
-                    | QAbstractItemView::EditKeyPressed);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+                    QAbstractItemView::EditKeyPressed);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
@@ -201,8 +201,8 @@ void qlmListBox::setEditorText(const QString &text)
 
 bool qlmListBox::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress && m_cellKeyHandler && m_editing.isValid()
-        && watched == indexWidget(m_editing)) {
+    if (event->type() == QEvent::KeyPress && m_cellKeyHandler && m_editing.isValid() &&
+        watched == indexWidget(m_editing)) {
         const QModelIndex at = m_editing;
         if (m_cellKeyHandler(at.row(), at.column(), static_cast<QKeyEvent *>(event)))
             return true;
@@ -240,8 +240,8 @@ void qlmListBox::keyPressEvent(QKeyEvent *event)
 {
     // Ctrl or Alt with an arrow moves the selected row: the drag's keyboard way.
     const Qt::KeyboardModifiers mods = event->modifiers() & ~Qt::KeypadModifier;
-    if (rowsMovable() && (mods == Qt::ControlModifier || mods == Qt::AltModifier)
-        && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+    if (rowsMovable() && (mods == Qt::ControlModifier || mods == Qt::AltModifier) &&
+        (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
         const int from = selectedRow();
         if (from >= 0) {
             const int to = event->key() == Qt::Key_Up ? from - 1 : from + 1;
@@ -327,24 +327,22 @@ void qlmListBox::printMe(const QString &title, bool small)
     if (!setup)
         return;
     const QStringList headers = headings();
-    printAllCopies(*setup, title, [&](platform::PrintJob &job) {
-        return printOneCopy(job, job.setup(), title, headers, small);
-    });
+    printAllCopies(*setup, title,
+                   [&](platform::PrintJob &job) { return printOneCopy(job, job.setup(), title, headers, small); });
 }
 
 bool qlmListBox::printOneCopy(platform::PrintJob &job, const platform::PrinterSetup &setup, const QString &title,
                               const QStringList &headers, bool small) const
 {
-    return ListBoxPrint::paint(
-        job, ListBoxPrint::equalColumns(setup, *m_model, title, ListBoxPrint::todayText(), headers, small));
+    return ListBoxPrint::paint(job, ListBoxPrint::equalColumns(setup, *m_model, title, ListBoxPrint::todayText(),
+                                                               headers, small));
 }
 
-bool qlmListBox::widePrintOneCopy(platform::PrintJob &job, const platform::PrinterSetup &setup,
-                                  const QString &title, const QStringList &headers,
-                                  const QStringList &widths) const
+bool qlmListBox::widePrintOneCopy(platform::PrintJob &job, const platform::PrinterSetup &setup, const QString &title,
+                                  const QStringList &headers, const QStringList &widths) const
 {
-    return ListBoxPrint::paint(
-        job, ListBoxPrint::givenColumns(setup, *m_model, title, ListBoxPrint::todayText(), headers, widths));
+    return ListBoxPrint::paint(job, ListBoxPrint::givenColumns(setup, *m_model, title, ListBoxPrint::todayText(),
+                                                               headers, widths));
 }
 
 std::optional<platform::PrinterSetup> qlmListBox::getPSetup()

@@ -73,8 +73,8 @@ public:
     // Selection -------------------------------------------------------------
     // Single selection unless a screen asks for several rows.
     void setMultipleSelection(bool multiple);
-    int selectedRow() const; // the first selected row, -1 for none
-    void setSelectedRow(int row); // -1 clears the selection
+    int selectedRow() const;         // the first selected row, -1 for none
+    void setSelectedRow(int row);    // -1 clears the selection
     QList<int> selectedRows() const; // in list order
     bool isRowSelected(int row) const;
     void setRowSelected(int row, bool selected);

@@ -1,9 +1,9 @@
 #include "reports/ui/reportIntroScrn.h"
 
+#include "app/ui/Form.h"
 #include "reports/SeasonReport.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportScrn.h"
-#include "app/ui/Form.h"
 #include "support/ui/qlmCheckBox.h"
 
 #include <QGridLayout>
@@ -37,8 +37,8 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
                                   QStringLiteral("checkAll") + QString::number(i),
                                   QStringLiteral("All ") + name.toLower() + QStringLiteral(" statistics"));
         viewBtn[i] = form::button(central, QStringLiteral("viewBtn") + QString::number(i),
-                                  QStringLiteral("View ") + name, QStringLiteral("View ") + name.toLower() +
-                                                                      QStringLiteral(" report"));
+                                  QStringLiteral("View ") + name,
+                                  QStringLiteral("View ") + name.toLower() + QStringLiteral(" report"));
         grid->addWidget(headerLbl[i], 0, i);
         grid->addWidget(statsLB[i], 1, i);
         grid->addWidget(checkAll[i], 2, i);

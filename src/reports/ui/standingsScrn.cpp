@@ -76,9 +76,8 @@ standingsScrn::standingsScrn(QWidget *parent)
         if (!allowEdits && myLB->selectedRow() >= 0)
             myLB->setSelectedRow(-1);
     });
-    myLB->setCellKeyHandler([this](int row, int column, QKeyEvent *event) {
-        return myLB_CellKeyDown(row, column, event);
-    });
+    myLB->setCellKeyHandler(
+        [this](int row, int column, QKeyEvent *event) { return myLB_CellKeyDown(row, column, event); });
 
     menus()->installHandler(QStringLiteral("FilePrint"), [this] {
         myLB->printMe(QStringLiteral("Current Standings - ") + standSelPop->currentText(), false);

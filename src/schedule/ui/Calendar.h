@@ -38,8 +38,8 @@ public:
 
     QComboBox *PopupMonth = nullptr;
     QComboBox *PopupYear = nullptr;
-    QList<QPushButton *> BevelButton1; // 37 day slots, Sunday first
-    QList<QLabel *> StaticText1;       // the day names
+    QList<QPushButton *> BevelButton1;  // 37 day slots, Sunday first
+    QList<QLabel *> StaticText1;        // the day names
     QPushButton *PushButton1 = nullptr; // next month
     QPushButton *PushButton2 = nullptr; // previous month
     QPushButton *PushButton3 = nullptr; // this month
@@ -57,6 +57,6 @@ private:
     void focusDay(int day);
 
     QDate m_chosen;
-    QDate m_startDate; // shown in bold while its month is on screen
+    QDate m_startDate;  // shown in bold while its month is on screen
     int m_focusDay = 0; // the day to focus when a month is laid out
 };

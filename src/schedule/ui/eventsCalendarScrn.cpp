@@ -18,22 +18,22 @@
 #include <QVBoxLayout>
 
 eventsCalendarScrn::eventsCalendarScrn(QWidget *parent)
-    : ScreenBase(ScreenId::eventsCalendarScrn, QStringLiteral("Event Calendar"), { .returnToStart = false }, parent)
+    : ScreenBase(ScreenId::eventsCalendarScrn, QStringLiteral("Event Calendar"), {.returnToStart = false}, parent)
 {
     auto *central = new QWidget(this);
     auto *outer = new QVBoxLayout(central);
 
     auto *top = new QHBoxLayout;
-    prevBtn = form::button(
-        central, QStringLiteral("prevBtn"), QStringLiteral("< Pre&vious"), QStringLiteral("Previous month"));
+    prevBtn = form::button(central, QStringLiteral("prevBtn"), QStringLiteral("< Pre&vious"),
+                           QStringLiteral("Previous month"));
     nextBtn = form::button(central, QStringLiteral("nextBtn"), QStringLiteral("Ne&xt >"), QStringLiteral("Next month"));
     top->addWidget(prevBtn);
     top->addStretch(1);
     top->addWidget(nextBtn);
     outer->addLayout(top);
 
-    eventCalendar1 = form::named(
-        new monthlyEventsLayer(central), QStringLiteral("eventCalendar1"), QStringLiteral("Event calendar"));
+    eventCalendar1 = form::named(new monthlyEventsLayer(central), QStringLiteral("eventCalendar1"),
+                                 QStringLiteral("Event calendar"));
     outer->addWidget(eventCalendar1, 1);
 
     infoLabel = form::valueLabel(central, QStringLiteral("infoLabel"), QStringLiteral("Selected date or event"));
@@ -54,9 +54,9 @@ eventsCalendarScrn::eventsCalendarScrn(QWidget *parent)
 
     MonthEventsCalendar &calendar = eventCalendar1->calendar();
     connect(&calendar, &MonthCalendar::dateClicked, this,
-        [this](const QDate &date) { infoLabel->setText(EventDates::longDate(date)); });
+            [this](const QDate &date) { infoLabel->setText(EventDates::longDate(date)); });
     connect(&calendar, &MonthEventsCalendar::eventClicked, this,
-        [this](const mcEventDataClass &event) { infoLabel->setText(EventsCalendar::infoText(event)); });
+            [this](const mcEventDataClass &event) { infoLabel->setText(EventsCalendar::infoText(event)); });
     connect(prevBtn, &QPushButton::clicked, this, [this] { turnMonth(-1); });
     connect(nextBtn, &QPushButton::clicked, this, [this] { turnMonth(1); });
     connect(printBtn, &QPushButton::clicked, this, &eventsCalendarScrn::hndlPrint);
@@ -83,7 +83,7 @@ void eventsCalendarScrn::fillEvents()
     if (!gData)
         return;
     for (const mcEventDataClass &event :
-        EventsCalendar::fromSchedule(ScheduleStore(*gData).list(ScheduleStore::kShowAll)))
+         EventsCalendar::fromSchedule(ScheduleStore(*gData).list(ScheduleStore::kShowAll)))
         calendar.addEvent(event, QString(), false);
     eventCalendar1->update();
 }
@@ -109,8 +109,8 @@ void eventsCalendarScrn::hndlPrint()
     for (int copy = 0; copy < job->copies(); ++copy) {
         if (copy > 0 && !job->newPage())
             break;
-        EventsCalendar::printOneCopy(
-            job->painter(), job->setup(), eventCalendar1->calendar(), team, today, eventCalendar1->font());
+        EventsCalendar::printOneCopy(job->painter(), job->setup(), eventCalendar1->calendar(), team, today,
+                                     eventCalendar1->font());
     }
     job->finish();
 }

@@ -6,8 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-monthlyEventsLayer::monthlyEventsLayer(QWidget *parent)
-    : QWidget(parent)
+monthlyEventsLayer::monthlyEventsLayer(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("monthlyEventsLayer"));
     setAccessibleName(tr("Month calendar"));

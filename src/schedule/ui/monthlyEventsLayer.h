@@ -21,8 +21,8 @@ public:
     MonthEventsCalendar &calendar() { return m_calendar; }
     const MonthEventsCalendar &calendar() const { return m_calendar; }
 
-    QSize sizeHint() const override { return { 701, 476 }; }
-    QSize minimumSizeHint() const override { return { 351, 236 }; }
+    QSize sizeHint() const override { return {701, 476}; }
+    QSize minimumSizeHint() const override { return {351, 236}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

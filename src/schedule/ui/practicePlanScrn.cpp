@@ -25,8 +25,8 @@ constexpr int kHelpTopic = 8;
 }
 
 practicePlanScrn::practicePlanScrn(const QString &schedID, QWidget *parent)
-    : ScreenBase(ScreenId::practicePlanScrn, QStringLiteral("Practice Plan"), { .returnToStart = false }, parent)
-    , m_plan(*gData, schedID)
+    : ScreenBase(ScreenId::practicePlanScrn, QStringLiteral("Practice Plan"), {.returnToStart = false}, parent),
+      m_plan(*gData, schedID)
 {
     buildControls();
     // screenSetup: the practice's date and place, then its drills.
@@ -60,8 +60,8 @@ void practicePlanScrn::buildControls()
 
     // The boxes that make a drill ------------------------------------------
     auto *boxes = new QGridLayout;
-    activityBox
-        = form::comboBox(central, QStringLiteral("activityBox"), QStringLiteral("Pick activity"), form::Editable);
+    activityBox = form::comboBox(central, QStringLiteral("activityBox"), QStringLiteral("Pick activity"),
+                                 form::Editable);
     drillBox = form::comboBox(central, QStringLiteral("drillBox"), QStringLiteral("Pick drill"), form::Editable);
     startBox = form::comboBox(central, QStringLiteral("startBox"), QStringLiteral("Start time"), form::Editable);
     endBox = form::comboBox(central, QStringLiteral("endBox"), QStringLiteral("End time"), form::Editable);
@@ -71,13 +71,13 @@ void practicePlanScrn::buildControls()
     startBox->addItems(schedule::PracticePlan::timeBlocks());
     endBox->addItems(schedule::PracticePlan::timeBlocks());
     coachBox->addItems(m_plan.coaches());
-    for (QComboBox *box : { drillBox, startBox, endBox, coachBox }) {
+    for (QComboBox *box : {drillBox, startBox, endBox, coachBox}) {
         box->setCurrentIndex(-1);
         box->installEventFilter(this);
     }
-    for (QComboBox *box : { activityBox, drillBox, coachBox })
+    for (QComboBox *box : {activityBox, drillBox, coachBox})
         box->setMinimumContentsLength(16);
-    for (QComboBox *box : { startBox, endBox })
+    for (QComboBox *box : {startBox, endBox})
         box->setMinimumContentsLength(8);
     boxes->addWidget(form::buddyLabel(activityBox, QStringLiteral("&1 - Pick Activity"), central), 0, 0);
     boxes->addWidget(form::buddyLabel(drillBox, QStringLiteral("&2 - Pick Drill"), central), 0, 1);
@@ -94,7 +94,7 @@ void practicePlanScrn::buildControls()
 
     drillList = form::named(new qlmListBox(central), QStringLiteral("drillList"), QStringLiteral("Drills"));
     drillList->setHeadings(
-        { QStringLiteral("Drill"), QStringLiteral("Start"), QStringLiteral("End"), QStringLiteral("Coach") });
+        {QStringLiteral("Drill"), QStringLiteral("Start"), QStringLiteral("End"), QStringLiteral("Coach")});
     drillList->setColumnWidths(QStringLiteral("*,90,90,*"));
     drillList->setColumnAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     drillList->setColumnAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
@@ -129,7 +129,7 @@ void practicePlanScrn::buildControls()
 
     connect(activityBox, &QComboBox::currentIndexChanged, this, &practicePlanScrn::setDrillBox);
     connect(drillList, &qlmListBox::rowSelectionChanged, this,
-        [this] { deleteBtn->setEnabled(drillList->selectedRow() >= 0); });
+            [this] { deleteBtn->setEnabled(drillList->selectedRow() >= 0); });
     connect(addBtn, &QPushButton::clicked, this, &practicePlanScrn::addActivity);
     connect(deleteBtn, &QPushButton::clicked, this, &practicePlanScrn::deleteActivity);
     connect(printBtn, &QPushButton::clicked, this, &practicePlanScrn::printPlan);
@@ -159,8 +159,8 @@ void practicePlanScrn::setDrillBox()
 
 void practicePlanScrn::addActivity()
 {
-    const QStringList cells { drillBox->currentText(), startBox->currentText(), endBox->currentText(),
-        coachBox->currentText() };
+    const QStringList cells{drillBox->currentText(), startBox->currentText(), endBox->currentText(),
+                            coachBox->currentText()};
     const qint64 id = m_plan.addActivity(cells);
     if (id < 0)
         return;
@@ -170,7 +170,7 @@ void practicePlanScrn::addActivity()
 
 void practicePlanScrn::clearFields()
 {
-    for (QComboBox *box : { activityBox, drillBox, startBox, endBox, coachBox })
+    for (QComboBox *box : {activityBox, drillBox, startBox, endBox, coachBox})
         box->clearEditText();
 }
 
@@ -238,7 +238,7 @@ void practicePlanScrn::recallPlan()
     platform::FileRequest request;
     request.title = QStringLiteral("Select a Practice Plan file");
     request.initialDir = folder;
-    request.nameFilters = { FileTypes::PlanFile().nameFilter() };
+    request.nameFilters = {FileTypes::PlanFile().nameFilter()};
     const QString path = platform::files().openFile(request);
     if (path.isEmpty())
         return;

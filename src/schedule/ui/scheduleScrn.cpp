@@ -82,8 +82,8 @@ scheduleScrn::scheduleScrn(QWidget *parent)
         if (row < 0 || !enterDataBtn->isEnabled())
             return;
         // A game opens its scorecard, a practice its plan.
-        const ScreenId target =
-            enterDataBtn->text() == u"Practice Plan" ? ScreenId::practicePlanScrn : ScreenId::gameDayScrn;
+        const ScreenId target = enterDataBtn->text() == u"Practice Plan" ? ScreenId::practicePlanScrn
+                                                                         : ScreenId::gameDayScrn;
         if (QWidget *window = screens::create(target, ScheduleListbox->rowTag(row)))
             window->show();
     });
@@ -181,9 +181,8 @@ void scheduleScrn::selectionChanged()
     enterDataBtn->setText(row >= 0 ? ScheduleList::dataButtonCaption(ScheduleListbox->cell(row, 3))
                                    : QStringLiteral("---"));
     // The caption tells what the event has; the button opens its window.
-    enterDataBtn->setEnabled(
-        (enterDataBtn->text() == u"Enter Game Data" && screens::has(ScreenId::gameDayScrn))
-        || (enterDataBtn->text() == u"Practice Plan" && screens::has(ScreenId::practicePlanScrn)));
+    enterDataBtn->setEnabled((enterDataBtn->text() == u"Enter Game Data" && screens::has(ScreenId::gameDayScrn)) ||
+                             (enterDataBtn->text() == u"Practice Plan" && screens::has(ScreenId::practicePlanScrn)));
     schedIDLabel->setText(row >= 0 ? QStringLiteral("Schedule ID = ") + ScheduleListbox->rowTag(row)
                                    : QStringLiteral("No Selection"));
 }

@@ -34,8 +34,11 @@ int main(int argc, char *argv[])
     if (app.Event_Open() != App::OpenResult::Ok)
         return 1;
     const QDir out(QString::fromLocal8Bit(argv[2]));
-    const char *teams[][2] = {{"Lincoln High", "Lions"}, {"Central", "Cubs"}, {"O'Brien's Academy", "Owls"},
-                              {"Riverside", "Rams"}, {"Westfield", "Wolves"}};
+    const char *teams[][2] = {{"Lincoln High", "Lions"},
+                              {"Central", "Cubs"},
+                              {"O'Brien's Academy", "Owls"},
+                              {"Riverside", "Rams"},
+                              {"Westfield", "Wolves"}};
     for (const auto &t : teams)
         gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QString::fromUtf8(t[0])},
                                                 {QStringLiteral("TeamName"), QString::fromUtf8(t[1])}});

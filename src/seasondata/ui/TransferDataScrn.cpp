@@ -205,11 +205,11 @@ void TransferDataScrn::doTransfer()
     // Done: the button now only closes, and nothing offers a second transfer.
     TransferBtn->setText(kClose);
     TransferBtn->setAccessibleName(kClose);
-    for (QWidget *w : {static_cast<QWidget *>(fromLB), static_cast<QWidget *>(toLB), static_cast<QWidget *>(addBtn),
-                       static_cast<QWidget *>(addAllBtn), static_cast<QWidget *>(removeBtn),
-                       static_cast<QWidget *>(transInvCheck), static_cast<QWidget *>(newNameFld),
-                       static_cast<QWidget *>(emptyRadio), static_cast<QWidget *>(transferRadio),
-                       static_cast<QWidget *>(createBtn)})
+    for (QWidget *w :
+         {static_cast<QWidget *>(fromLB), static_cast<QWidget *>(toLB), static_cast<QWidget *>(addBtn),
+          static_cast<QWidget *>(addAllBtn), static_cast<QWidget *>(removeBtn), static_cast<QWidget *>(transInvCheck),
+          static_cast<QWidget *>(newNameFld), static_cast<QWidget *>(emptyRadio), static_cast<QWidget *>(transferRadio),
+          static_cast<QWidget *>(createBtn)})
         w->setEnabled(false);
     if (gPrefs)
         curSeasonLbl->setText(gPrefs->prSeason);

@@ -65,7 +65,8 @@ UDVStatsScrn::UDVStatsScrn(QWidget *parent) : QDialog(parent)
         auto *layout = new QFormLayout;
         form::Rows rows(this, layout);
         for (int i = 0; i < group.slots; ++i) {
-            const QString spoken = QString::fromLatin1(group.spoken) + QStringLiteral(" stat ") + QString::number(i + 1);
+            const QString spoken = QString::fromLatin1(group.spoken) + QStringLiteral(" stat ") +
+                                   QString::number(i + 1);
             const QString prefix = QString::fromLatin1(group.prefix);
             auto *abbrev = form::named(new QLineEdit(this), prefix + QStringLiteral("Abbrev") + QString::number(i),
                                        spoken + QStringLiteral(" abbreviation"));
@@ -108,8 +109,8 @@ void UDVStatsScrn::setupScrn()
 {
     if (!gPrefs)
         return;
-    const bool ok = fill(gPrefs->prUDB, batAbbrev, batDesc) & fill(gPrefs->prUDF, fldAbbrev, fldDesc)
-                    & fill(gPrefs->prUDP, pitchAbbrev, pitchDesc);
+    const bool ok = fill(gPrefs->prUDB, batAbbrev, batDesc) & fill(gPrefs->prUDF, fldAbbrev, fldDesc) &
+                    fill(gPrefs->prUDP, pitchAbbrev, pitchDesc);
     if (!ok)
         gMsgBox(QStringLiteral("There was an error in reading the User-Defined Values."));
 }

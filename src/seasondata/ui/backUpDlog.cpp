@@ -23,7 +23,6 @@
 #include <QThread>
 #include <QVBoxLayout>
 
-
 using seasondata::BackupJob;
 using seasondata::BackupPlan;
 
@@ -291,28 +290,30 @@ void backUpDlog::doRestore()
     progressBar->setRange(0, 0);
     progressBar->show();
     auto sound = std::make_shared<bool>(false);
-    onThread([chosen, sound] { *sound = seasondata::isSoundSeasonFile(chosen); }, [this, chosen, keep, sound] {
-        if (!*sound) {
-            finishWith(QStringLiteral("The season could not be restored."),
-                       QStringLiteral("The chosen file isn't a sound season backup."), false);
-            return;
-        }
-        setLines(QStringLiteral("Keeping the season as it is now..."), QDir::toNativeSeparators(keep));
-        startCopy(std::make_unique<BackupJob>(gData->tlynData->getHandle(), keep), [this, chosen] {
-            if (m_job->errorCode() != 0) {
-                finishWith(QStringLiteral("The season could not be restored."), m_job->errorMessage(), false);
-                return;
-            }
-            setLines(QStringLiteral("Restoring the season..."), QDir::toNativeSeparators(chosen));
-            startCopy(BackupJob::restoreInto(gData->tlynData->getHandle(), chosen), [this] {
-                if (m_job->errorCode() != 0) {
-                    finishWith(QStringLiteral("The season could not be restored."), m_job->errorMessage(), false);
-                    return;
-                }
-                if (startScrn1 *start = startScrn1::instance())
-                    start->setLogo_Name();
-                finishWith(QStringLiteral("The season was restored."), {}, true);
-            });
-        });
-    });
+    onThread([chosen, sound] { *sound = seasondata::isSoundSeasonFile(chosen); },
+             [this, chosen, keep, sound] {
+                 if (!*sound) {
+                     finishWith(QStringLiteral("The season could not be restored."),
+                                QStringLiteral("The chosen file isn't a sound season backup."), false);
+                     return;
+                 }
+                 setLines(QStringLiteral("Keeping the season as it is now..."), QDir::toNativeSeparators(keep));
+                 startCopy(std::make_unique<BackupJob>(gData->tlynData->getHandle(), keep), [this, chosen] {
+                     if (m_job->errorCode() != 0) {
+                         finishWith(QStringLiteral("The season could not be restored."), m_job->errorMessage(), false);
+                         return;
+                     }
+                     setLines(QStringLiteral("Restoring the season..."), QDir::toNativeSeparators(chosen));
+                     startCopy(BackupJob::restoreInto(gData->tlynData->getHandle(), chosen), [this] {
+                         if (m_job->errorCode() != 0) {
+                             finishWith(QStringLiteral("The season could not be restored."), m_job->errorMessage(),
+                                        false);
+                             return;
+                         }
+                         if (startScrn1 *start = startScrn1::instance())
+                             start->setLogo_Name();
+                         finishWith(QStringLiteral("The season was restored."), {}, true);
+                     });
+                 });
+             });
 }

@@ -15,8 +15,7 @@
 #include <QVBoxLayout>
 
 StatPanel::StatPanel(stats::Panel kind, const QString &objectName, const QString &title, QWidget *parent)
-    : QFrame(parent)
-    , m_kind(kind)
+    : QFrame(parent), m_kind(kind)
 {
     setObjectName(objectName);
     setAccessibleName(title);

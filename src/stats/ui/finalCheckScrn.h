@@ -40,11 +40,11 @@ public:
     bool showMe(const std::array<bool, 4> &checks);
 
     bool result = false;
-    std::array<bool, 4> passed {};
+    std::array<bool, 4> passed{};
 
     QLabel *titleLabel = nullptr;
-    std::array<QLabel *, 4> checkLabel {};
-    std::array<CheckMark *, 4> checkCnv {};
+    std::array<QLabel *, 4> checkLabel{};
+    std::array<CheckMark *, 4> checkCnv{};
     QLabel *warnLabel = nullptr;
     QPushButton *cancelBtn = nullptr;
     QPushButton *recordBtn = nullptr;

@@ -25,8 +25,8 @@ pitchingCtr::pitchingCtr(QWidget *parent)
     auto *dl = new QVBoxLayout(decision);
     const QStringList results = {tr("&Win"), tr("&Loss"), tr("Sa&ve"), tr("&ND")};
     for (int i = 0; i < 4; ++i) {
-        m_gameBtn[size_t(i)] = form::named(new QRadioButton(results.at(i), decision), QStringLiteral("gameBtn_%1").arg(i),
-                                           form::spokenCaption(results.at(i)));
+        m_gameBtn[size_t(i)] = form::named(new QRadioButton(results.at(i), decision),
+                                           QStringLiteral("gameBtn_%1").arg(i), form::spokenCaption(results.at(i)));
         dl->addWidget(m_gameBtn[size_t(i)]);
         connect(m_gameBtn[size_t(i)], &QRadioButton::clicked, this, [this] { markDirty(); });
     }
@@ -36,7 +36,8 @@ pitchingCtr::pitchingCtr(QWidget *parent)
     const QStringList achievements = {tr("S&tart"), tr("S&hut Out"), tr("Co&mplete Game")};
     for (int i = 0; i < 3; ++i) {
         m_achieveBtn[size_t(i)] = form::named(new QCheckBox(achievements.at(i), achieve),
-                                              QStringLiteral("achieveBtn_%1").arg(i), form::spokenCaption(achievements.at(i)));
+                                              QStringLiteral("achieveBtn_%1").arg(i),
+                                              form::spokenCaption(achievements.at(i)));
         al->addWidget(m_achieveBtn[size_t(i)]);
         connect(m_achieveBtn[size_t(i)], &QCheckBox::clicked, this, [this] { markDirty(); });
     }
@@ -67,7 +68,8 @@ pitchingCtr::pitchingCtr(QWidget *parent)
         f->setObjectName(QStringLiteral("PStatFld_%1").arg(i));
         fieldLabel(i)->setObjectName(QStringLiteral("statLabel_%1").arg(i));
     }
-    auto *note = new QLabel(tr("**Record thirds of an inning after a dot. (i.e. 6 and 1/3 = 6.1, 5 and 2/3 = 5.2)"), this);
+    auto *note = new QLabel(tr("**Record thirds of an inning after a dot. (i.e. 6 and 1/3 = 6.1, 5 and 2/3 = 5.2)"),
+                            this);
     note->setObjectName(QStringLiteral("Label5"));
     note->setWordWrap(true);
     m_grid->addWidget(note, 6, 0, 1, 6);

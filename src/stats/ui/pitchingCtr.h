@@ -38,8 +38,8 @@ protected:
     bool writeRow() override;
 
 private:
-    std::array<QRadioButton *, 4> m_gameBtn {};
-    std::array<QCheckBox *, 3> m_achieveBtn {};
-    std::array<QLineEdit *, 3> m_pitchCt {};
+    std::array<QRadioButton *, 4> m_gameBtn{};
+    std::array<QCheckBox *, 3> m_achieveBtn{};
+    std::array<QLineEdit *, 3> m_pitchCt{};
     QPushButton *m_autoFillBtn = nullptr;
 };

@@ -6,10 +6,10 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QHelpEvent>
-#include <QPointer>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QToolTip>
 
 using support::PlusMinusState;
@@ -40,9 +40,9 @@ public:
         if (!m_pair)
             return {};
         const int middle = PlusMinusState::width / 2;
-        const QRect local = m_half == PlusMinusState::Plus ? QRect(0, 0, middle, PlusMinusState::height)
-                                                           : QRect(middle, 0, PlusMinusState::width - middle,
-                                                                   PlusMinusState::height);
+        const QRect local = m_half == PlusMinusState::Plus
+                                ? QRect(0, 0, middle, PlusMinusState::height)
+                                : QRect(middle, 0, PlusMinusState::width - middle, PlusMinusState::height);
         return local.translated(m_pair->mapToGlobal(QPoint(0, 0)));
     }
     QAccessible::Role role() const override { return QAccessible::Button; }
@@ -217,7 +217,7 @@ bool PlusMinusContainer::event(QEvent *event)
     if (event->type() == QEvent::ToolTip) {
         auto *help = static_cast<QHelpEvent *>(event);
         const QString &name = PlusMinusState::halfAt(help->pos().x()) == PlusMinusState::Plus ? m_plusName
-                                                                                            : m_minusName;
+                                                                                              : m_minusName;
         if (name.isEmpty())
             QToolTip::hideText();
         else

@@ -46,8 +46,8 @@ expReporterScrn::expReporterScrn(const QString &text, QWidget *parent) : QDialog
 
     errFld = form::named(new QPlainTextEdit(this), QStringLiteral("errFld"), QStringLiteral("Error Message"));
     const QString today = QLocale().toString(platform::clock().now().date(), QLocale::ShortFormat);
-    errFld->setPlainText(text + u'\n' + appinfo::getLongVers() + u'\n' + today + u'\n'
-                         + QStringLiteral(" *Please feel free to add your comments."));
+    errFld->setPlainText(text + u'\n' + appinfo::getLongVers() + u'\n' + today + u'\n' +
+                         QStringLiteral(" *Please feel free to add your comments."));
     errFld->setTabChangesFocus(true);
     layout->addWidget(form::buddyLabel(errFld, QStringLiteral("&Error Message:"), this));
     layout->addWidget(errFld, 1);
@@ -82,7 +82,8 @@ expReporterScrn::expReporterScrn(const QString &text, QWidget *parent) : QDialog
 
 void expReporterScrn::showFor(const std::exception_ptr &error)
 {
-    const QString text = reportText(TypeOfException(error), StackCleaner::CleanStack(StackCleaner::framesOfLastThrow()));
+    const QString text = reportText(TypeOfException(error),
+                                    StackCleaner::CleanStack(StackCleaner::framesOfLastThrow()));
     expReporterScrn report(text, QApplication::activeWindow());
     bool quit = false;
     connect(&report, &expReporterScrn::quitRequested, &report, [&quit] { quit = true; });

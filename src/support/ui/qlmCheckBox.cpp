@@ -66,8 +66,7 @@ QAccessibleInterface *checkBoxAccessibility(const QString &className, QObject *o
 qlmCheckBox::qlmCheckBox(QWidget *parent) : qlmCheckBox(QString(), parent) {}
 
 qlmCheckBox::qlmCheckBox(const QString &text, QWidget *parent)
-    : QAbstractButton(parent),
-      m_valuePict(support::supportPicture(QStringLiteral("qlmCheckOn"))),
+    : QAbstractButton(parent), m_valuePict(support::supportPicture(QStringLiteral("qlmCheckOn"))),
       m_unselPict(support::supportPicture(QStringLiteral("qlmCheckOff")))
 {
     static const bool accessibilityInstalled = [] {

@@ -27,7 +27,8 @@ updateDlog::updateDlog(QWidget *parent) : QDialog(parent)
     updatetext->setWordWrap(true);
     updatetext->setText(QStringLiteral("Checking..."));
     layout->addWidget(updatetext);
-    descriptionFld = form::named(new QPlainTextEdit(this), QStringLiteral("descriptionFld"), QStringLiteral("What is new"));
+    descriptionFld = form::named(new QPlainTextEdit(this), QStringLiteral("descriptionFld"),
+                                 QStringLiteral("What is new"));
     descriptionFld->setReadOnly(true);
     descriptionFld->hide();
     layout->addWidget(descriptionFld, 1);

@@ -142,36 +142,6 @@ private Q_SLOTS:
         fillColumn(grid, 2, column);
         QCOMPARE(grid.af_findFirstColRowEnd(2, startRow), end);
     }
-
-    void lastColRowStart_data()
-    {
-        QTest::addColumn<QStringList>("before");
-        QTest::addColumn<QStringList>("column");
-        QTest::addColumn<int>("col");
-        QTest::addColumn<int>("start");
-        QTest::newRow("after a gap") << QStringList {} << QStringList { ".", ".", "B1", "GO/R" } << 1 << 2;
-        QTest::newRow("after the top rows that wrapped")
-            << QStringList {} << QStringList { "B1", ".", "GO/R", "KS/R" } << 1 << 2;
-        QTest::newRow("where the inning before stopped")
-            << QStringList { "B1", "GO/R", ".", "." } << QStringList { "B1", "B1", ".", "." } << 1 << 2;
-        QTest::newRow("first inning from the top") << QStringList {} << QStringList { "B1", "B1", ".", "." } << 0 << 0;
-        QTest::newRow("not to be found") << QStringList { "B1", "GO/R", "FO/R", "KS/R" }
-                                         << QStringList { "B1", "B1", ".", "." } << 1 << -1;
-    }
-    void lastColRowStart()
-    {
-        QFETCH(QStringList, before);
-        QFETCH(QStringList, column);
-        QFETCH(int, col);
-        QFETCH(int, start);
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 4);
-        if (col > 0)
-            fillColumn(grid, col - 1, before);
-        fillColumn(grid, col, column);
-        QCOMPARE(grid.af_findLastColRowStart(col), start);
-    }
 };
 
 QTEST_GUILESS_MAIN(TestAutoFill)

@@ -80,6 +80,7 @@ private Q_SLOTS:
         QStringList emptyLines(9, tabs(19));
         QStringList blankOutcomes(26, outcomesLine({}));
         QTest::newRow("lineup without entries") << plain << 9 << emptyLines.join(CR) << blankOutcomes.join(CR);
+        QTest::newRow("no lineup") << plain << 0 << QString() << blankOutcomes.join(CR);
 
         // Every code in every row of a full 26-row lineup.
         QStringList actionLines, outcomeLines;
@@ -123,54 +124,6 @@ private Q_SLOTS:
         again.setMyBkgArray(grid.getMyBkgArray());
         QCOMPARE(again.getMyData(), actions);
         QCOMPARE(again.getMyBkgArray(), outcomes);
-    }
-
-    void storedExampleReadsAsAGame()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        grid.setColumnHeadings(exampleHeadings());
-        loadTeam(grid, 4);
-        grid.setMyData(exampleActions());
-        grid.setMyBkgArray(exampleOutcomes());
-
-        // Line 1 singled and scored, then grounded out; line 3 homered and
-        // was replaced; the substitute doubled and was left on base.
-        QCOMPARE(grid.cellText(0, 1), QStringLiteral("GO"));
-        QCOMPARE(grid.cellBkg(3, 1), QStringLiteral("Y"));
-        QCOMPARE(grid.countTotalRuns(), 2);
-        QCOMPARE(grid.countTotalHits(), 3);
-        QCOMPARE(grid.countTotalLOBs(), 1);
-        QCOMPARE(grid.getHittingStats(0)[0], 2);
-        QCOMPARE(grid.getHittingStats(2)[hitD.value("HR")], 1);
-        QVERIFY(grid.isColAlreadyDoubled(2));
-        QVERIFY(!grid.check4IncompleteCells());
-    }
-
-    void outcomesAlwaysHave26LinesOf20_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::newRow("no lineup") << 0;
-        QTest::newRow("one batter") << 1;
-        QTest::newRow("nine") << 9;
-        QTest::newRow("full") << 26;
-    }
-    void outcomesAlwaysHave26LinesOf20()
-    {
-        QFETCH(int, rows);
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, rows);
-        grid.insertColumn(0, 32); // 21 columns: still 20 values a line
-        const QStringList lines = grid.getMyBkgArray().split(CR);
-        QCOMPARE(lines.size(), 26);
-        for (const QString &line : lines) {
-            QVERIFY(line.endsWith(T));
-            QCOMPARE(line.split(T).size(), 21); // the trailing tab gives an empty 21st field
-        }
-        QCOMPARE(grid.getMyData().isEmpty(), rows == 0);
-        if (rows > 0)
-            QCOMPARE(grid.getMyData().split(CR).first().count(T), 20);
     }
 
     void damagedTexts_data()

@@ -9,8 +9,6 @@
 #include "gameday/ui/battingPOP.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QPainter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
@@ -116,38 +114,11 @@ private Q_SLOTS:
 
         const QColor red = QColor::fromRgb(0xFF5765), green = QColor::fromRgb(0x84FF85);
         const QColor yellow = QColor::fromRgb(0xFFFA9B), grey = QColor::fromRgb(0x727272);
-        QTest::newRow("home run") << ""
-                                  << ""
-                                  << "batActionLB" << 0 << 3 << "HR"
-                                  << "G" << green;
-        QTest::newRow("strike out looking") << ""
-                                            << ""
-                                            << "batActionLB" << 2 << 3 << "KL"
-                                            << "R" << red;
-        QTest::newRow("single") << ""
-                                << ""
-                                << "batActionLB" << 0 << 0 << "B1"
-                                << "" << QColor(Qt::white);
-        QTest::newRow("force out") << "B1"
-                                   << ""
-                                   << "resultLB" << 0 << 2 << "B1"
-                                   << "R" << red;
-        QTest::newRow("run") << "BB"
-                             << ""
-                             << "resultLB" << 1 << 1 << "BB"
-                             << "G" << green;
-        QTest::newRow("left on base") << "B2"
-                                      << ""
-                                      << "resultLB" << 1 << 2 << "B2"
-                                      << "Y" << yellow;
-        QTest::newRow("disable a run") << "HR"
-                                       << "G"
-                                       << "" << 0 << 1 << ""
-                                       << "X" << grey;
-        QTest::newRow("clear an out") << "GO"
-                                      << "R"
-                                      << "" << 0 << 0 << ""
-                                      << "" << QColor(Qt::white);
+        QTest::newRow("home run") << "" << "" << "batActionLB" << 0 << 3 << "HR" << "G" << green;
+        QTest::newRow("single") << "" << "" << "batActionLB" << 0 << 0 << "B1" << "" << QColor(Qt::white);
+        QTest::newRow("force out") << "B1" << "" << "resultLB" << 0 << 2 << "B1" << "R" << red;
+        QTest::newRow("left on base") << "B2" << "" << "resultLB" << 1 << 2 << "B2" << "Y" << yellow;
+        QTest::newRow("disable a run") << "HR" << "G" << "" << 0 << 1 << "" << "X" << grey;
     }
     void pickedCodePaintsTheCell()
     {
@@ -340,45 +311,6 @@ private Q_SLOTS:
         QCOMPARE(done.at(0).at(0).value<gameday::AutoFillData>(), (gameday::AutoFillData { 3, 4, 1, 1, 0, 0, 1, 0 }));
         grid.grid().reinitAutoVars();
         QCOMPARE(grid.grab().toImage().pixelColor(cell.left() + 2, cell.center().y()), QColor::fromRgb(0xFF5765));
-    }
-
-    // The picture in the documentation: a few innings and the popover open.
-    // Written to $TL_SCREENSHOT_DIR when that is set.
-    void screenshot()
-    {
-        GridEnv env;
-        QWidget window;
-        window.setAutoFillBackground(true);
-        BBScoringLB grid(&window);
-        grid.move(10, 10);
-        gameday::ScoreGrid &g = grid.grid();
-        loadTeam(g, 9);
-        fillColumn(g, 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
-        fillColumn(g, 1, { "IBB/Y", "GO/R", ".", ".", ".", "BB/G", "HBP/R", "KL/R", "B2/G" });
-        fillColumn(g, 2, { ".", ".", "B3/Y", "KS/R", "FO/R", "B1", "ROE" });
-        grid.resize(grid.sizeHint());
-        window.resize(grid.width() + 20, grid.height() + 290);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-        QImage shot;
-        PopoverDriver driver;
-        driver.actions.append([&](battingPOP *pop) {
-            shot = window.grab().toImage();
-            QPainter painter(&shot);
-            painter.drawPixmap(pop->pos() - window.mapToGlobal(QPoint(0, 0)), pop->grab());
-            painter.setPen(QColor::fromRgb(0x808080));
-            painter.drawRect(QRect(pop->pos() - window.mapToGlobal(QPoint(0, 0)), pop->size()).adjusted(0, 0, -1, -1));
-            pop->close();
-        });
-        QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 7, 2));
-        QVERIFY(!shot.isNull());
-        const QPoint popAt = grid.mapTo(&window, ScoreGridRenderer::popoverOffset(7, 2));
-        QCOMPARE(shot.pixelColor(popAt + QPoint(12, 24)), QColor::fromRgb(0xEEE8BD)); // the action list
-
-        const QString dir = qEnvironmentVariable("TL_SCREENSHOT_DIR");
-        if (!dir.isEmpty())
-            QVERIFY(shot.save(QDir(dir).filePath(QStringLiteral("scorecard-grid.png"))));
     }
 };
 

@@ -200,25 +200,6 @@ private Q_SLOTS:
         }
     }
 
-    void disabledGridSwallowsClicks()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 9);
-        fillColumn(grid, 0, { "GO/R", "FO/R", "KS/R" });
-        ScriptedPopover popover;
-        popover.install(grid);
-        grid.setClickDisabled(true);
-        grid.cellClicked(5, 0, false);
-        grid.cellClicked(0, 1, false);
-        QVERIFY(popover.showAll.isEmpty());
-        QVERIFY(env.fake.messages.shown.isEmpty());
-
-        grid.setClickDisabled(false);
-        grid.cellClicked(0, 1, false);
-        QCOMPARE(popover.showAll.size(), 1);
-    }
-
     void outsAddUpAcrossDoubledInning()
     {
         GridEnv env;
@@ -438,20 +419,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("choice");
         QTest::addColumn<bool>("asked");
         // Seven innings: the question comes from column index 6 on.
-        QTest::newRow("home run in the sixth") << 5 << ""
-                                               << "HR" << false;
-        QTest::newRow("home run in the seventh") << 6 << ""
-                                                 << "HR" << true;
-        QTest::newRow("home run in the ninth") << 8 << ""
-                                               << "HR" << true;
-        QTest::newRow("runner scores in the seventh") << 6 << "B1"
-                                                      << "xRUN" << true;
-        QTest::newRow("runner scores in the sixth") << 5 << "B1"
-                                                    << "xRUN" << false;
-        QTest::newRow("single in the seventh") << 6 << ""
-                                               << "B1" << false;
-        QTest::newRow("runner left in the seventh") << 6 << "B1"
-                                                    << "xLOB" << false;
+        QTest::newRow("home run in the seventh") << 6 << "" << "HR" << true;
+        QTest::newRow("runner scores in the seventh") << 6 << "B1" << "xRUN" << true;
+        QTest::newRow("runner scores in the sixth") << 5 << "B1" << "xRUN" << false;
+        QTest::newRow("single in the seventh") << 6 << "" << "B1" << false;
+        QTest::newRow("runner left in the seventh") << 6 << "B1" << "xLOB" << false;
     }
     void walkoffQuestion()
     {
@@ -575,21 +547,6 @@ private Q_SLOTS:
         QVERIFY(!grid.check4IncompleteCells());
         grid.setCellBkg(2, 0, QString());
         QVERIFY(grid.check4IncompleteCells());
-    }
-
-    void emptyGrid()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        QCOMPARE(grid.countTotalRuns(), 0);
-        QCOMPARE(grid.countTotalHits(), 0);
-        QCOMPARE(grid.countTotalLOBs(), 0);
-        QVERIFY(grid.isColumnFull(0));
-        QVERIFY(grid.isColumnEmpty(0));
-        QVERIFY(grid.isRowEmpty(0));
-        QVERIFY(!grid.check4ThreeOuts(0));
-        QVERIFY(!grid.check4IncompleteCells());
-        QCOMPARE(grid.getMyData(), QString());
     }
 
     void fullAndEmptyColumns_data()

@@ -343,7 +343,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("button");
         QTest::addColumn<bool>("label");
         QTest::newRow("no at bat yet") << false << false << true << false;
-        QTest::newRow("in progress") << true << false << true << false;
         QTest::newRow("recorded") << true << true << false << true;
     }
     void recordedState()

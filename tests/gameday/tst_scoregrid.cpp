@@ -70,18 +70,7 @@ private Q_SLOTS:
                                                             << ""
                                                             << "B2" << true << "B2"
                                                             << "";
-        QTest::newRow("clear an out") << "GO"
-                                      << "R"
-                                      << "Clear Cell" << false << ""
-                                      << "";
-        QTest::newRow("disable a run") << "HR"
-                                       << "G"
-                                       << "Disable Cell" << false << ""
-                                       << "X";
-        QTest::newRow("clear a left runner") << "B1"
-                                             << "Y"
-                                             << "Clear Cell" << false << ""
-                                             << "";
+        // Clearing an out and disabling a run: through the popover's buttons in tst_gridwidget.
         QTest::newRow("clear a disabled cell") << ""
                                                << "X"
                                                << "Clear Cell" << false << ""
@@ -130,10 +119,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("opensPopover");
         QTest::addColumn<QString>("expBkg");
 
-        QTest::newRow("on base") << "B1"
-                                 << "" << false << "Y";
-        QTest::newRow("run") << "HR"
-                             << "G" << false << "Y";
+        // On base and a run: Alt-clicked in tst_gridwidget.
         QTest::newRow("out") << "GO"
                              << "R" << false << "Y";
         QTest::newRow("disabled but filled") << "B2"

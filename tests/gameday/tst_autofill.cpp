@@ -119,59 +119,6 @@ private Q_SLOTS:
         QVERIFY(!gIsAutoFillMode);
         QCOMPARE(figures(grid.autoFillData), QStringLiteral("0,0,0,0,0,0,0,0"));
     }
-
-    void firstColRowEnd_data()
-    {
-        QTest::addColumn<QStringList>("column");
-        QTest::addColumn<int>("startRow");
-        QTest::addColumn<int>("end");
-        QTest::newRow("the batter who did not come up") << QStringList { "B1", "B1", ".", "." } << 0 << 2;
-        QTest::newRow("wraps to the top") << QStringList { ".", "B1", "B1", "B1" } << 1 << 0;
-        QTest::newRow("a full column ends where it began") << QStringList { "B1", "B1", "B1", "B1" } << 2 << 2;
-        QTest::newRow("a disabled cell is no gap") << QStringList { "B1", "/X", ".", "B1" } << 0 << 2;
-        QTest::newRow("a result alone is a gap") << QStringList { "B1", "/R", "B1", "B1" } << 0 << 1;
-    }
-    void firstColRowEnd()
-    {
-        QFETCH(QStringList, column);
-        QFETCH(int, startRow);
-        QFETCH(int, end);
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 4);
-        fillColumn(grid, 2, column);
-        QCOMPARE(grid.af_findFirstColRowEnd(2, startRow), end);
-    }
-
-    void lastColRowStart_data()
-    {
-        QTest::addColumn<QStringList>("before");
-        QTest::addColumn<QStringList>("column");
-        QTest::addColumn<int>("col");
-        QTest::addColumn<int>("start");
-        QTest::newRow("after a gap") << QStringList {} << QStringList { ".", ".", "B1", "GO/R" } << 1 << 2;
-        QTest::newRow("after the top rows that wrapped")
-            << QStringList {} << QStringList { "B1", ".", "GO/R", "KS/R" } << 1 << 2;
-        QTest::newRow("where the inning before stopped")
-            << QStringList { "B1", "GO/R", ".", "." } << QStringList { "B1", "B1", ".", "." } << 1 << 2;
-        QTest::newRow("first inning from the top") << QStringList {} << QStringList { "B1", "B1", ".", "." } << 0 << 0;
-        QTest::newRow("not to be found") << QStringList { "B1", "GO/R", "FO/R", "KS/R" }
-                                         << QStringList { "B1", "B1", ".", "." } << 1 << -1;
-    }
-    void lastColRowStart()
-    {
-        QFETCH(QStringList, before);
-        QFETCH(QStringList, column);
-        QFETCH(int, col);
-        QFETCH(int, start);
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 4);
-        if (col > 0)
-            fillColumn(grid, col - 1, before);
-        fillColumn(grid, col, column);
-        QCOMPARE(grid.af_findLastColRowStart(col), start);
-    }
 };
 
 QTEST_GUILESS_MAIN(TestAutoFill)

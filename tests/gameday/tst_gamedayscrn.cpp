@@ -343,7 +343,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("button");
         QTest::addColumn<bool>("label");
         QTest::newRow("no at bat yet") << false << false << true << false;
-        QTest::newRow("in progress") << true << false << true << false;
         QTest::newRow("recorded") << true << true << false << true;
     }
     void recordedState()
@@ -376,7 +375,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::newRow("batting, nothing typed") << "UDBatStatsBtn" << "" << "";
         QTest::newRow("batting, an emptied field") << "UDBatStatsBtn" << "\b++-" << "0\t1\t0\t0\t0";
-        QTest::newRow("fielding, nothing typed") << "fldStatsBtn" << "" << "";
         QTest::newRow("fielding, digits") << "fldStatsBtn" << "12" << "0\t012\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0";
         QTest::newRow("pitching, only the decision") << "pitchStatsBtn" << "Win" << QString("0\t").repeated(16) + "0";
     }

@@ -70,18 +70,7 @@ private Q_SLOTS:
                                                             << ""
                                                             << "B2" << true << "B2"
                                                             << "";
-        QTest::newRow("clear an out") << "GO"
-                                      << "R"
-                                      << "Clear Cell" << false << ""
-                                      << "";
-        QTest::newRow("disable a run") << "HR"
-                                       << "G"
-                                       << "Disable Cell" << false << ""
-                                       << "X";
-        QTest::newRow("clear a left runner") << "B1"
-                                             << "Y"
-                                             << "Clear Cell" << false << ""
-                                             << "";
+        // Clearing an out and disabling a run: through the popover's buttons in tst_gridwidget.
         QTest::newRow("clear a disabled cell") << ""
                                                << "X"
                                                << "Clear Cell" << false << ""
@@ -130,10 +119,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("opensPopover");
         QTest::addColumn<QString>("expBkg");
 
-        QTest::newRow("on base") << "B1"
-                                 << "" << false << "Y";
-        QTest::newRow("run") << "HR"
-                             << "G" << false << "Y";
+        // On base and a run: Alt-clicked in tst_gridwidget.
         QTest::newRow("out") << "GO"
                              << "R" << false << "Y";
         QTest::newRow("disabled but filled") << "B2"
@@ -200,79 +186,6 @@ private Q_SLOTS:
         }
     }
 
-    void disabledGridSwallowsClicks()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 9);
-        fillColumn(grid, 0, { "GO/R", "FO/R", "KS/R" });
-        ScriptedPopover popover;
-        popover.install(grid);
-        grid.setClickDisabled(true);
-        grid.cellClicked(5, 0, false);
-        grid.cellClicked(0, 1, false);
-        QVERIFY(popover.showAll.isEmpty());
-        QVERIFY(env.fake.messages.shown.isEmpty());
-
-        grid.setClickDisabled(false);
-        grid.cellClicked(0, 1, false);
-        QCOMPARE(popover.showAll.size(), 1);
-    }
-
-    void outsAddUpAcrossDoubledInning()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        grid.setColumnHeadings(headingsWithDouble(5, 21));
-        loadTeam(grid, 9);
-        QCOMPARE(grid.heading(5), QStringLiteral("5a"));
-        fillColumn(grid, 4, { "FO/R", "GO/R", "B1/G", "B1/G", "BB/G", "B1/G", "B2/G", "B1/G", "B1/Y" });
-        QSignalSpy calcs(&grid, &ScoreGrid::doCalcs);
-        QSignalSpy added(&grid, &ScoreGrid::columnAdded);
-        ScriptedPopover popover;
-        popover.install(grid);
-
-        popover.script({ "B1", "KS" });
-        grid.cellClicked(0, 5, false);
-        QCOMPARE(calcs.count(), 0);
-        grid.cellClicked(1, 5, false);
-
-        QCOMPARE(calcs.count(), 1);
-        QCOMPARE(calcs.at(0).at(0).toInt(), 5); // the column clicked
-        QVERIFY(grid.check4ThreeOuts(4));
-        QVERIFY(grid.check4ThreeOuts(5));
-        QVERIFY(!grid.check4ThreeOuts(6));
-        QCOMPARE(added.count(), 0);
-
-        // A fourth out reads as not three: the coach has a mistake to find.
-        popover.script({ "xOUT" });
-        grid.cellClicked(0, 5, false);
-        QVERIFY(!grid.check4ThreeOuts(4));
-        QCOMPARE(calcs.count(), 1);
-    }
-
-    void findExtInningCol_data()
-    {
-        QTest::addColumn<int>("col");
-        QTest::addColumn<int>("partner");
-        QTest::newRow("first of the pair") << 4 << 5;
-        QTest::newRow("second of the pair") << 5 << 4;
-        QTest::newRow("before") << 3 << -1;
-        QTest::newRow("after") << 6 << -1;
-        QTest::newRow("first column") << 0 << -1;
-        QTest::newRow("out of range") << 30 << -1;
-    }
-    void findExtInningCol()
-    {
-        QFETCH(int, col);
-        QFETCH(int, partner);
-        GridEnv env;
-        ScoreGrid grid;
-        grid.setColumnHeadings(headingsWithDouble(5, 21));
-        QCOMPARE(grid.findExtInningCol(col), partner);
-        QCOMPARE(grid.isColAlreadyDoubled(col), partner != -1);
-    }
-
     void inningDoublesOnceAndNeverTwice()
     {
         GridEnv env;
@@ -306,6 +219,7 @@ private Q_SLOTS:
         fillColumn(grid, 3, { "B1", "FO/R", "B1", "B1", "GO/R", ".", "B1", "B1" });
         popover.script({ "B1" });
         grid.cellClicked(8, 3, false);
+        QVERIFY(!grid.check4ThreeOuts(3)); // a fourth out reads as not three: a mistake to find
         QCOMPARE(added.count(), 1);
         QCOMPARE(grid.columnCount(), 21);
         QCOMPARE(calcs.count(), 0);
@@ -438,20 +352,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("choice");
         QTest::addColumn<bool>("asked");
         // Seven innings: the question comes from column index 6 on.
-        QTest::newRow("home run in the sixth") << 5 << ""
-                                               << "HR" << false;
-        QTest::newRow("home run in the seventh") << 6 << ""
-                                                 << "HR" << true;
-        QTest::newRow("home run in the ninth") << 8 << ""
-                                               << "HR" << true;
-        QTest::newRow("runner scores in the seventh") << 6 << "B1"
-                                                      << "xRUN" << true;
-        QTest::newRow("runner scores in the sixth") << 5 << "B1"
-                                                    << "xRUN" << false;
-        QTest::newRow("single in the seventh") << 6 << ""
-                                               << "B1" << false;
-        QTest::newRow("runner left in the seventh") << 6 << "B1"
-                                                    << "xLOB" << false;
+        QTest::newRow("home run in the seventh") << 6 << "" << "HR" << true;
+        QTest::newRow("runner scores in the seventh") << 6 << "B1" << "xRUN" << true;
+        QTest::newRow("runner scores in the sixth") << 5 << "B1" << "xRUN" << false;
+        QTest::newRow("single in the seventh") << 6 << "" << "B1" << false;
+        QTest::newRow("runner left in the seventh") << 6 << "B1" << "xLOB" << false;
     }
     void walkoffQuestion()
     {
@@ -575,21 +480,6 @@ private Q_SLOTS:
         QVERIFY(!grid.check4IncompleteCells());
         grid.setCellBkg(2, 0, QString());
         QVERIFY(grid.check4IncompleteCells());
-    }
-
-    void emptyGrid()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        QCOMPARE(grid.countTotalRuns(), 0);
-        QCOMPARE(grid.countTotalHits(), 0);
-        QCOMPARE(grid.countTotalLOBs(), 0);
-        QVERIFY(grid.isColumnFull(0));
-        QVERIFY(grid.isColumnEmpty(0));
-        QVERIFY(grid.isRowEmpty(0));
-        QVERIFY(!grid.check4ThreeOuts(0));
-        QVERIFY(!grid.check4IncompleteCells());
-        QCOMPARE(grid.getMyData(), QString());
     }
 
     void fullAndEmptyColumns_data()

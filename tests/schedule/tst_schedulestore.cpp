@@ -72,27 +72,6 @@ private Q_SLOTS:
         m_fake.reset();
     }
 
-    void storedFieldsReadBack()
-    {
-        ScheduleStore store(*gData);
-        const eventClass game = makeEvent("Game", QDate(2026, 4, 15), "O'Brien's Nine", "7", 2);
-        const qint64 id = store.insert(game);
-        QVERIFY(id > 0);
-        // The date is kept as ISO text, whatever the locale shows.
-        QCOMPARE(gData->scalar(QStringLiteral("SELECT SchedDate FROM Schedule WHERE eventID = ?"), {id}).toString(),
-                 QStringLiteral("2026-04-15"));
-        auto found = store.find(id);
-        QVERIFY(found);
-        QCOMPARE(found->event, game);
-
-        eventClass changed = makeEvent("Scrimmage", QDate(2026, 4, 16), "N/A", "-1", 0);
-        changed.busTime = QStringLiteral("3:15 PM");
-        changed.location = QStringLiteral("Riverside");
-        QVERIFY(store.update(id, changed));
-        QCOMPARE(store.find(id)->event, changed);
-        QVERIFY(!store.find(id + 100));
-    }
-
     void filterAndOrder()
     {
         ScheduleStore store(*gData);
@@ -175,41 +154,6 @@ private Q_SLOTS:
                             " BEGIN SELECT RAISE(FAIL, 'stuck'); END"));
         QVERIFY(!store.savePositions({b, a}));
         QCOMPARE(positions(), (QMap<qint64, qint64>{{a, 0}, {b, 1}}));
-    }
-
-    void editorLists()
-    {
-        const qint64 home = gData->insert("Teams", {{"TeamName", "O'Brien's Nine"}, {"HomeField", "O'Malley's Field"}});
-        gData->insert("Teams", {{"TeamName", "Bears"}, {"HomeField", "Riverside"}});
-        gData->insert("Teams", {{"TeamName", "Aces"}, {"HomeField", "Riverside"}});
-        ScheduleStore store(*gData);
-        const QList<OpponentEntry> teams = store.teams();
-        QCOMPARE(teams.size(), 3);
-        QCOMPARE(teams.first().name, QStringLiteral("Aces"));
-        QCOMPARE(teams.last(), (OpponentEntry{"O'Brien's Nine", QString::number(home), {}}));
-        QCOMPARE(store.locations(), (QStringList{"O'Malley's Field", "Riverside"}));
-        QCOMPARE(store.homeField(QString::number(home)), std::optional<QString>("O'Malley's Field"));
-        QCOMPARE(store.homeField(QString()), std::nullopt);
-        QCOMPARE(store.homeField("999"), std::nullopt);
-    }
-
-    void listRows()
-    {
-        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-        ScheduleEntry entry;
-        entry.event = makeEvent("Game", QDate(2026, 4, 15), "Bears", "4", 2);
-        QCOMPARE(ScheduleList::cells(entry), (QStringList{"4/15/26", "---", "4:00 PM", "Game", "Bears",
-                                                          "O'Malley's Field", "A"}));
-        QLocale::setDefault(QLocale::c());
-        QCOMPARE(ScheduleList::getHomeValue(0), QStringLiteral("-"));
-        QCOMPARE(ScheduleList::getHomeValue(1), QStringLiteral("H"));
-        QCOMPARE(ScheduleList::dataButtonCaption("Game"), QStringLiteral("Enter Game Data"));
-        QCOMPARE(ScheduleList::dataButtonCaption("Practice"), QStringLiteral("Practice Plan"));
-        QCOMPARE(ScheduleList::dataButtonCaption("Scrimmage"), QStringLiteral("---"));
-        int total = 0;
-        for (const QString &w : ScheduleList::printWidths())
-            total += w.toInt();
-        QCOMPARE(total, 648);
     }
 
     void unreadableRowsAreReportedOnceAndDropped()

@@ -250,6 +250,8 @@ private Q_SLOTS:
         QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
         QCOMPARE(screen->coachesList->rowCount(), 1);
         QCOMPARE(gData->scalar(QStringLiteral("SELECT Assistant FROM Coaches")).toInt(), 1);
+        screen->coachesList->setSelectedRow(0);
+        QVERIFY(screen->asstCheck->value()); // read back as stored
 
         // Choosing a player brings player mode back.
         screen->playersList->setSelectedRow(0);

@@ -84,41 +84,20 @@ private Q_SLOTS:
         QVERIFY(fake.messages.shown.isEmpty());
     }
 
-    void coachKeepsAssistantFlag()
-    {
-        testkit::Season f;
-        RosterBook book(*gData);
-        const QString team = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
-        MemberRecord c = member(MemberKind::Coach, team, QStringLiteral("Dee"), QStringLiteral("Ewing"));
-        c.Assistant = true;
-        const QString id = QString::number(book.add(c));
-        QCOMPARE(book.store().member(MemberKind::Coach, id)->Assistant, true);
-        QCOMPARE(book.store().list(MemberKind::Coach, team).size(), 1);
-        QCOMPARE(book.store().list(MemberKind::Player, team).size(), 0);
-    }
-
-    void tradeMovesToOtherTeam_data()
-    {
-        QTest::addColumn<int>("kind");
-        QTest::newRow("player") << int(MemberKind::Player);
-        QTest::newRow("coach") << int(MemberKind::Coach);
-    }
+    // The screen trades players (tst_personnelScrn); a coach and a member
+    // gone from the file are met here.
     void tradeMovesToOtherTeam()
     {
-        QFETCH(int, kind);
         testkit::Season f;
         auto &fake = f.fake;
         RosterBook book(*gData);
         const QString a = QString::number(f.addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         const QString b = QString::number(f.addTeam(QStringLiteral("Wolves"), QStringLiteral("West")));
-        const auto k = MemberKind(kind);
+        const auto k = MemberKind::Coach;
         const QString id = QString::number(book.add(member(k, a, QStringLiteral("Al"), QStringLiteral("Reyes"))));
 
         MemberRecord m = *book.store().member(k, id);
         m.City = QStringLiteral("Columbus");
-        QVERIFY(book.edit(m)); // no trade: stays
-        QCOMPARE(book.store().list(k, a).size(), 1);
-
         QVERIFY(book.edit(m, b));
         QCOMPARE(book.store().list(k, a).size(), 0);
         const auto there = book.store().list(k, b);

@@ -40,8 +40,6 @@ private Q_SLOTS:
         t.Phone = QStringLiteral("6145551234");
         t.HomeField = QStringLiteral("Mc'Kinley Park'); DROP TABLE Teams;--");
         t.Active = false;
-        t.TeamLogo = QImage(30, 20, QImage::Format_ARGB32);
-        t.TeamLogo.fill(Qt::darkGreen);
 
         const auto saved = book.save(t, false);
         QCOMPARE(saved.result, TeamBook::Saved::Added);
@@ -57,17 +55,9 @@ private Q_SLOTS:
         QCOMPARE(back->Phone, t.Phone);
         QCOMPARE(back->HomeField, t.HomeField);
         QCOMPARE(back->Active, false);
-        QCOMPARE(back->TeamLogo.size(), QSize(30, 20));
-        QCOMPARE(back->TeamLogo.pixelColor(5, 5), QColor(Qt::darkGreen));
-        // The logo is kept as PNG.
-        QVERIFY(gData->scalar(QStringLiteral("SELECT TeamLogo FROM Teams")).toByteArray().startsWith("\x89PNG"));
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
 
-        // Edited, and found again by the values typed.
-        TeamRecord edited = *back;
-        edited.TeamName = QStringLiteral("O'Brien's");
-        QCOMPARE(book.save(edited, false).result, TeamBook::Saved::Edited);
-        QCOMPARE(book.store().team(saved.teamID)->TeamName, QStringLiteral("O'Brien's"));
+        // Found again by the values typed.
         QCOMPARE(book.store().distinctValues(QStringLiteral("HomeField")), QStringList{t.HomeField});
         QCOMPARE(book.store().distinctValues(QStringLiteral("TeamName")), QStringList()); // only the offered columns
         QVERIFY(fake.messages.shown.isEmpty());

@@ -72,25 +72,17 @@ private Q_SLOTS:
         m_fake.reset();
     }
 
+    // Filters and reordering are driven through the schedule window
+    // (tst_schedulescrn); a quote in a filter and a tie are met here.
     void filterAndOrder()
     {
         ScheduleStore store(*gData);
         const qint64 g1 = store.insert(makeEvent("Game", QDate(2026, 4, 1), "Bears", "4", 1));
         const qint64 p1 = store.insert(makeEvent("Practice", QDate(2026, 4, 2)));
-        const qint64 g2 = store.insert(makeEvent("Game", QDate(2026, 4, 3), "Bears", "4", 2));
-        const qint64 m1 = store.insert(makeEvent("Meeting", QDate(2026, 4, 4)));
-        // New events go to the end.
-        QCOMPARE(positions(), (QMap<qint64, qint64>{{g1, 0}, {p1, 1}, {g2, 2}, {m1, 3}}));
-        QCOMPARE(ids(store.list("Show All")), (QList<qint64>{g1, p1, g2, m1}));
-        QCOMPARE(ids(store.list("Game")), (QList<qint64>{g1, g2}));
-        QCOMPARE(ids(store.list("Meeting")), QList<qint64>{m1});
-        QVERIFY(store.list("Scrimmage").isEmpty());
         QVERIFY(store.list("O'Brien's").isEmpty()); // a quote in a filter is only text
-
-        QVERIFY(store.savePositions({m1, g2, p1, g1}));
-        QCOMPARE(ids(store.list("Show All")), (QList<qint64>{m1, g2, p1, g1}));
+        QVERIFY(store.savePositions({p1, g1}));
         gData->exec("UPDATE Schedule SET position = 0 WHERE eventID = ?", {g1});
-        QCOMPARE(ids(store.list("Show All")), (QList<qint64>{g1, m1, g2, p1})); // a tie keeps the older first
+        QCOMPARE(ids(store.list("Show All")), (QList<qint64>{g1, p1})); // a tie keeps the older first
     }
 
     void removing_data()

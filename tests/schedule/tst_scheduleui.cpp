@@ -190,6 +190,7 @@ private Q_SLOTS:
         QCOMPARE(editor.opponentBox->itemText(2), QStringLiteral("N/A"));
         QCOMPARE(editor.opponentBox->itemData(2).toString(), QStringLiteral("-1"));
         QCOMPARE(editor.locationBox->count(), 2);
+        QCOMPARE(editor.locationBox->itemText(0), QStringLiteral("O'Malley's Field")); // in order
         QVERIFY(!editor.homeCheck->isEnabled());
         QCOMPARE(editor.homeCheck->checkState(), Qt::PartiallyChecked);
 
@@ -314,7 +315,8 @@ private Q_SLOTS:
     {
         Season season;
         const qint64 westBears = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")},
-                                                                         {QStringLiteral("SchoolName"), QStringLiteral("Westside")}});
+                                                                         {QStringLiteral("SchoolName"), QStringLiteral("Westside")},
+                                                                         {QStringLiteral("HomeField"), QStringLiteral("Riverside")}});
         eventClass game;
         game.mDate = QDate(2026, 4, 18);
         game.busTime = game.startTime = QStringLiteral("---");
@@ -330,6 +332,7 @@ private Q_SLOTS:
         QCOMPARE(editor.opponentBox->itemText(1), QStringLiteral("Bears (Westside)"));
         QCOMPARE(editor.opponentBox->itemText(2), QStringLiteral("O'Brien's Nine"));
         QCOMPARE(editor.opponentBox->currentText(), QStringLiteral("Bears (Westside)"));
+        QCOMPARE(editor.locationBox->count(), 2); // a field shared by two teams is offered once
         QVERIFY(editor.setEventProperties());
         QCOMPARE(*editor.result(), game);
     }

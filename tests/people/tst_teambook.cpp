@@ -30,30 +30,24 @@ private Q_SLOTS:
         auto &fake = f.fake;
         TeamBook book(*gData, *gPrefs);
         TeamRecord t = team(QStringLiteral("O'Brien's \"Prep\"; Academy"), QStringLiteral("Señores\tRojos"));
-        t.League = QStringLiteral("Tri-County, North");
-        t.Division = QStringLiteral("A; B");
-        t.SchoolAddress = QStringLiteral("1 Elm St.");
-        t.SchoolAddress1 = QStringLiteral("Suite \"B\"");
-        t.SchoolCity = QStringLiteral("Zürich");
-        t.SchoolZip = QStringLiteral("43017");
-        t.SchoolState = QStringLiteral("OH");
-        t.Phone = QStringLiteral("6145551234");
-        t.HomeField = QStringLiteral("Mc'Kinley Park'); DROP TABLE Teams;--");
+        // Every text field with what it holds, read back to the character.
+        const QList<std::pair<QString TeamRecord::*, QString>> typed{
+            {&TeamRecord::SchoolName, t.SchoolName}, {&TeamRecord::League, "Tri-County, North"},
+            {&TeamRecord::Division, "A; B"}, {&TeamRecord::SchoolAddress, "1 Elm St."},
+            {&TeamRecord::SchoolAddress1, "Suite \"B\""}, {&TeamRecord::SchoolCity, "Zürich"},
+            {&TeamRecord::SchoolZip, "43017"}, {&TeamRecord::SchoolState, "OH"}, {&TeamRecord::Phone, "6145551234"},
+            {&TeamRecord::HomeField, "Mc'Kinley Park'); DROP TABLE Teams;--"}};
+        for (const auto &[field, value] : typed)
+            t.*field = value;
         t.Active = false;
 
         const auto saved = book.save(t, false);
         QCOMPARE(saved.result, TeamBook::Saved::Added);
         const auto back = book.store().team(saved.teamID);
         QVERIFY(back);
-        QCOMPARE(back->SchoolName, t.SchoolName);
+        for (const auto &[field, value] : typed)
+            QCOMPARE((*back).*field, value);
         QCOMPARE(back->TeamName, QStringLiteral("Señores Rojos")); // the tab can't reach the game strings
-        QCOMPARE(back->League, t.League);
-        QCOMPARE(back->Division, t.Division);
-        QCOMPARE(back->SchoolAddress1, t.SchoolAddress1);
-        QCOMPARE(back->SchoolCity, t.SchoolCity);
-        QCOMPARE(back->SchoolState, t.SchoolState);
-        QCOMPARE(back->Phone, t.Phone);
-        QCOMPARE(back->HomeField, t.HomeField);
         QCOMPARE(back->Active, false);
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
 

@@ -317,13 +317,7 @@ private Q_SLOTS:
         const qint64 westBears = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")},
                                                                          {QStringLiteral("SchoolName"), QStringLiteral("Westside")},
                                                                          {QStringLiteral("HomeField"), QStringLiteral("Riverside")}});
-        eventClass game;
-        game.mDate = QDate(2026, 4, 18);
-        game.busTime = game.startTime = QStringLiteral("---");
-        game.eventType = QStringLiteral("Game");
-        game.opponent = QStringLiteral("Bears");
-        game.oppID = QString::number(westBears);
-        game.isHome = 1;
+        const eventClass game = scheduletest::makeEvent("Game", QDate(2026, 4, 18), "Bears", westBears, 1);
         const qint64 id = ScheduleStore(*gData).insert(game);
 
         newEventScrn editor;
@@ -402,15 +396,9 @@ private Q_SLOTS:
     {
         Season season;
         ScheduleStore store(*gData);
-        eventClass game;
-        game.mDate = QDate(2026, 4, 18);
+        eventClass game = scheduletest::makeEvent("Game", QDate(2026, 4, 18), "Bears", season.bearsID, 2);
         game.busTime = QStringLiteral("3:15 PM");
         game.startTime = QStringLiteral("---");
-        game.eventType = QStringLiteral("Game");
-        game.opponent = QStringLiteral("Bears");
-        game.oppID = QString::number(season.bearsID);
-        game.location = QStringLiteral("Riverside");
-        game.isHome = 2;
         const qint64 id = store.insert(game);
 
         newEventScrn editor;

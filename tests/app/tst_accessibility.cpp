@@ -18,9 +18,12 @@
 #include "app/ui/startScrn1.h"
 #include "fakes/TestKit.h"
 #include "gameday/ui/battingPOP.h"
+#include "people/ui/emailRecipientsDlog.h"
 #include "people/ui/teamScrn.h"
 #include "schedule/ui/Calendar.h"
 #include "schedule/ui/newEventScrn.h"
+#include "seasondata/ui/TransferDataScrn.h"
+#include "seasondata/ui/UDVStatsScrn.h"
 #include "support/ui/PlusMinusContainer.h"
 #include "support/ui/getInfoScrn_small.h"
 #include "support/ui/pleaseWaitScrn.h"
@@ -122,6 +125,13 @@ private Q_SLOTS:
         QTest::newRow("getInfoScrn_small") << Opener([] { return new getInfoScrn_small(nullptr, "Team &Name:"); });
         QTest::newRow("pleaseWaitScrn") << Opener([] { return new pleaseWaitScrn; });
         QTest::newRow("battingPOP") << Opener([] { return new battingPOP; });
+        QTest::newRow("emailRecipientsDlog") << Opener([] { return new emailRecipientsDlog; });
+        QTest::newRow("UDVStatsScrn") << Opener([] { return new UDVStatsScrn; });
+        QTest::newRow("TransferDataScrn, lists out") << Opener([] {
+            auto *sheet = new TransferDataScrn;
+            sheet->teamArea->show();
+            return sheet;
+        });
     }
 
     void windows()
@@ -141,7 +151,14 @@ private Q_SLOTS:
         for (QWidget *w : controls) {
             // Controls on a tab not shown count; controls hidden on purpose
             // (the empty days of a calendar page) don't.
-            if (!(w->focusPolicy() & Qt::TabFocus) || w->window() != window || w->isHidden())
+            if (w->window() != window || w->isHidden())
+                continue;
+            // A control that takes the focus takes it from the keyboard too
+            // (the game day's team and game buttons still take clicks only).
+            if (window->objectName() != u"gameDayScrn" && w->focusPolicy() != Qt::NoFocus && !(w->focusPolicy() & Qt::TabFocus) && !w->inherits("QLabel")
+                && !w->inherits("QMenuBar") && !w->parentWidget()->inherits("QAbstractScrollArea"))
+                faults << w->objectName() + QStringLiteral(" (not by keyboard)");
+            if (!(w->focusPolicy() & Qt::TabFocus))
                 continue;
             ++reached;
             check(QAccessible::queryAccessibleInterface(w), w->objectName() + u':' + w->metaObject()->className(),

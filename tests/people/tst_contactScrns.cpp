@@ -2,7 +2,7 @@
 // them: one list's selection at a time, a message to the selected people,
 // the printout, the settings' checks and where the password goes.
 
-#include "ScreenTestSupport.h"
+#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/myPrefs.h"
@@ -27,22 +27,11 @@ class TestContactScrns : public QObject
 {
     Q_OBJECT
 
-    struct Session
+    struct Session : testkit::Season
     {
-        QTemporaryDir home;
-        fakes::FakePlatform fake { home.filePath(QStringLiteral("prints")) };
-        App app { home.filePath(QStringLiteral("data")) };
-        QString team;
-        Session()
-        {
-            QDir(home.path()).mkpath(QStringLiteral("prints"));
-            app.Event_Open();
-            team = QString::number(gData->insert(
-                QStringLiteral("Teams"), { { QStringLiteral("TeamName"), QStringLiteral("Ann & Bo's #1 Nine?") } }));
-            gData->insert(QStringLiteral("Teams"), { { QStringLiteral("TeamName"), QStringLiteral("Bears") } });
-            gPrefs->prHomeTeam = team;
-        }
-        ~Session() { screentest::closeAllWindows(); }
+        QString team = QString::number(addTeam(QStringLiteral("Ann & Bo's #1 Nine?"), {}, {}, true));
+        qint64 bears = addTeam(QStringLiteral("Bears"));
+        Session() : testkit::Season(false) { }
         void person(const char *table, const QString &first, const QString &email)
         {
             gData->insert(QString::fromLatin1(table),
@@ -82,7 +71,7 @@ private Q_SLOTS:
         s.person("Players", QStringLiteral("Cy"), QString());
         s.person("Coaches", QStringLiteral("Dee"), QStringLiteral("dee@example.org"));
         auto *screen = new contactInfoScrn;
-        QVERIFY(screentest::showActive(screen));
+        QVERIFY(testkit::showActive(screen));
         QCOMPARE(screen->teamIDFld->text(), s.team);
         QCOMPARE(screen->playersList->rowCount(), 3);
         QCOMPARE(screen->playersList->cell(0, 2), QStringLiteral("6145551234"));
@@ -106,12 +95,12 @@ private Q_SLOTS:
         // Back to the coaches; the other team's lists are empty.
         screen->coachesList->setSelectedRow(0);
         QVERIFY(screen->playersList->selectedRows().isEmpty());
-        QVERIFY(screentest::choose(screen->selectTeamPop, QStringLiteral("Bears")));
+        QVERIFY(testkit::choose(screen->selectTeamPop, QStringLiteral("Bears")));
         QCOMPARE(screen->playersList->rowCount(), 0);
         QVERIFY(!screen->emailBtn->isEnabled());
 
         // The players' list prints.
-        QVERIFY(screentest::choose(screen->selectTeamPop, QStringLiteral("Ann & Bo's #1 Nine?")));
+        QVERIFY(testkit::choose(screen->selectTeamPop, QStringLiteral("Ann & Bo's #1 Nine?")));
         QTest::mouseClick(screen->printBtn, Qt::LeftButton);
         QCOMPARE(s.fake.printing.printed.size(), 1);
         QVERIFY(fakes::pdfText(s.fake.printing.printed.first()).contains(QStringLiteral("bo+team@example.org")));

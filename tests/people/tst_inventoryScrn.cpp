@@ -2,7 +2,7 @@
 // into the pool, units handed out, the list exported and imported again,
 // the lists printed, the backup timer running while the screen is open.
 
-#include "ScreenTestSupport.h"
+#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/myTimerClass.h"
@@ -22,36 +22,19 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
-using screentest::typeInto;
+using testkit::typeInto;
 
 class TestInventoryScrn : public QObject
 {
     Q_OBJECT
 
-    struct Session
+    struct Session : testkit::Season
     {
-        QTemporaryDir home;
-        fakes::FakePlatform fake { home.filePath(QStringLiteral("prints")) };
-        App app { home.filePath(QStringLiteral("data")) };
-        QString cougars;
-        Session()
-        {
-            QDir(home.path()).mkpath(QStringLiteral("prints"));
-            app.Event_Open();
-            cougars = QString::number(gData->insert(QStringLiteral("Teams"),
-                { { QStringLiteral("SchoolName"), QStringLiteral("O'Brien's") },
-                    { QStringLiteral("TeamName"), QStringLiteral("Nine") } }));
-            gData->insert(QStringLiteral("Teams"),
-                { { QStringLiteral("SchoolName"), QStringLiteral("East") },
-                    { QStringLiteral("TeamName"), QStringLiteral("Bears") } });
-            for (const char *first : { "Ann", "Bo" })
-                gData->insert(QStringLiteral("Players"),
-                    { { QStringLiteral("TeamNum"), cougars.toLongLong() },
-                        { QStringLiteral("First"), QString::fromLatin1(first) },
-                        { QStringLiteral("Last"), QStringLiteral("Ames") } });
-            gPrefs->prHomeTeam = cougars;
-        }
-        ~Session() { screentest::closeAllWindows(); }
+        qint64 cougars = addTeam(QStringLiteral("Nine"), QStringLiteral("O'Brien's"), {}, true);
+        qint64 bears = addTeam(QStringLiteral("Bears"), QStringLiteral("East"));
+        qint64 ann = addPlayer(cougars, QStringLiteral("Ann"), QStringLiteral("Ames"));
+        qint64 bo = addPlayer(cougars, QStringLiteral("Bo"), QStringLiteral("Ames"));
+        Session() : testkit::Season(false) { }
     };
 
     static QStringList rows(const qlmListBox *list)
@@ -69,7 +52,7 @@ private Q_SLOTS:
     {
         Session s;
         auto *screen = new InventoryScrn;
-        QVERIFY(screentest::showActive(screen));
+        QVERIFY(testkit::showActive(screen));
         QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeMultiple);
         QCOMPARE(screen->selTeamPop->currentText(), QStringLiteral("O'Brien's Nine"));
         QCOMPARE(screen->selPlayerPop->itemText(0), QStringLiteral("Select A Player"));
@@ -91,10 +74,10 @@ private Q_SLOTS:
 
         // The plus button adds only with a count.
         typeInto(screen->inputFld[1], QStringLiteral("Bat"));
-        screentest::clickHalf(screen->TeamInvPlusMinus, true);
+        testkit::clickHalf(screen->TeamInvPlusMinus, true);
         QCOMPARE(screen->teamInvList->rowCount(), 1);
         typeInto(screen->inputFld[0], QStringLiteral("0"));
-        screentest::clickHalf(screen->TeamInvPlusMinus, true);
+        testkit::clickHalf(screen->TeamInvPlusMinus, true);
         QCOMPARE(rows(screen->teamInvList).last(), QStringLiteral("1|Bat|"));
 
         // A selected row fills the fields; Enter saves it over.
@@ -106,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(screen->teamInvList->selectedRow(), -1);
 
         // A unit to Bo and back, then the minus button removes the bats.
-        screentest::choose(screen->selPlayerPop, QStringLiteral("Bo Ames"));
+        testkit::choose(screen->selPlayerPop, QStringLiteral("Bo Ames"));
         QVERIFY(screen->addBtn->isEnabled());
         screen->teamInvList->setSelectedRow(0);
         QTest::mouseClick(screen->addBtn, Qt::LeftButton);
@@ -118,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(rows(screen->IndivList).isEmpty());
         QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("3|Helmet|H-1"));
         screen->teamInvList->setSelectedRow(1);
-        screentest::clickHalf(screen->TeamInvPlusMinus, false);
+        testkit::clickHalf(screen->TeamInvPlusMinus, false);
         QCOMPARE(rows(screen->teamInvList), QStringList { QStringLiteral("3|Helmet|H-1") });
 
         screen->close();
@@ -131,7 +114,7 @@ private Q_SLOTS:
     {
         Session s;
         auto *screen = new InventoryScrn;
-        QVERIFY(screentest::showActive(screen));
+        QVERIFY(testkit::showActive(screen));
         const QStringList pool { QStringLiteral("12|Baseballs|"), QStringLiteral("1|Catcher's mask|C #2"),
             QStringLiteral("-1|Rosin & tar|R?%") };
         for (const QString &row : pool) {
@@ -147,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(file));
 
         // Into the other team, through the File menu's import.
-        screentest::choose(screen->selTeamPop, QStringLiteral("East Bears"));
+        testkit::choose(screen->selTeamPop, QStringLiteral("East Bears"));
         QVERIFY(rows(screen->teamInvList).isEmpty());
         s.fake.files.answers.enqueue(file);
         auto *import = screen->menus()->findChild<QAction *>(QStringLiteral("FileImport"));
@@ -158,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(s.fake.messages.shown.isEmpty());
 
         // A file that isn't text is ignored.
-        const QString picture = screentest::writePicture(s.home.filePath(QStringLiteral("p.png")), { 4, 4 }, Qt::red);
+        const QString picture = fakes::writePicture(s.home.filePath(QStringLiteral("p.png")), { 4, 4 }, Qt::red);
         s.fake.files.answers.enqueue(picture);
         import->trigger();
         QCOMPARE(screen->teamInvList->rowCount(), 3);
@@ -170,10 +153,10 @@ private Q_SLOTS:
     {
         Session s;
         auto *screen = new InventoryScrn;
-        QVERIFY(screentest::showActive(screen));
+        QVERIFY(testkit::showActive(screen));
         QVERIFY(screen->book().enterItem(-1, QStringLiteral("2"), QStringLiteral("Glove"), QStringLiteral("G9")));
         screen->loadTeamList();
-        screentest::choose(screen->selPlayerPop, QStringLiteral("Ann Ames"));
+        testkit::choose(screen->selPlayerPop, QStringLiteral("Ann Ames"));
         screen->teamInvList->setSelectedRow(0);
         QTest::mouseClick(screen->addBtn, Qt::LeftButton);
         QTest::mouseClick(screen->printTeamInvBtn, Qt::LeftButton);

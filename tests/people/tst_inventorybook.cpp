@@ -1,8 +1,7 @@
 // The inventory's rules on a season of its own: units handed out and taken
 // back, pool rows made and removed, and imports of damaged files.
 
-#include "PeopleFixture.h"
-#include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "people/InventoryBook.h"
 
 #include <QTest>
@@ -13,18 +12,13 @@ class TestInventoryBook : public QObject
 {
     Q_OBJECT
 
-    struct Platform
+    struct Season : testkit::Season
     {
-        fakes::FakePlatform fake;
-    };
-    // The fakes first: the preferences read the clock.
-    struct Season : Platform, PeopleFixture
-    {
-        InventoryBook book { *db };
-        QString team = addTeam(QStringLiteral("Central"), QStringLiteral("Cougars"));
-        QString ann = addPlayer(team, QStringLiteral("Ann"), QStringLiteral("Ames"));
-        QString bo = addPlayer(team, QStringLiteral("Bo"), QStringLiteral("Bell"));
-        Season() { book.selectTeam(team); }
+        InventoryBook book { *gData };
+        QString team = QString::number(addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
+        QString ann = QString::number(addPlayer(team.toLongLong(), QStringLiteral("Ann"), QStringLiteral("Ames")));
+        QString bo = QString::number(addPlayer(team.toLongLong(), QStringLiteral("Bo"), QStringLiteral("Bell")));
+        Season() : testkit::Season(false) { book.selectTeam(team); }
 
         // The pool as "quantity item ID" texts.
         QStringList pool() const
@@ -198,5 +192,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestInventoryBook)
+QTEST_MAIN(TestInventoryBook)
 #include "tst_inventorybook.moc"

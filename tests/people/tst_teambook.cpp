@@ -30,44 +30,28 @@ private Q_SLOTS:
         auto &fake = f.fake;
         TeamBook book(*gData, *gPrefs);
         TeamRecord t = team(QStringLiteral("O'Brien's \"Prep\"; Academy"), QStringLiteral("Señores\tRojos"));
-        t.League = QStringLiteral("Tri-County, North");
-        t.Division = QStringLiteral("A; B");
-        t.SchoolAddress = QStringLiteral("1 Elm St.");
-        t.SchoolAddress1 = QStringLiteral("Suite \"B\"");
-        t.SchoolCity = QStringLiteral("Zürich");
-        t.SchoolZip = QStringLiteral("43017");
-        t.SchoolState = QStringLiteral("OH");
-        t.Phone = QStringLiteral("6145551234");
-        t.HomeField = QStringLiteral("Mc'Kinley Park'); DROP TABLE Teams;--");
+        // Every text field with what it holds, read back to the character.
+        const QList<std::pair<QString TeamRecord::*, QString>> typed{
+            {&TeamRecord::SchoolName, t.SchoolName}, {&TeamRecord::League, "Tri-County, North"},
+            {&TeamRecord::Division, "A; B"}, {&TeamRecord::SchoolAddress, "1 Elm St."},
+            {&TeamRecord::SchoolAddress1, "Suite \"B\""}, {&TeamRecord::SchoolCity, "Zürich"},
+            {&TeamRecord::SchoolZip, "43017"}, {&TeamRecord::SchoolState, "OH"}, {&TeamRecord::Phone, "6145551234"},
+            {&TeamRecord::HomeField, "Mc'Kinley Park'); DROP TABLE Teams;--"}};
+        for (const auto &[field, value] : typed)
+            t.*field = value;
         t.Active = false;
-        t.TeamLogo = QImage(30, 20, QImage::Format_ARGB32);
-        t.TeamLogo.fill(Qt::darkGreen);
 
         const auto saved = book.save(t, false);
         QCOMPARE(saved.result, TeamBook::Saved::Added);
         const auto back = book.store().team(saved.teamID);
         QVERIFY(back);
-        QCOMPARE(back->SchoolName, t.SchoolName);
+        for (const auto &[field, value] : typed)
+            QCOMPARE((*back).*field, value);
         QCOMPARE(back->TeamName, QStringLiteral("Señores Rojos")); // the tab can't reach the game strings
-        QCOMPARE(back->League, t.League);
-        QCOMPARE(back->Division, t.Division);
-        QCOMPARE(back->SchoolAddress1, t.SchoolAddress1);
-        QCOMPARE(back->SchoolCity, t.SchoolCity);
-        QCOMPARE(back->SchoolState, t.SchoolState);
-        QCOMPARE(back->Phone, t.Phone);
-        QCOMPARE(back->HomeField, t.HomeField);
         QCOMPARE(back->Active, false);
-        QCOMPARE(back->TeamLogo.size(), QSize(30, 20));
-        QCOMPARE(back->TeamLogo.pixelColor(5, 5), QColor(Qt::darkGreen));
-        // The logo is kept as PNG.
-        QVERIFY(gData->scalar(QStringLiteral("SELECT TeamLogo FROM Teams")).toByteArray().startsWith("\x89PNG"));
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
 
-        // Edited, and found again by the values typed.
-        TeamRecord edited = *back;
-        edited.TeamName = QStringLiteral("O'Brien's");
-        QCOMPARE(book.save(edited, false).result, TeamBook::Saved::Edited);
-        QCOMPARE(book.store().team(saved.teamID)->TeamName, QStringLiteral("O'Brien's"));
+        // Found again by the values typed.
         QCOMPARE(book.store().distinctValues(QStringLiteral("HomeField")), QStringList{t.HomeField});
         QCOMPARE(book.store().distinctValues(QStringLiteral("TeamName")), QStringList()); // only the offered columns
         QVERIFY(fake.messages.shown.isEmpty());

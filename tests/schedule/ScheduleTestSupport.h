@@ -5,6 +5,7 @@
 
 #include "app/globals.h"
 #include "fakes/TestKit.h"
+#include "schedule/eventClass.h"
 
 namespace scheduletest {
 
@@ -15,5 +16,21 @@ struct Season : testkit::Season
 };
 
 using testkit::whenShown;
+
+// An event leaving the bus at 3:30 PM, starting at 4:30 PM at Riverside.
+inline eventClass makeEvent(const QString &type, const QDate &date, const QString &opponent = {}, qint64 oppID = -1,
+                            std::uint8_t home = 0)
+{
+    eventClass e;
+    e.mDate = date;
+    e.busTime = QStringLiteral("3:30 PM");
+    e.startTime = QStringLiteral("4:30 PM");
+    e.eventType = type;
+    e.opponent = opponent;
+    e.oppID = QString::number(oppID);
+    e.location = QStringLiteral("Riverside");
+    e.isHome = home;
+    return e;
+}
 
 } // namespace scheduletest

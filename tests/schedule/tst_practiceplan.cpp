@@ -6,9 +6,6 @@
 #include "ScheduleTestSupport.h"
 #include "app/myPrefs.h"
 #include "app/ui/ScreenDirectory.h"
-#include "people/ui/InventoryScrn.h"
-#include "people/ui/contactInfoScrn.h"
-#include "people/ui/emailInfoScrn.h"
 #include "people/ui/emailRecipientsDlog.h"
 #include "reports/ui/qlmListBox.h"
 #include "schedule/ui/practicePlanScrn.h"
@@ -16,7 +13,6 @@
 #include "support/ui/getInfoScrn_small.h"
 #include "support/ui/qlmCheckBox.h"
 
-#include <QAccessible>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -300,48 +296,6 @@ private Q_SLOTS:
         QCOMPARE(query.queryItemValue(QStringLiteral("body"), QUrl::FullyDecoded),
             heading + QStringLiteral("\r\n") + heading
                 + QStringLiteral("Hit & run?\t3:00 PM\t\tDee 100%\r\nLaps\t\t\t"));
-    }
-
-    // Every control of the new windows reaches assistive tools by a name.
-    void everyControlIsNamed_data()
-    {
-        QTest::addColumn<QString>("window");
-        for (const char *w :
-            { "practicePlanScrn", "InventoryScrn", "contactInfoScrn", "emailInfoScrn", "emailRecipientsDlog" })
-            QTest::newRow(w) << QString::fromLatin1(w);
-    }
-    void everyControlIsNamed()
-    {
-        QFETCH(QString, window);
-        Season season;
-        QWidget *w = nullptr;
-        if (window == u"practicePlanScrn")
-            w = new practicePlanScrn(
-                QString::number(practice(QStringLiteral("2026-04-14"), QStringLiteral("Riverside"))));
-        else if (window == u"InventoryScrn")
-            w = new InventoryScrn;
-        else if (window == u"contactInfoScrn")
-            w = new contactInfoScrn;
-        else if (window == u"emailInfoScrn")
-            w = new emailInfoScrn;
-        else
-            w = new emailRecipientsDlog;
-        w->setAttribute(Qt::WA_DeleteOnClose);
-        w->show();
-        QCOMPARE(w->objectName(), window);
-        int controls = 0;
-        for (QWidget *child : w->findChildren<QWidget *>()) {
-            if (child->focusPolicy() == Qt::NoFocus || !child->isVisibleTo(w) || child->focusProxy())
-                continue;
-            ++controls;
-            QAccessibleInterface *a = QAccessible::queryAccessibleInterface(child);
-            QVERIFY(a);
-            const bool named = !a->text(QAccessible::Name).isEmpty()
-                || (qobject_cast<QLabel *>(child) && !a->text(QAccessible::Description).isEmpty());
-            QVERIFY2(named, qPrintable(child->metaObject()->className() + QStringLiteral(" ") + child->objectName()));
-        }
-        QVERIFY(controls > 5);
-        w->close();
     }
 };
 

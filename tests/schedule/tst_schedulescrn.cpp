@@ -26,6 +26,7 @@
 #include <QToolButton>
 
 using scheduletest::Season;
+using scheduletest::makeEvent;
 using scheduletest::whenShown;
 
 namespace {
@@ -74,20 +75,6 @@ QMap<qint64, qint64> positions()
     for (const Record &r : gData->select(QStringLiteral("SELECT eventID, position FROM Schedule")))
         map.insert(r.integer(QStringLiteral("eventID")), r.integer(QStringLiteral("position")));
     return map;
-}
-
-eventClass makeEvent(const QString &type, const QDate &date, const QString &opponent, qint64 oppID, std::uint8_t home)
-{
-    eventClass e;
-    e.mDate = date;
-    e.busTime = QStringLiteral("3:30 PM");
-    e.startTime = QStringLiteral("4:30 PM");
-    e.eventType = type;
-    e.opponent = opponent;
-    e.oppID = QString::number(oppID);
-    e.location = QStringLiteral("Riverside");
-    e.isHome = home;
-    return e;
 }
 
 // Drags row `from` of the list and drops it on the upper half of row `onto`,

@@ -81,8 +81,6 @@ private Q_SLOTS:
         QCOMPARE(limitValueRange(5, 1, 3), 3);
         QCOMPARE(limitValueRange(0, 1, 3), 1);
         QCOMPARE(limitValueRange(2, 1, 3), 2);
-        QCOMPARE(gBool2Int(true), 1);
-        QCOMPARE(gBool2Int(false), 0);
         QVERIFY(gIsEnterKey(QString(QChar(13))));
         QVERIFY(gIsEnterKey(QString(QChar(3))));
         QVERIFY(!gIsEnterKey(QStringLiteral("\n")));

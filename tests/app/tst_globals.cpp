@@ -3,7 +3,6 @@
 #include "app/FileTypes.h"
 #include "app/LocaleInfo.h"
 #include "app/globals.h"
-#include "fakes/FakePlatform.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -112,28 +111,6 @@ private Q_SLOTS:
         QCOMPARE(gCreateVertPrinterPts(setup, 216), (QList<int>{0, 216, 432}));
         QCOMPARE(gCreateVertPrinterPts(setup, 240), (QList<int>{0, 240, 480}));
         QCOMPARE(gCreateVertPrinterPts(setup, 721), QList<int>{0});
-    }
-
-    void printerSetupMemory()
-    {
-        fakes::FakePlatform fake;
-        gPrinterSettings.clear();
-        std::optional<platform::PrinterSetup> setup;
-        platform::PrinterSetup landscape;
-        landscape.setLandscape(true);
-        fake.printing.setupAnswers.enqueue(landscape);
-        gGetPrinterSetup(setup, false);
-        QVERIFY(setup && setup->isLandscape());
-        QCOMPARE(fake.printing.setupDialogs, 1);
-        // Remembered for the session: no second dialog unless forced.
-        std::optional<platform::PrinterSetup> again;
-        gGetPrinterSetup(again, false);
-        QCOMPARE(fake.printing.setupDialogs, 1);
-        QVERIFY(again && again->isLandscape());
-        fake.printing.setupAnswers.enqueue(std::nullopt);
-        gGetPrinterSetup(again, true);
-        QVERIFY(!again);
-        QVERIFY(!gPrinterSettings.isEmpty());
     }
 
     void printerSetupText_data()

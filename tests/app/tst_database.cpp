@@ -92,18 +92,6 @@ private Q_SLOTS:
         QCOMPARE(db.getTeamNameFromID(QStringLiteral("x' OR '1'='1"), false), QString());
     }
 
-    void blobsRoundTrip()
-    {
-        fakes::FakePlatform fake;
-        QTemporaryDir dir;
-        myDB db(dir.path(), QStringLiteral("2026"));
-        static const char bytes[] = "\x89PNG\r\n\x1a\n\0\0binary";
-        const QByteArray png(bytes, sizeof bytes - 1);
-        const qint64 id = db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Hawks")},
-                                                             {QStringLiteral("TeamLogo"), png}});
-        QCOMPARE(db.select(QStringLiteral("SELECT TeamLogo FROM Teams WHERE teamID = ?"), {id}).first().blob(QStringLiteral("TeamLogo")), png);
-    }
-
     void errorCodes_data()
     {
         QTest::addColumn<QString>("sql");

@@ -3,7 +3,6 @@
 #include "app/FileTypes.h"
 #include "app/LocaleInfo.h"
 #include "app/globals.h"
-#include "fakes/FakePlatform.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -81,8 +80,6 @@ private Q_SLOTS:
         QCOMPARE(limitValueRange(5, 1, 3), 3);
         QCOMPARE(limitValueRange(0, 1, 3), 1);
         QCOMPARE(limitValueRange(2, 1, 3), 2);
-        QCOMPARE(gBool2Int(true), 1);
-        QCOMPARE(gBool2Int(false), 0);
         QVERIFY(gIsEnterKey(QString(QChar(13))));
         QVERIFY(gIsEnterKey(QString(QChar(3))));
         QVERIFY(!gIsEnterKey(QStringLiteral("\n")));
@@ -114,28 +111,6 @@ private Q_SLOTS:
         QCOMPARE(gCreateVertPrinterPts(setup, 216), (QList<int>{0, 216, 432}));
         QCOMPARE(gCreateVertPrinterPts(setup, 240), (QList<int>{0, 240, 480}));
         QCOMPARE(gCreateVertPrinterPts(setup, 721), QList<int>{0});
-    }
-
-    void printerSetupMemory()
-    {
-        fakes::FakePlatform fake;
-        gPrinterSettings.clear();
-        std::optional<platform::PrinterSetup> setup;
-        platform::PrinterSetup landscape;
-        landscape.setLandscape(true);
-        fake.printing.setupAnswers.enqueue(landscape);
-        gGetPrinterSetup(setup, false);
-        QVERIFY(setup && setup->isLandscape());
-        QCOMPARE(fake.printing.setupDialogs, 1);
-        // Remembered for the session: no second dialog unless forced.
-        std::optional<platform::PrinterSetup> again;
-        gGetPrinterSetup(again, false);
-        QCOMPARE(fake.printing.setupDialogs, 1);
-        QVERIFY(again && again->isLandscape());
-        fake.printing.setupAnswers.enqueue(std::nullopt);
-        gGetPrinterSetup(again, true);
-        QVERIFY(!again);
-        QVERIFY(!gPrinterSettings.isEmpty());
     }
 
     void printerSetupText_data()

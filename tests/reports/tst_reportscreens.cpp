@@ -8,10 +8,8 @@
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportIntroScrn.h"
 #include "reports/ui/reportScrn.h"
-#include "reports/ui/standingsScrn.h"
 #include "support/ui/qlmCheckBox.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -220,34 +218,6 @@ private Q_SLOTS:
         QVERIFY(fakes::pdfText(f.platform.printing.printed.at(1)).contains(QStringLiteral("No Data Available")));
         QVERIFY(!report->menus()->item(QStringLiteral("Help"))->isEnabled());
         QVERIFY(!report->menus()->item(QStringLiteral("Abbrev"))->isEnabled());
-    }
-
-    // Every control a coach can reach from the keyboard has a name to be read.
-    void controlsHaveNames_data()
-    {
-        QTest::addColumn<int>("window");
-        QTest::newRow("reportIntroScrn") << 0;
-        QTest::newRow("reportScrn") << 1;
-        QTest::newRow("standingsScrn") << 2;
-    }
-    void controlsHaveNames()
-    {
-        QFETCH(int, window);
-        BattingSeason f;
-        QWidget *screen = window == 0   ? static_cast<QWidget *>(new reportIntroScrn)
-                          : window == 1 ? static_cast<QWidget *>(new reportScrn(0, {"First Name", "Last Name"}))
-                                        : static_cast<QWidget *>(new standingsScrn);
-        screen->show();
-        int checked = 0;
-        for (QWidget *w : screen->findChildren<QWidget *>()) {
-            if (!w->isVisibleTo(screen) || w->focusPolicy() == Qt::NoFocus || w->inherits("QMenuBar") ||
-                w->parentWidget()->inherits("QAbstractItemView") || w->parentWidget()->inherits("QComboBox"))
-                continue;
-            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(w);
-            QVERIFY2(face && !face->text(QAccessible::Name).isEmpty(), qPrintable(w->objectName()));
-            ++checked;
-        }
-        QVERIFY(checked >= 4);
     }
 
     void newReportAndClose()

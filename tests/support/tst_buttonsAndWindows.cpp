@@ -47,33 +47,22 @@ private:
     };
 
 private Q_SLOTS:
-    void plusMinusClicks()
-    {
-        PairWindow w;
-        QVERIFY(QTest::qWaitForWindowActive(&w.window));
-        QSignalSpy plus(w.pair, &PlusMinusContainer::PlusPressed);
-        QSignalSpy minus(w.pair, &PlusMinusContainer::MinusPressed);
-
-        QTest::mouseClick(w.pair, Qt::LeftButton, {}, QPoint(8, 11));
-        QTest::mouseClick(w.pair, Qt::LeftButton, {}, QPoint(36, 11));
-        QCOMPARE(plus.count(), 1);
-        QCOMPARE(minus.count(), 1);
-        // A click doesn't take the focus from where the user types.
-        QVERIFY(!w.pair->hasFocus());
-    }
-
     void plusMinusHalvesApart()
     {
         PairWindow w;
         QVERIFY(QTest::qWaitForWindowActive(&w.window));
         QSignalSpy plus(w.pair, &PlusMinusContainer::PlusPressed);
         QSignalSpy minus(w.pair, &PlusMinusContainer::MinusPressed);
+        QTest::mouseClick(w.pair, Qt::LeftButton, {}, QPoint(8, 11));
+        QCOMPARE(plus.count(), 1);
+        // A click doesn't take the focus from where the user types.
+        QVERIFY(!w.pair->hasFocus());
         const QImage normal = w.pair->grab().toImage();
         w.pair->setPlusEnabled(false);
         QTest::mousePress(w.pair, Qt::LeftButton, {}, QPoint(8, 11));
         QVERIFY(!w.pair->pushPlus());
         QTest::mouseRelease(w.pair, Qt::LeftButton, {}, QPoint(8, 11));
-        QCOMPARE(plus.count(), 0);
+        QCOMPARE(plus.count(), 1);
         QTest::mouseClick(w.pair, Qt::LeftButton, {}, QPoint(36, 11));
         QCOMPARE(minus.count(), 1);
         // The left half shows disabled, the right half as before.

@@ -18,9 +18,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("body");
         QTest::addColumn<QString>("expectedBody"); // line ends as mail carries them
 
-        QTest::newRow("two players") << QStringList { QStringLiteral("ann@example.org"),
-            QStringLiteral("bo@example.org") }
-                                     << QStringLiteral("Central Cougars") << QString() << QString();
         QTest::newRow("delimiters in the subject")
             << QStringList { QStringLiteral("coach@example.org") } << QStringLiteral("A&B ?#% 100%+ O'Brien's = 1")
             << QString() << QString();

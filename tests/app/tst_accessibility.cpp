@@ -11,12 +11,12 @@
 #include "app/myDB.h"
 #include "app/myPrefs.h"
 
-#include <QDir>
 #include "app/ui/AboutScrn.h"
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/splashScrn.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/TestKit.h"
+#include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/battingPOP.h"
 #include "people/ui/emailRecipientsDlog.h"
 #include "people/ui/teamScrn.h"
@@ -24,10 +24,14 @@
 #include "schedule/ui/newEventScrn.h"
 #include "seasondata/ui/TransferDataScrn.h"
 #include "seasondata/ui/UDVStatsScrn.h"
+#include "stats/ui/AutoFillPitchScrn.h"
+#include "stats/ui/finalCheckScrn.h"
 #include "support/ui/PlusMinusContainer.h"
+#include "support/ui/expReporterScrn.h"
 #include "support/ui/getInfoScrn_small.h"
 #include "support/ui/pleaseWaitScrn.h"
 #include "support/ui/updateDlog.h"
+#include <QDir>
 
 #include <QAccessible>
 #include <QLabel>
@@ -104,10 +108,10 @@ private Q_SLOTS:
                     const bool game = id == ScreenId::gameDayScrn;
                     const qint64 hawks = gData->insert(u"Teams"_s, {{u"TeamName"_s, u"Hawks"_s}});
                     const qint64 event = gData->insert(u"Schedule"_s, {{u"SchedDate"_s, u"2026-04-15"_s},
-                                                                      {u"Event"_s, game ? u"Game"_s : u"Practice"_s},
-                                                                      {u"Opponent"_s, u"Hawks"_s},
-                                                                      {u"OppID"_s, QString::number(hawks)},
-                                                                      {u"isHome"_s, game ? 1 : 0}});
+                                                                       {u"Event"_s, game ? u"Game"_s : u"Practice"_s},
+                                                                       {u"Opponent"_s, u"Hawks"_s},
+                                                                       {u"OppID"_s, QString::number(hawks)},
+                                                                       {u"isHome"_s, game ? 1 : 0}});
                     return screens::create(id, QString::number(event));
                 });
                 continue;
@@ -127,6 +131,11 @@ private Q_SLOTS:
         QTest::newRow("battingPOP") << Opener([] { return new battingPOP; });
         QTest::newRow("emailRecipientsDlog") << Opener([] { return new emailRecipientsDlog; });
         QTest::newRow("UDVStatsScrn") << Opener([] { return new UDVStatsScrn; });
+        QTest::newRow("finalCheckScrn") << Opener([] { return new finalCheckScrn; });
+        QTest::newRow("AutoFillPitchScrn") << Opener([] { return new AutoFillPitchScrn; });
+        QTest::newRow("AddPlayersToGameScrn") << Opener([] { return new AddPlayersToGameScrn({}); });
+        QTest::newRow("expReporterScrn") << Opener([] { return new expReporterScrn(u"Error: \nSub Team.save()"_s); });
+        QTest::newRow("wAutoUpdate") << Opener([] { return new wAutoUpdate; });
         QTest::newRow("TransferDataScrn, lists out") << Opener([] {
             auto *sheet = new TransferDataScrn;
             sheet->teamArea->show();
@@ -153,10 +162,12 @@ private Q_SLOTS:
             // (the empty days of a calendar page) don't.
             if (w->window() != window || w->isHidden())
                 continue;
-            // A control that takes the focus takes it from the keyboard too
-            // (the game day's team and game buttons still take clicks only).
-            if (window->objectName() != u"gameDayScrn" && w->focusPolicy() != Qt::NoFocus && !(w->focusPolicy() & Qt::TabFocus) && !w->inherits("QLabel")
-                && !w->inherits("QMenuBar") && !w->parentWidget()->inherits("QAbstractScrollArea"))
+            // A control that takes the focus takes it from the keyboard too.
+            // (Of a group of radio buttons Tab reaches the checked one and the
+            // arrow keys the others, so Qt takes Tab from the unchecked ones.)
+            if (w->focusPolicy() != Qt::NoFocus && !(w->focusPolicy() & Qt::TabFocus) && !w->inherits("QLabel") &&
+                !w->inherits("QRadioButton") && !w->inherits("QMenuBar") &&
+                !w->parentWidget()->inherits("QAbstractScrollArea"))
                 faults << w->objectName() + QStringLiteral(" (not by keyboard)");
             if (!(w->focusPolicy() & Qt::TabFocus))
                 continue;

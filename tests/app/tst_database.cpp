@@ -69,8 +69,8 @@ private Q_SLOTS:
         const QString name = QStringLiteral("O'Brien's \"Bombers\"; DROP TABLE Teams; --");
         const QString school = QStringLiteral("St. Mary's\tNorth");
         const qint64 id = db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), name},
-                                                             {QStringLiteral("SchoolName"), school},
-                                                             {QStringLiteral("Active"), 1}});
+                                                              {QStringLiteral("SchoolName"), school},
+                                                              {QStringLiteral("Active"), 1}});
         QVERIFY(id > 0);
         QCOMPARE(db.getTeamNameFromID(QString::number(id), false), name);
         QCOMPARE(db.getTeamNameFromID(QString::number(id), true), school + u' ' + name);
@@ -158,7 +158,8 @@ private Q_SLOTS:
                             QStringLiteral(" BEGIN SELECT RAISE(ABORT, 'forced'); END")));
         int reached = 0;
         const bool ok = db.runInTransaction([&] {
-            const qint64 team = db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Hawks")}});
+            const qint64 team = db.insert(QStringLiteral("Teams"),
+                                          {{QStringLiteral("TeamName"), QStringLiteral("Hawks")}});
             ++reached;
             db.update(QStringLiteral("Teams"), {{QStringLiteral("League"), QStringLiteral("North")}},
                       QStringLiteral("teamID"), team);
@@ -168,12 +169,14 @@ private Q_SLOTS:
             SQLite::Statement raw(*db.tlynData, "DELETE FROM Schedule");
             raw.exec();
             ++reached;
-            QVERIFY(db.runInTransaction([&] { db.exec(QStringLiteral("INSERT INTO Drills (Drill) VALUES ('Bunts')")); }));
+            QVERIFY(
+                db.runInTransaction([&] { db.exec(QStringLiteral("INSERT INTO Drills (Drill) VALUES ('Bunts')")); }));
             ++reached;
         });
-        const QString counts = QStringLiteral("SELECT (SELECT COUNT(*) FROM Teams WHERE League = 'North') || ',' || "
-                                              "(SELECT COUNT(*) FROM Players) || ',' || (SELECT COUNT(*) FROM Schedule) "
-                                              "|| ',' || (SELECT COUNT(*) FROM Drills)");
+        const QString counts = QStringLiteral(
+            "SELECT (SELECT COUNT(*) FROM Teams WHERE League = 'North') || ',' || "
+            "(SELECT COUNT(*) FROM Players) || ',' || (SELECT COUNT(*) FROM Schedule) "
+            "|| ',' || (SELECT COUNT(*) FROM Drills)");
         if (trigger.isEmpty()) {
             QVERIFY(ok);
             QCOMPARE(reached, 5);
@@ -250,7 +253,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         QTest::newRow("held by another program for a moment") << QStringLiteral("locked") << true << QString();
         QTest::newRow("0 bytes: a new season") << QStringLiteral("empty") << true << QString();
-        QTest::newRow("read only: named now") << QStringLiteral("readonly") << false << QStringLiteral("\" can only be read.");
+        QTest::newRow("read only: named now")
+            << QStringLiteral("readonly") << false << QStringLiteral("\" can only be read.");
     }
     void openingExistingFile()
     {
@@ -292,7 +296,9 @@ private Q_SLOTS:
         if (message.isEmpty()) {
             QCOMPARE(fake.messages.texts(), QStringList());
             QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name <> "
-                                              "'sqlite_sequence'")).toInt(), int(schema::tableNames().size()));
+                                              "'sqlite_sequence'"))
+                         .toInt(),
+                     int(schema::tableNames().size()));
             QVERIFY(db.exec(QStringLiteral("INSERT INTO Teams (TeamName) VALUES ('Hawks')")));
         } else {
             QCOMPARE(fake.messages.shown.size(), 1);
@@ -308,7 +314,8 @@ private Q_SLOTS:
         myDB db(dir.path(), QStringLiteral("2026"));
         const QByteArray big(200000, 'x');
         for (int i = 0; i < 5; ++i)
-            db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QString::number(i)}, {QStringLiteral("TeamLogo"), big}});
+            db.insert(QStringLiteral("Teams"),
+                      {{QStringLiteral("TeamName"), QString::number(i)}, {QStringLiteral("TeamLogo"), big}});
         db.exec(QStringLiteral("DELETE FROM Teams"));
         const qint64 before = QFileInfo(db.filePath()).size();
         db.cleanUpDB();

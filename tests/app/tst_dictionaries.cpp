@@ -33,12 +33,12 @@ private Q_SLOTS:
             << pairs({"AB", "RSP", "HSP", "TOH", "X"}) << QStringList{"LOB", "RSP", "HSP", "TOH", "X"}
             << QList<int>{20, 22, 23, 24, 25} << 21;
         // Nine pieces in place of ten: the column names stand in, all five.
-        QTest::newRow("damaged list")
-            << pairs({"CS", "RSP", "HSP", "TOH", "X"}).section(u'\t', 0, 8)
-            << QStringList{"UDB1", "UDB2", "UDB3", "UDB4", "UDB5"} << QList<int>{21, 22, 23, 24, 25} << 0;
-        QTest::newRow("eleven pieces")
-            << pairs({"CS", "RSP", "HSP", "TOH", "X", "Y"}).section(u'\t', 0, 10)
-            << QStringList{"UDB1", "UDB2", "UDB3", "UDB4", "UDB5"} << QList<int>{21, 22, 23, 24, 25} << 0;
+        QTest::newRow("damaged list") << pairs({"CS", "RSP", "HSP", "TOH", "X"}).section(u'\t', 0, 8)
+                                      << QStringList{"UDB1", "UDB2", "UDB3", "UDB4", "UDB5"}
+                                      << QList<int>{21, 22, 23, 24, 25} << 0;
+        QTest::newRow("eleven pieces") << pairs({"CS", "RSP", "HSP", "TOH", "X", "Y"}).section(u'\t', 0, 10)
+                                       << QStringList{"UDB1", "UDB2", "UDB3", "UDB4", "UDB5"}
+                                       << QList<int>{21, 22, 23, 24, 25} << 0;
         QTest::newRow("empty") << QString() << QStringList{"UDB1", "UDB2", "UDB3", "UDB4", "UDB5"}
                                << QList<int>{21, 22, 23, 24, 25} << 0;
     }

@@ -32,44 +32,55 @@ private Q_SLOTS:
     void schema_data()
     {
         QTest::addColumn<QString>("create");
-        QTest::newRow("Coaches") << QString("CREATE TABLE Coaches (coachID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Coaches") << QString(
+            "CREATE TABLE Coaches (coachID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "TeamNum Integer, First VarChar, Last VarChar, Address VarChar, Address1 VarChar, "
             "City VarChar, State VarChar, Zip VarChar, PhoneNumber VarChar, CellPhone VarChar, "
             "Email VarChar, Assistant Integer, Active Integer, CoachPic Blob)");
-        QTest::newRow("Teams") << QString("CREATE TABLE Teams (teamID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Teams") << QString(
+            "CREATE TABLE Teams (teamID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "TeamName VarChar, SchoolName VarChar, League VarChar, Division VarChar, "
             "SchoolAddress VarChar, SchoolAddress1 VarChar, SchoolCity VarChar, SchoolZip VarChar, "
             "SchoolState VarChar, Phone VarChar, HomeField VarChar, Active Integer, TeamLogo Blob)");
-        QTest::newRow("Players") << QString("CREATE TABLE Players (playerID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Players") << QString(
+            "CREATE TABLE Players (playerID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "TeamNum Integer, First VarChar, Last VarChar, Address VarChar, Address1 VarChar, "
             "City VarChar, State VarChar, Zip VarChar, PhoneNumber VarChar, CellPhone VarChar, "
             "Email VarChar, Active Integer, UniNum VarChar, Pos1 VarChar, Pos2 VarChar, Pos3 VarChar, "
             "HitSide VarChar, ThrowSide VarChar, DOB VarChar, StudentID VarChar, Guardian VarChar, "
             "GuardianPhone VarChar, EmergContact VarChar, EmergPhone VarChar, Doctor VarChar, "
             "DoctorPhone VarChar, MedInfo VarChar, PlayerNotes VarChar, PlayerPic Blob)");
-        QTest::newRow("Schedule") << QString("CREATE TABLE Schedule (eventID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Schedule") << QString(
+            "CREATE TABLE Schedule (eventID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "SchedDate Date, BusTime VarChar, StartTime VarChar, Event VarChar, Opponent VarChar, "
             "OppID VarChar, Location VarChar, isHome Integer, position Integer)");
-        QTest::newRow("Drills") << QString("CREATE TABLE Drills (planID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Drills") << QString(
+            "CREATE TABLE Drills (planID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "scheduleID Varchar, drill Varchar, start Varchar, pEnd Varchar, coach Varchar)");
-        QTest::newRow("Games") << QString("CREATE TABLE Games (gameID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Games") << QString(
+            "CREATE TABLE Games (gameID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "schedID Varchar, Teams Varchar, HomeTeam Varchar, TeamAHeadings Varchar, TeamABench Varchar, "
             "TeamAPlayers Varchar, TeamAActions Varchar, TeamAOutcomes Varchar, TeamBHeadings Varchar, "
             "TeamBBench Varchar, TeamBPlayers Varchar, TeamBActions Varchar, TeamBOutcomes Varchar, "
             "TeamABatterStats VarChar, TeamBBatterStats VarChar, gameType VarChar, recorded Integer)");
-        QTest::newRow("GamesIndivHitting") << QString("CREATE TABLE GamesIndivHitting (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
-            "gameID Varchar, playerID Varchar, teamID Varchar, stats Varchar)");
-        QTest::newRow("GamesIndivFielding") << QString("CREATE TABLE GamesIndivFielding (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
-            "gameID Varchar, playerID Varchar, teamID VarChar, stats Varchar)");
-        QTest::newRow("GamesIndivPitching") << QString("CREATE TABLE GamesIndivPitching (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
-            "gameID Varchar, playerID Varchar, teamID VarChar, gameResult INTEGER NOT NULL DEFAULT 0, "
-            "start INTEGER NOT NULL DEFAULT 0, shutout INTEGER NOT NULL DEFAULT 0, "
-            "compGame INTEGER NOT NULL DEFAULT 0, totBalls INTEGER NOT NULL DEFAULT 0, "
-            "totKs INTEGER NOT NULL DEFAULT 0, stats Varchar)");
-        QTest::newRow("GameResultsByTeam") << QString("CREATE TABLE GameResultsByTeam (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
-            "teamID Integer, W Integer NOT NULL DEFAULT 0, L Integer NOT NULL DEFAULT 0, "
-            "Tie Integer NOT NULL DEFAULT 0)");
-        QTest::newRow("Hitting") << QString("CREATE TABLE Hitting (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("GamesIndivHitting")
+            << QString("CREATE TABLE GamesIndivHitting (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+                       "gameID Varchar, playerID Varchar, teamID Varchar, stats Varchar)");
+        QTest::newRow("GamesIndivFielding")
+            << QString("CREATE TABLE GamesIndivFielding (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+                       "gameID Varchar, playerID Varchar, teamID VarChar, stats Varchar)");
+        QTest::newRow("GamesIndivPitching")
+            << QString("CREATE TABLE GamesIndivPitching (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+                       "gameID Varchar, playerID Varchar, teamID VarChar, gameResult INTEGER NOT NULL DEFAULT 0, "
+                       "start INTEGER NOT NULL DEFAULT 0, shutout INTEGER NOT NULL DEFAULT 0, "
+                       "compGame INTEGER NOT NULL DEFAULT 0, totBalls INTEGER NOT NULL DEFAULT 0, "
+                       "totKs INTEGER NOT NULL DEFAULT 0, stats Varchar)");
+        QTest::newRow("GameResultsByTeam")
+            << QString("CREATE TABLE GameResultsByTeam (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+                       "teamID Integer, W Integer NOT NULL DEFAULT 0, L Integer NOT NULL DEFAULT 0, "
+                       "Tie Integer NOT NULL DEFAULT 0)");
+        QTest::newRow("Hitting") << QString(
+            "CREATE TABLE Hitting (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "playerID Integer NOT NULL DEFAULT 0, teamID Integer NOT NULL DEFAULT 0, "
             "gameID Integer NOT NULL DEFAULT 0, AB Integer NOT NULL DEFAULT 0, "
             "B1 Integer NOT NULL DEFAULT 0, B2 Integer NOT NULL DEFAULT 0, B3 Integer NOT NULL DEFAULT 0, "
@@ -83,7 +94,8 @@ private Q_SLOTS:
             "UDB1 Integer NOT NULL DEFAULT 0, UDB2 Integer NOT NULL DEFAULT 0, "
             "UDB3 Integer NOT NULL DEFAULT 0, UDB4 Integer NOT NULL DEFAULT 0, "
             "UDB5 Integer NOT NULL DEFAULT 0)");
-        QTest::newRow("Fielding") << QString("CREATE TABLE Fielding (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Fielding") << QString(
+            "CREATE TABLE Fielding (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "playerID Integer NOT NULL DEFAULT 0, teamID Integer NOT NULL DEFAULT 0, "
             "gameID Integer NOT NULL DEFAULT 0, IP Integer NOT NULL DEFAULT 0, "
             "CH Integer NOT NULL DEFAULT 0, PO Integer NOT NULL DEFAULT 0, "
@@ -92,7 +104,8 @@ private Q_SLOTS:
             "SBA Integer NOT NULL DEFAULT 0, CS Integer NOT NULL DEFAULT 0, "
             "UDF1 Integer NOT NULL DEFAULT 0, UDF2 Integer NOT NULL DEFAULT 0, "
             "UDF3 Integer NOT NULL DEFAULT 0)");
-        QTest::newRow("Pitching") << QString("CREATE TABLE Pitching (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("Pitching") << QString(
+            "CREATE TABLE Pitching (recID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "playerID Integer NOT NULL DEFAULT 0, teamID Integer NOT NULL DEFAULT 0, "
             "gameID Integer NOT NULL DEFAULT 0, Win Integer NOT NULL DEFAULT 0, "
             "Loss Integer NOT NULL DEFAULT 0, Save Integer NOT NULL DEFAULT 0, "
@@ -108,9 +121,11 @@ private Q_SLOTS:
             "Blk Integer NOT NULL DEFAULT 0, WldP Integer NOT NULL DEFAULT 0, "
             "HitB Integer NOT NULL DEFAULT 0, UDP1 Integer NOT NULL DEFAULT 0, "
             "UDP2 Integer NOT NULL DEFAULT 0, UDP3 Integer NOT NULL DEFAULT 0)");
-        QTest::newRow("TeamInventory") << QString("CREATE TABLE TeamInventory (serial INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("TeamInventory") << QString(
+            "CREATE TABLE TeamInventory (serial INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "teamID Varchar, quantity INTEGER NOT NULL DEFAULT 0, item Varchar, ItemID Varchar)");
-        QTest::newRow("PlayerInventory") << QString("CREATE TABLE PlayerInventory (serial INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
+        QTest::newRow("PlayerInventory") << QString(
+            "CREATE TABLE PlayerInventory (serial INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "ctrlNum INTEGER NOT NULL DEFAULT 0, PlayerID Varchar, Item Varchar, ItemID Varchar)");
     }
     void schema()
@@ -136,14 +151,15 @@ private Q_SLOTS:
     void firstRun_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("prPositions") << QString("RH Pitcher,LH Pitcher,Catcher,First Base,Second Base,Third Base,Shortstop,"
-                                        "Outfield,Left Field,Center Field,Right Field,Designated Hitter,Short Field,"
-                                        "Left-Center Field,Right-Center Field,Pitch Hitter,Pitch Runner");
+        QTest::newRow("prPositions") << QString(
+            "RH Pitcher,LH Pitcher,Catcher,First Base,Second Base,Third Base,Shortstop,"
+            "Outfield,Left Field,Center Field,Right Field,Designated Hitter,Short Field,"
+            "Left-Center Field,Right-Center Field,Pitch Hitter,Pitch Runner");
         QTest::newRow("prAbbrevPos") << QString("RHP,LHP,C,B1,B2,B3,SS,OF,LF,CF,RF,DH,SF,LCF,RCF,PH,PR");
         QTest::newRow("prGameTypes") << QString("Division,Non-Div/League,Non-Div/Non-Lg,PreSeason,Sectional,Regional,"
-                                        "State Tournament,Weather/Rain Out,Forfeit");
+                                                "State Tournament,Weather/Rain Out,Forfeit");
         QTest::newRow("prUDB") << QString("CS|Caught Stealing|RSP|Up with Runner in Scoring Position|HSP|"
-                                  "Hit w/Runner in Sc. Pos.|TOH|Two Out Hit|???|Undefined");
+                                          "Hit w/Runner in Sc. Pos.|TOH|Two Out Hit|???|Undefined");
         QTest::newRow("prUDF") << QString("CGL|Catches Going Left|CGR|Catches Going Right|???|Undefined");
         QTest::newRow("prUDP") << QString("CWO|Cool Weather Outings|DAp|Daytime Appearances|NAp|Nighttime Appearances");
         QTest::newRow("prInnings") << QString("9 Innings");
@@ -154,12 +170,18 @@ private Q_SLOTS:
         QFETCH(QString, text);
         fakes::FakePlatform fake;
         QTemporaryDir root;
-        { myPrefs first(root.path()); }
+        {
+            myPrefs first(root.path());
+        }
         const myPrefs prefs(root.path());
-        const QHash<QString, QString> fields = {
-            {"prPositions", prefs.prPositions}, {"prAbbrevPos", prefs.prAbbrevPos}, {"prGameTypes", prefs.prGameTypes},
-            {"prUDB", prefs.prUDB},             {"prUDF", prefs.prUDF},             {"prUDP", prefs.prUDP},
-            {"prInnings", prefs.prInnings},     {"prLineUp", prefs.prLineUp}};
+        const QHash<QString, QString> fields = {{"prPositions", prefs.prPositions},
+                                                {"prAbbrevPos", prefs.prAbbrevPos},
+                                                {"prGameTypes", prefs.prGameTypes},
+                                                {"prUDB", prefs.prUDB},
+                                                {"prUDF", prefs.prUDF},
+                                                {"prUDP", prefs.prUDP},
+                                                {"prInnings", prefs.prInnings},
+                                                {"prLineUp", prefs.prLineUp}};
         QCOMPARE(QString(fields.value(QString::fromLatin1(QTest::currentDataTag()))).replace(u'\t', u'|'), text);
     }
 
@@ -168,19 +190,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("got");
         QTest::addColumn<QString>("text");
         QTest::newRow("states") << gStateList.join(u',')
-                                << QString("AL,AK,AZ,AR,CA,CO,CT,DE,FL,GA,HI,ID,IL,IN,IA,KS,KY,LA,ME,MD,MA,MI,MN,MS,MO,MT,"
-                                   "NE,NV,NH,NJ,NM,NY,NC,ND,OH,OK,OR,PA,RI,SC,SD,TN,TX,UT,VT,VA,WA,WV,WI,WY");
+                                << QString(
+                                       "AL,AK,AZ,AR,CA,CO,CT,DE,FL,GA,HI,ID,IL,IN,IA,KS,KY,LA,ME,MD,MA,MI,MN,MS,MO,MT,"
+                                       "NE,NV,NH,NJ,NM,NY,NC,ND,OH,OK,OR,PA,RI,SC,SD,TN,TX,UT,VT,VA,WA,WV,WI,WY");
         QTest::newRow("countries")
             << gCountryList.join(u',')
-            << QString("United States,Afghanistan,Albania,Argentina,Australia,Austria,Belgium,Bolivia,Brazil,Bulgaria,"
-               "Canada,Chile,China,Colombia,Denmark,Ecuador,Egypt,Finland,France,Germany,Greece,Hungary,Iceland,"
-               "India,Indonesia,Iran,Iraq,Ireland,Israel,Italy,Japan,Kenya,Lebanon,Libya,Malaysia,Mexico,"
-               "Netherlands,New Zealand,Nicaragua,Nigeria,Norway,Pakistan,Panama,Paraguay,Peru,Philippines,Poland,"
-               "Portugal,Romania,Russia,Saudi Arabia,Singapore,Spain,Sweden,Switzerland,Turkey,Uganda,"
-               "United Kingdom,Uruguay,Venezuela");
+            << QString(
+                   "United States,Afghanistan,Albania,Argentina,Australia,Austria,Belgium,Bolivia,Brazil,Bulgaria,"
+                   "Canada,Chile,China,Colombia,Denmark,Ecuador,Egypt,Finland,France,Germany,Greece,Hungary,Iceland,"
+                   "India,Indonesia,Iran,Iraq,Ireland,Israel,Italy,Japan,Kenya,Lebanon,Libya,Malaysia,Mexico,"
+                   "Netherlands,New Zealand,Nicaragua,Nigeria,Norway,Pakistan,Panama,Paraguay,Peru,Philippines,Poland,"
+                   "Portugal,Romania,Russia,Saudi Arabia,Singapore,Spain,Sweden,Switzerland,Turkey,Uganda,"
+                   "United Kingdom,Uruguay,Venezuela");
         QTest::newRow("activities")
             << gActivities
-            << QString("WARM UP;FIELDING;THROWING;HITTING;GAME SITUATIONS;PITCHING;BASERUNNING;CATCHERS;BUNTING;COACHING");
+            << QString(
+                   "WARM UP;FIELDING;THROWING;HITTING;GAME SITUATIONS;PITCHING;BASERUNNING;CATCHERS;BUNTING;COACHING");
         const char *drills[10] = {
             "Arm Stretch;Leg Stretch;Laps;Base Laps;Sprints;Exercise;Running Drill;Run and Steal;Relay Races",
             "Fly Balls;Ground Balls;Fungo;Run Down;Communication;Long Toss;Short Toss;Infield Drill;Outfield Drill;"
@@ -204,8 +229,9 @@ private Q_SLOTS:
             << keysAndValues(myDictionaries::buildHitting(
                    "CS\tCaught Stealing\tRSP\tUp with Runner in Scoring Position\tHSP\tHit w/Runner in Sc. Pos.\t"
                    "TOH\tTwo Out Hit\t???\tUndefined"))
-            << QString("AB=0 Avg=26 OBP=27 SP=28 B1=1 B2=2 B3=3 HR=4 BB=5 IBB=6 HBP=7 SAC=8 FO=9 GO=10 KS=11 KL=12 HDP=13 "
-               "ROE=14 FC=15 CI=16 Runs=17 RBI=18 SB=19 LOB=20 CS=21 RSP=22 HSP=23 TOH=24 ???=25");
+            << QString(
+                   "AB=0 Avg=26 OBP=27 SP=28 B1=1 B2=2 B3=3 HR=4 BB=5 IBB=6 HBP=7 SAC=8 FO=9 GO=10 KS=11 KL=12 HDP=13 "
+                   "ROE=14 FC=15 CI=16 Runs=17 RBI=18 SB=19 LOB=20 CS=21 RSP=22 HSP=23 TOH=24 ???=25");
         QTest::newRow("fielding")
             << keysAndValues(
                    myDictionaries::buildFielding("CGL\tCatches Going Left\tCGR\tCatches Going Right\t???\tUndefined"))
@@ -213,9 +239,10 @@ private Q_SLOTS:
         QTest::newRow("pitching")
             << keysAndValues(myDictionaries::buildPitching(
                    "CWO\tCool Weather Outings\tDAp\tDaytime Appearances\tNAp\tNighttime Appearances"))
-            << QString("ERA=27 Win=0 Loss=1 Save=2 ND=3 Start=4 ShO=5 CG=6 Balls=7 Ks=8 PitCt=9 IP=10 BF=11 Hits=12 "
-               "ErRuns=13 HRA=14 GrO=15 FlO=16 BB=17 IBB=18 PckO=19 Kouts=20 Blk=21 WldP=22 HitB=23 CWO=24 DAp=25 "
-               "NAp=26");
+            << QString(
+                   "ERA=27 Win=0 Loss=1 Save=2 ND=3 Start=4 ShO=5 CG=6 Balls=7 Ks=8 PitCt=9 IP=10 BF=11 Hits=12 "
+                   "ErRuns=13 HRA=14 GrO=15 FlO=16 BB=17 IBB=18 PckO=19 Kouts=20 Blk=21 WldP=22 HitB=23 CWO=24 DAp=25 "
+                   "NAp=26");
     }
     void lists()
     {

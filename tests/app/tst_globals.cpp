@@ -59,11 +59,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("set");
         QTest::addColumn<QString>("left");
         QTest::addColumn<QString>("right");
-        QTest::newRow("blanks") << QStringLiteral("  x y  ") << QStringLiteral(" ") << QStringLiteral("x y  ") << QStringLiteral("  x y");
-        QTest::newRow("set, not prefix") << QStringLiteral("abcabxa") << QStringLiteral("ab") << QStringLiteral("cabxa") << QStringLiteral("abcabx");
-        QTest::newRow("case-insensitive") << QStringLiteral("AaXa") << QStringLiteral("a") << QStringLiteral("Xa") << QStringLiteral("AaX");
+        QTest::newRow("blanks") << QStringLiteral("  x y  ") << QStringLiteral(" ") << QStringLiteral("x y  ")
+                                << QStringLiteral("  x y");
+        QTest::newRow("set, not prefix") << QStringLiteral("abcabxa") << QStringLiteral("ab") << QStringLiteral("cabxa")
+                                         << QStringLiteral("abcabx");
+        QTest::newRow("case-insensitive")
+            << QStringLiteral("AaXa") << QStringLiteral("a") << QStringLiteral("Xa") << QStringLiteral("AaX");
         QTest::newRow("all in set") << QStringLiteral("\t\t") << QStringLiteral("\t") << QString() << QString();
-        QTest::newRow("word set strips beyond word") << QStringLiteral("stats") << QStringLiteral("st") << QStringLiteral("ats") << QStringLiteral("sta");
+        QTest::newRow("word set strips beyond word")
+            << QStringLiteral("stats") << QStringLiteral("st") << QStringLiteral("ats") << QStringLiteral("sta");
     }
     void trims()
     {

@@ -80,18 +80,28 @@ private Q_SLOTS:
         raw(QByteArray("\x00", 1));
         raw("\x06Spring");
         out << quint8(1) << quint8(0);
-        raw("\x09" "7 Innings");
-        raw("\x0a" "10 Players");
-        out << double(4); raw("L2I="); // base64 of "/b"
-        out << double(3); raw("P,C");
-        out << double(15); raw("Pitcher,Catcher");
-        out << double(6); raw("League");
-        raw("\x04" "bQ==");
+        raw("\x09"
+            "7 Innings");
+        raw("\x0a"
+            "10 Players");
+        out << double(4);
+        raw("L2I="); // base64 of "/b"
+        out << double(3);
+        raw("P,C");
+        out << double(15);
+        raw("Pitcher,Catcher");
+        out << double(6);
+        raw("League");
+        raw("\x04"
+            "bQ==");
         raw(QByteArray("\x00", 1));
-        raw("\x04" "cHc=");
+        raw("\x04"
+            "cHc=");
         out << quint16(587) << quint8(1);
-        raw("\x01" "a");
-        raw("\x01" "b");
+        raw("\x01"
+            "a");
+        raw("\x01"
+            "b");
         raw(QByteArray("\x00", 1));
         out << quint8(44) << double(1.5);
 
@@ -139,8 +149,7 @@ private Q_SLOTS:
         QTest::newRow("256 ascii") << QString(256, u'a') << QString(255, u'a');
         // 127 two-byte characters are 254 bytes; the 128th would make 256.
         QTest::newRow("two-byte characters") << QString(200, QChar(0xE9)) << QString(127, QChar(0xE9));
-        QTest::newRow("emoji at the edge")
-            << (QString(253, u'a') + QStringLiteral("\U0001F600")) << QString(253, u'a');
+        QTest::newRow("emoji at the edge") << (QString(253, u'a') + QStringLiteral("\U0001F600")) << QString(253, u'a');
     }
     void pascalStringLimit()
     {
@@ -178,7 +187,8 @@ private Q_SLOTS:
             writeFile(prefs.prefsFilePath(), whole.left(cut));
             fake.messages.clear();
             myPrefs damaged(root.path());
-            QVERIFY2(fake.messages.texts() == QStringList{QStringLiteral("There was a file error reading the Prefs File")},
+            QVERIFY2(fake.messages.texts() ==
+                         QStringList{QStringLiteral("There was a file error reading the Prefs File")},
                      qPrintable(QStringLiteral("cut at %1").arg(cut)));
             // Field 2 (home team) is whole from byte 6 on, field 3 from byte 18.
             if (cut >= 6)
@@ -221,8 +231,9 @@ private Q_SLOTS:
         QCOMPARE(again.prSeason, replaced ? QStringLiteral("2026") : season);
         QCOMPARE(again.prHomeTeam, QStringLiteral("3"));
         QCOMPARE(again.prefsDirty, replaced);
-        QCOMPARE(fake.messages.texts(), replaced ? QStringList{QStringLiteral("There was a file error reading the Prefs File")}
-                                                 : QStringList());
+        QCOMPARE(fake.messages.texts(),
+                 replaced ? QStringList{QStringLiteral("There was a file error reading the Prefs File")}
+                          : QStringList());
     }
 
     void damagedCountIsRefused()

@@ -149,9 +149,10 @@ private Q_SLOTS:
             buffer.open(QIODevice::WriteOnly);
             logo.save(&buffer, "PNG");
         }
-        const qint64 id = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Cardinals")},
-                                                                  {QStringLiteral("SchoolName"), QStringLiteral("St. Anne's")},
-                                                                  {QStringLiteral("TeamLogo"), png}});
+        const qint64 id = gData->insert(QStringLiteral("Teams"),
+                                        {{QStringLiteral("TeamName"), QStringLiteral("Cardinals")},
+                                         {QStringLiteral("SchoolName"), QStringLiteral("St. Anne's")},
+                                         {QStringLiteral("TeamLogo"), png}});
         gPrefs->prHomeTeam = QString::number(id);
 
         startScrn1 *start = startScrn1::showStartScreen();
@@ -206,8 +207,11 @@ private Q_SLOTS:
     {
         testkit::Season s;
         const QString folder = gPrefs->strdDataLoc;
-        { myDB other(folder, QStringLiteral("2025 Fall")); }
-        QFile::copy(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite")), QDir(folder).filePath(QStringLiteral("notes.txt")));
+        {
+            myDB other(folder, QStringLiteral("2025 Fall"));
+        }
+        QFile::copy(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite")),
+                    QDir(folder).filePath(QStringLiteral("notes.txt")));
 
         startScrn1 *start = startScrn1::showStartScreen();
         QCOMPARE(popupItems(start->SelectSeasonPop), (QStringList{"Select Season", "2025 Fall", "2026"}));
@@ -245,7 +249,9 @@ private Q_SLOTS:
         QTemporaryDir home;
         const QString folder = myPrefs::dataFolderFor(home.path());
         QVERIFY(QDir().mkpath(folder));
-        { myDB good(folder, QStringLiteral("2025")); }
+        {
+            myDB good(folder, QStringLiteral("2025"));
+        }
         const QString damaged = QDir(folder).filePath(myDB::getCurDBFileName(QStringLiteral("2026")));
         {
             QFile f(damaged);
@@ -264,8 +270,9 @@ private Q_SLOTS:
         QVERIFY(!teams->isEnabled());
         QVERIFY(reports->isEnabled());
         QVERIFY(start->seasonProblemLabel->isVisibleTo(start));
-        QCOMPARE(start->seasonProblemLabel->text(), QStringLiteral("The season file \"") + QDir::toNativeSeparators(damaged) +
-                                                        QStringLiteral("\" could not be opened. Choose another season above."));
+        QCOMPARE(start->seasonProblemLabel->text(),
+                 QStringLiteral("The season file \"") + QDir::toNativeSeparators(damaged) +
+                     QStringLiteral("\" could not be opened. Choose another season above."));
 
         start->SelectSeasonPop->setCurrentIndex(start->SelectSeasonPop->findText(QStringLiteral("2025")));
         QVERIFY(gData->isConnected());

@@ -27,14 +27,14 @@ FakeMessages::~FakeMessages()
         failTest(QStringLiteral("%1 scripted answer(s) left unused").arg(answers.size()));
 }
 
-std::uint8_t FakeMessages::showMsgDlog(const QString &message, const QString &explanation,
-                                       const QString &actionCaption, const QString &altCaption)
+std::uint8_t FakeMessages::showMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
+                                       const QString &altCaption)
 {
     shown.append({message, explanation, actionCaption, altCaption, false});
     // A notice has one way on ("OK", "Continue") besides Cancel; anything
     // else asks the coach to choose.
-    const bool question = !altCaption.isEmpty()
-                          || (actionCaption != QStringLiteral("OK") && actionCaption != QStringLiteral("Continue"));
+    const bool question = !altCaption.isEmpty() ||
+                          (actionCaption != QStringLiteral("OK") && actionCaption != QStringLiteral("Continue"));
     if (answers.isEmpty()) {
         if (strict && question)
             failTest(QStringLiteral("unscripted question: ") + message);
@@ -62,10 +62,22 @@ QString FakeFileDialogs::answer(const QString &kind, const platform::FileRequest
     return answers.isEmpty() ? QString() : answers.dequeue();
 }
 
-QString FakeFileDialogs::selectFolder(const platform::FileRequest &request) { return answer(QStringLiteral("folder"), request); }
-QString FakeFileDialogs::openFile(const platform::FileRequest &request) { return answer(QStringLiteral("open"), request); }
-QString FakeFileDialogs::saveFile(const platform::FileRequest &request) { return answer(QStringLiteral("save"), request); }
-void FakeFileDialogs::revealInFileBrowser(const QString &path) { revealed.append(path); }
+QString FakeFileDialogs::selectFolder(const platform::FileRequest &request)
+{
+    return answer(QStringLiteral("folder"), request);
+}
+QString FakeFileDialogs::openFile(const platform::FileRequest &request)
+{
+    return answer(QStringLiteral("open"), request);
+}
+QString FakeFileDialogs::saveFile(const platform::FileRequest &request)
+{
+    return answer(QStringLiteral("save"), request);
+}
+void FakeFileDialogs::revealInFileBrowser(const QString &path)
+{
+    revealed.append(path);
+}
 
 namespace {
 

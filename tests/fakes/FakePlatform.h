@@ -37,8 +37,8 @@ public:
     bool strict = false;
     QList<ShownMessage> shown;
 
-    std::uint8_t showMsgDlog(const QString &message, const QString &explanation,
-                             const QString &actionCaption, const QString &altCaption) override;
+    std::uint8_t showMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
+                             const QString &altCaption) override;
     void msgBox(const QString &text) override;
 
     QStringList texts() const; // the first line of every message shown, in order
@@ -85,7 +85,8 @@ public:
     QString directory;
 
     std::optional<platform::PrinterSetup> pageSetupDialog(const platform::PrinterSetup &current) override;
-    std::unique_ptr<platform::PrintJob> printDialog(const platform::PrinterSetup &setup, const QString &jobTitle) override;
+    std::unique_ptr<platform::PrintJob> printDialog(const platform::PrinterSetup &setup,
+                                                    const QString &jobTitle) override;
 };
 
 class FakeUrlOpener final : public platform::UrlOpener

@@ -18,8 +18,8 @@ QByteArray run(const QString &program, const QStringList &args)
 
 QList<PdfWord> pdfWords(const QString &pdfPath)
 {
-    const QString html = QString::fromUtf8(run(QStringLiteral("pdftotext"),
-                                               {QStringLiteral("-bbox"), pdfPath, QStringLiteral("-")}));
+    const QString html = QString::fromUtf8(
+        run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdfPath, QStringLiteral("-")}));
     QList<PdfWord> words;
     static const QRegularExpression pageRe(QStringLiteral("<page "));
     static const QRegularExpression wordRe(
@@ -50,7 +50,8 @@ QList<PdfWord> pdfWords(const QString &pdfPath)
 
 QString pdfText(const QString &pdfPath)
 {
-    return QString::fromUtf8(run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdfPath, QStringLiteral("-")}));
+    return QString::fromUtf8(
+        run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdfPath, QStringLiteral("-")}));
 }
 
 int pdfPageCount(const QString &pdfPath)
@@ -65,7 +66,8 @@ QList<QSize> pdfImageSizes(const QString &pdfPath)
 {
     QList<QSize> sizes;
     static const QRegularExpression row(QStringLiteral(R"(^\s*\d+\s+\d+\s+(\w+)\s+(\d+)\s+(\d+))"));
-    for (const QString &line : QString::fromUtf8(run(QStringLiteral("pdfimages"), {QStringLiteral("-list"), pdfPath})).split(u'\n')) {
+    for (const QString &line :
+         QString::fromUtf8(run(QStringLiteral("pdfimages"), {QStringLiteral("-list"), pdfPath})).split(u'\n')) {
         const auto m = row.match(line);
         if (m.hasMatch() && m.captured(1) == u"image")
             sizes.append(QSize(m.captured(2).toInt(), m.captured(3).toInt()));

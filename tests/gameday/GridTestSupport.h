@@ -22,8 +22,8 @@ namespace gridtest {
 class GridEnv
 {
 public:
-    explicit GridEnv(
-        const QString &innings = QStringLiteral("9 Innings"), const QString &lineup = QStringLiteral("9 Players"))
+    explicit GridEnv(const QString &innings = QStringLiteral("9 Innings"),
+                     const QString &lineup = QStringLiteral("9 Players"))
     {
         prefs = std::make_unique<myPrefs>(dir.path());
         prefs->prInnings = innings;

@@ -23,10 +23,10 @@ namespace {
 void loadCard(ScoreGrid &grid)
 {
     loadTeam(grid, 9);
-    fillColumn(grid, 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
-    fillColumn(grid, 1, { "IBB/Y", "GO/R", ".", ".", ".", "BB/Y", "HBP/R", "KL/R", "B2/G" });
-    fillColumn(grid, 2, { ".", ".", "B3/Y", "/X", "KS/R", "FO/R", "GO/R" });
-    fillColumn(grid, 3, { ".", ".", ".", ".", ".", ".", "HR/G", "/R", "B1/G" });
+    fillColumn(grid, 0, {"B1/G", "KS/R", "HR/G", "GO/R", "FO/R"});
+    fillColumn(grid, 1, {"IBB/Y", "GO/R", ".", ".", ".", "BB/Y", "HBP/R", "KL/R", "B2/G"});
+    fillColumn(grid, 2, {".", ".", "B3/Y", "/X", "KS/R", "FO/R", "GO/R"});
+    fillColumn(grid, 3, {".", ".", ".", ".", ".", ".", "HR/G", "/R", "B1/G"});
 }
 
 QString figures(const AutoFillData &data)

@@ -60,7 +60,8 @@ private Q_SLOTS:
         QCOMPARE(game.curSelTeam(), 1);
         QCOMPARE(game.teamInfo(homeBatsFirst ? 0 : 1).name, QStringLiteral("O'Brien's Nine"));
         QCOMPARE(game.roster().size(), 12);
-        QCOMPARE(game.roster().first().name, homeBatsFirst ? QStringLiteral("Bo1 O'Neil") : QStringLiteral("Ann1 O'Neil"));
+        QCOMPARE(game.roster().first().name,
+                 homeBatsFirst ? QStringLiteral("Bo1 O'Neil") : QStringLiteral("Ann1 O'Neil"));
         QVERIFY(!game.finalizeVisible());
     }
 
@@ -82,10 +83,13 @@ private Q_SLOTS:
         QTest::addColumn<bool>("lastRowDisabled");
         const QString full = QStringLiteral("You have reached max players as defined in Preferences.");
         const QString pitcher = QStringLiteral("Add a non-batting Pitcher to your lineup.");
-        QTest::newRow("nine, then a pitcher who does not bat") << kNine + QStringList{"RHP"} << 10 << QStringList{pitcher} << true;
+        QTest::newRow("nine, then a pitcher who does not bat")
+            << kNine + QStringList{"RHP"} << 10 << QStringList{pitcher} << true;
         QTest::newRow("nine, then a P") << kNine + QStringList{"P"} << 9 << QStringList{pitcher, full} << false;
-        QTest::newRow("a batting LHP: no second") << kNine.mid(0, 8) + QStringList{"LHP", "RHP"} << 9 << QStringList{full} << false;
-        QTest::newRow("P counts, claims no row") << kNine.mid(0, 8) + QStringList{"P", "RHP"} << 9 << QStringList{full} << false;
+        QTest::newRow("a batting LHP: no second")
+            << kNine.mid(0, 8) + QStringList{"LHP", "RHP"} << 9 << QStringList{full} << false;
+        QTest::newRow("P counts, claims no row")
+            << kNine.mid(0, 8) + QStringList{"P", "RHP"} << 9 << QStringList{full} << false;
     }
     void lineupLimits()
     {
@@ -116,8 +120,8 @@ private Q_SLOTS:
         GameDay game(*gData, card);
         QVERIFY(game.open(season.schedID()));
         addByPos(game, {"C", "B1", "B2", "SS"});
-        QCOMPARE(game.moveLineupRow(0, -1), 0);      // nothing above the first row
-        QCOMPARE(game.moveLineupRow(3, +1), 3);      // nor below the last
+        QCOMPARE(game.moveLineupRow(0, -1), 0); // nothing above the first row
+        QCOMPARE(game.moveLineupRow(3, +1), 3); // nor below the last
         QCOMPARE(game.moveLineupRow(0, +1), 1);
         QCOMPARE(game.lineup().at(0).pos, QStringLiteral("B1"));
         QCOMPARE(game.lineup().at(0).order, QStringLiteral("1"));
@@ -239,7 +243,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("actions");
         QTest::addColumn<QStringList>("messages");
         QTest::addColumn<int>("rows");
-        QTest::newRow("more action lines than rows") << "B1\rGO\rKS" << QStringList{"There is an error in the saved data."} << 2;
+        QTest::newRow("more action lines than rows")
+            << "B1\rGO\rKS" << QStringList{"There is an error in the saved data."} << 2;
         QTest::newRow("binary junk") << QString::fromLatin1("\x01\xff\t\t\x02", 5) << QStringList{} << 2;
     }
     void damagedCardShowsNothing()

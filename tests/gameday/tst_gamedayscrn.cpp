@@ -64,7 +64,8 @@ void whenShown(std::function<void(T *)> work)
 
 void continueAutoFill()
 {
-    whenShown<AutoFillPitchScrn>([](AutoFillPitchScrn *w) { w->findChild<QPushButton *>(QStringLiteral("ContBtn"))->click(); });
+    whenShown<AutoFillPitchScrn>(
+        [](AutoFillPitchScrn *w) { w->findChild<QPushButton *>(QStringLiteral("ContBtn"))->click(); });
 }
 
 int rowOfPos(qlmListBox *list, const QString &pos)
@@ -79,7 +80,8 @@ int rowOfPos(qlmListBox *list, const QString &pos)
 QString storedStrings(const QString &schedID)
 {
     const GameRecord g = GameStore(*gData).load(schedID).value();
-    QStringList out{QStringLiteral("gameType=") + g.gameType, QStringLiteral("recorded=") + QString::number(g.recorded)};
+    QStringList out{QStringLiteral("gameType=") + g.gameType,
+                    QStringLiteral("recorded=") + QString::number(g.recorded)};
     const QStringList names = {"Headings", "Bench", "Players", "Actions", "Outcomes", "BatterStats"};
     for (int t = 0; t < 2; ++t) {
         const TeamStrings &s = g.teams[size_t(t)];
@@ -126,10 +128,7 @@ class TestGameDayScrn : public QObject
         }
     }
     // The cell editor open in the RBI and SB list.
-    QWidget *statEditor() const
-    {
-        return m_scr->batterStatLB->indexWidget(m_scr->batterStatLB->currentIndex());
-    }
+    QWidget *statEditor() const { return m_scr->batterStatLB->indexWidget(m_scr->batterStatLB->currentIndex()); }
     QStringList board(int team) const
     {
         QStringList out;
@@ -151,9 +150,8 @@ class TestGameDayScrn : public QObject
         m_scr = shown<gameDayScrn>();
         QVERIFY(m_scr);
         QCOMPARE(m_scr->game().schedID(), season.schedID());
-        m_scr->scoreCardLB->grid().setPopoverRequest([this](int, int, bool) {
-            return m_codes.isEmpty() ? QString() : m_codes.dequeue();
-        });
+        m_scr->scoreCardLB->grid().setPopoverRequest(
+            [this](int, int, bool) { return m_codes.isEmpty() ? QString() : m_codes.dequeue(); });
         QTRY_COMPARE(m_scr->game().curSelTeam(), 0); // the switch timer brings team A on show
         schedule->close();
     }
@@ -162,7 +160,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         qRegisterMetaType<AutoFillData>();
-        screens::registerScreen(ScreenId::gameDayScrn, [](const QVariant &id) { return new gameDayScrn(id.toString()); });
+        screens::registerScreen(ScreenId::gameDayScrn,
+                                [](const QVariant &id) { return new gameDayScrn(id.toString()); });
     }
 
     void playAGame()
@@ -171,7 +170,8 @@ private Q_SLOTS:
         gPrefs->prInnings = QStringLiteral("3 Innings");
         auto &msgs = season.fake.messages;
         openFromSchedule(season);
-        QCOMPARE(m_scr->InstrFld->text(), QStringLiteral("Select a player from the roster and click 'Add' to create your lineup."));
+        QCOMPARE(m_scr->InstrFld->text(),
+                 QStringLiteral("Select a player from the roster and click 'Add' to create your lineup."));
         QVERIFY(!m_scr->finalizeBtn->isVisible());
 
         // Team A (the home team): nine batters, a tenth who only pitches, a refused eleventh.
@@ -189,7 +189,8 @@ private Q_SLOTS:
         QVERIFY(posEditor);
         QTest::keyClicks(posEditor, QStringLiteral("dh"));
         QTest::keyClick(posEditor, Qt::Key_Return);
-        QTRY_COMPARE(readPlayers(GameStore(*gData).load(season.schedID())->teams[0].players).at(1).pos, QStringLiteral("DH"));
+        QTRY_COMPARE(readPlayers(GameStore(*gData).load(season.schedID())->teams[0].players).at(1).pos,
+                     QStringLiteral("DH"));
         QTest::keyClick(m_scr->Names_PosLB, Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(m_scr->Names_PosLB->cell(0, 2), QStringLiteral("Ann1 O'Neil"));
         // Team B: four batters and their pitcher.
@@ -199,7 +200,8 @@ private Q_SLOTS:
         // A player taken off the bench comes back through the list of the team's players.
         m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, "P"));
         Q_EMIT m_scr->PlusMinusPlayers->MinusPressed();
-        QCOMPARE(msgs.texts().last(), QStringLiteral("Are you sure you wish to remove Bo12 Smith from the list of available players?"));
+        QCOMPARE(msgs.texts().last(),
+                 QStringLiteral("Are you sure you wish to remove Bo12 Smith from the list of available players?"));
         QCOMPARE(m_scr->rosterList->rowCount(), 7);
         whenShown<AddPlayersToGameScrn>([](AddPlayersToGameScrn *w) {
             for (int r = 0; r < w->PlayerList->rowCount(); ++r)
@@ -240,8 +242,10 @@ private Q_SLOTS:
         QTest::keyClick(statEditor(), Qt::Key_Plus);
         QTest::keyClick(statEditor(), Qt::Key_Minus);
         QTest::keyClick(statEditor(), Qt::Key_Return);
-        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(4), (BatterStat{"1", "0"}));
-        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(5), (BatterStat{"0", "1"}));
+        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(4),
+                 (BatterStat{"1", "0"}));
+        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(5),
+                 (BatterStat{"0", "1"}));
 
         // The panels: batting and fielding for the home run hitter, pitching for the pitcher.
         m_scr->Names_PosLB->setSelectedRow(4);
@@ -373,10 +377,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("panel");
         QTest::addColumn<QString>("typed"); // keys into field 1 (\b Backspace); "Win" clicks the radio button
         QTest::addColumn<QString>("stored");
-        QTest::newRow("batting, nothing typed") << "UDBatStatsBtn" << "" << "";
-        QTest::newRow("batting, an emptied field") << "UDBatStatsBtn" << "\b++-" << "0\t1\t0\t0\t0";
-        QTest::newRow("fielding, digits") << "fldStatsBtn" << "12" << "0\t012\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0";
-        QTest::newRow("pitching, only the decision") << "pitchStatsBtn" << "Win" << QString("0\t").repeated(16) + "0";
+        QTest::newRow("batting, nothing typed") << "UDBatStatsBtn"
+                                                << ""
+                                                << "";
+        QTest::newRow("batting, an emptied field") << "UDBatStatsBtn"
+                                                   << "\b++-"
+                                                   << "0\t1\t0\t0\t0";
+        QTest::newRow("fielding, digits") << "fldStatsBtn"
+                                          << "12"
+                                          << "0\t012\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0";
+        QTest::newRow("pitching, only the decision") << "pitchStatsBtn"
+                                                     << "Win" << QString("0\t").repeated(16) + "0";
     }
     void panelsWriteWhatWasTyped()
     {

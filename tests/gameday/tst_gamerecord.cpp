@@ -96,10 +96,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("leagueB");
         QTest::addColumn<QString>("divisionB");
         QTest::addColumn<QString>("type");
-        QTest::newRow("same both") << "North" << "A" << "Division";
-        QTest::newRow("same league") << "North" << "B" << "Non-Div/League";
-        QTest::newRow("other league") << "South" << "A" << "Non-Div/Non-Lg";
-        QTest::newRow("case differs") << "north" << "A" << "Non-Div/Non-Lg";
+        QTest::newRow("same both") << "North"
+                                   << "A"
+                                   << "Division";
+        QTest::newRow("same league") << "North"
+                                     << "B"
+                                     << "Non-Div/League";
+        QTest::newRow("other league") << "South"
+                                      << "A"
+                                      << "Non-Div/Non-Lg";
+        QTest::newRow("case differs") << "north"
+                                      << "A"
+                                      << "Non-Div/Non-Lg";
     }
     void gameTypeByLeagueAndDivision()
     {

@@ -30,7 +30,7 @@ QString outcomesLine(const QStringList &values)
 
 QStringList exampleHeadings()
 {
-    QStringList h = { "1", "2", "3", "3a" };
+    QStringList h = {"1", "2", "3", "3a"};
     for (int i = 4; i <= 20; ++i)
         h.append(QString::number(i));
     return h;
@@ -40,8 +40,7 @@ QStringList exampleHeadings()
 // after inning 3 was doubled; line 3 is the substitute of line 2.
 QString exampleActions()
 {
-    return QStringList { u"B1\tGO"_s + tabs(19), u"KS"_s + tabs(20), u"HR"_s + tabs(20), u"\tB2"_s + tabs(19) }.join(
-        CR);
+    return QStringList{u"B1\tGO"_s + tabs(19), u"KS"_s + tabs(20), u"HR"_s + tabs(20), u"\tB2"_s + tabs(19)}.join(CR);
 }
 
 QString exampleOutcomes()
@@ -52,7 +51,7 @@ QString exampleOutcomes()
             first.append(QString());
         return outcomesLine(first + extra);
     };
-    QStringList lines = { row({ "G", "R" }), row({ "R" }), row({ "G", "X" }), row({ "X", "Y" }) };
+    QStringList lines = {row({"G", "R"}), row({"R"}), row({"G", "X"}), row({"X", "Y"})};
     while (lines.size() < 26)
         lines.append(outcomesLine({}));
     return lines.join(CR);
@@ -85,7 +84,7 @@ private Q_SLOTS:
         // Every code in every row of a full 26-row lineup.
         QStringList actionLines, outcomeLines;
         const QStringList codes = gameday::atBatCodes();
-        const QStringList bkgs = { "", "R", "G", "Y", "X" };
+        const QStringList bkgs = {"", "R", "G", "Y", "X"};
         for (int r = 0; r < 26; ++r) {
             QStringList texts, values;
             for (int c = 0; c < 20; ++c) {
@@ -160,16 +159,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("firstLine"); // of getMyBkgArray afterwards
         QTest::addColumn<int>("runs");
 
-        QTest::newRow("unknown letters") << (u"Q\tR\tg\tGG\tG"_s) << outcomesLine({ "", "R", "", "", "G" }) << 1;
+        QTest::newRow("unknown letters") << (u"Q\tR\tg\tGG\tG"_s) << outcomesLine({"", "R", "", "", "G"}) << 1;
         QString wide;
         for (int i = 0; i < 40; ++i)
             wide += u"G\t"_s;
         QTest::newRow("extra fields") << wide << outcomesLine(QStringList(20, u"G"_s)) << 20;
         QStringList many(40, u"G"_s);
-        QTest::newRow("more lines than the array") << many.join(CR) << outcomesLine({ "G" }) << 3;
-        QTest::newRow("short") << (u"G"_s) << outcomesLine({ "G" }) << 1;
+        QTest::newRow("more lines than the array") << many.join(CR) << outcomesLine({"G"}) << 3;
+        QTest::newRow("short") << (u"G"_s) << outcomesLine({"G"}) << 1;
         QTest::newRow("empty") << QString() << outcomesLine({}) << 0;
-        QTest::newRow("line feeds") << (u"G\n\tR\r\nY"_s) << outcomesLine({ "", "R" }) << 0;
+        QTest::newRow("line feeds") << (u"G\n\tR\r\nY"_s) << outcomesLine({"", "R"}) << 0;
     }
     void damagedBackgrounds()
     {
@@ -205,13 +204,13 @@ private Q_SLOTS:
         ScriptedPopover popover;
         popover.install(grid);
 
-        popover.script({ u"B1"_s });
+        popover.script({u"B1"_s});
         grid.cellClicked(27, 25, false); // a full column past the array doubles
         QCOMPARE(grid.columnCount(), 30);
         QCOMPARE(grid.heading(26), u"26a"_s);
         QCOMPARE(grid.heading(29), u"29"_s);
 
-        popover.script({ u"HR"_s });
+        popover.script({u"HR"_s});
         grid.cellClicked(27, 0, false);
         QCOMPARE(grid.cellText(27, 0), u"HR"_s);
         QCOMPARE(grid.cellBkg(27, 0), QString());

@@ -54,7 +54,8 @@ private Q_SLOTS:
         QTest::addColumn<QPoint>("first"); // (col, row)
         QTest::addColumn<QPoint>("last");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("enters in the middle of 2, ends in 2a") << false << QPoint(1, 1) << QPoint(2, 1) << "3,5,1,0,0,0,1,1";
+        QTest::newRow("enters in the middle of 2, ends in 2a")
+            << false << QPoint(1, 1) << QPoint(2, 1) << "3,5,1,0,0,0,1,1";
         QTest::newRow("whole doubled inning") << false << QPoint(1, 3) << QPoint(2, 1) << "3,7,2,0,1,0,1,1";
         QTest::newRow("span ends in 1a from row 0") << true << QPoint(0, 0) << QPoint(1, 2) << "3,7,3,1,1,0,1,0";
         QTest::newRow("reliever of 1a alone") << true << QPoint(0, 3) << QPoint(1, 2) << "3,4,1,0,0,0,1,0";

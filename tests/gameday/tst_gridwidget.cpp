@@ -110,11 +110,26 @@ private Q_SLOTS:
 
         const QColor red = QColor::fromRgb(0xFF5765), green = QColor::fromRgb(0x84FF85);
         const QColor yellow = QColor::fromRgb(0xFFFA9B), grey = QColor::fromRgb(0x727272);
-        QTest::newRow("home run") << "" << "" << "batActionLB" << 0 << 3 << "HR" << "G" << green;
-        QTest::newRow("single") << "" << "" << "batActionLB" << 0 << 0 << "B1" << "" << QColor(Qt::white);
-        QTest::newRow("force out") << "B1" << "" << "resultLB" << 0 << 2 << "B1" << "R" << red;
-        QTest::newRow("left on base") << "B2" << "" << "resultLB" << 1 << 2 << "B2" << "Y" << yellow;
-        QTest::newRow("disable a run") << "HR" << "G" << "" << 0 << 1 << "" << "X" << grey;
+        QTest::newRow("home run") << ""
+                                  << ""
+                                  << "batActionLB" << 0 << 3 << "HR"
+                                  << "G" << green;
+        QTest::newRow("single") << ""
+                                << ""
+                                << "batActionLB" << 0 << 0 << "B1"
+                                << "" << QColor(Qt::white);
+        QTest::newRow("force out") << "B1"
+                                   << ""
+                                   << "resultLB" << 0 << 2 << "B1"
+                                   << "R" << red;
+        QTest::newRow("left on base") << "B2"
+                                      << ""
+                                      << "resultLB" << 1 << 2 << "B2"
+                                      << "Y" << yellow;
+        QTest::newRow("disable a run") << "HR"
+                                       << "G"
+                                       << "" << 0 << 1 << ""
+                                       << "X" << grey;
     }
     void pickedCodePaintsTheCell()
     {
@@ -196,7 +211,7 @@ private Q_SLOTS:
         GridEnv env;
         BBScoringLB grid;
         loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 0, { "HR/G", "B1" });
+        fillColumn(grid.grid(), 0, {"HR/G", "B1"});
         grid.show();
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         PopoverDriver driver;
@@ -224,7 +239,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&grid));
         grid.setFocus();
         QVERIFY(grid.hasFocus());
-        QCOMPARE(grid.currentCell(), (gameday::GridCell { 0, 0 }));
+        QCOMPARE(grid.currentCell(), (gameday::GridCell{0, 0}));
 
         // Down, Right, Return: the popover opens on (1, 1) with the action
         // list in focus; Down, Right, Return there picks "IBB".
@@ -264,14 +279,14 @@ private Q_SLOTS:
         GridEnv env;
         BBScoringLB grid;
         loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 0, { "FO/R", "B1/G", "B1", "GO/R", "B1", "B1", "BB", "B1" });
+        fillColumn(grid.grid(), 0, {"FO/R", "B1/G", "B1", "GO/R", "B1", "B1", "BB", "B1"});
         grid.show();
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         QSignalSpy added(&grid, &BBScoringLB::columnAdded); // the game screen resizes the grid on it
         const int width = grid.width();
 
         PopoverDriver driver;
-        driver.actions = { pickIn(u"batActionLB"_s, 0, 1) };
+        driver.actions = {pickIn(u"batActionLB"_s, 0, 1)};
         QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 8, 0)); // B2: the order went round
         QCOMPARE(added.count(), 1);
         QCOMPARE(grid.width(), width + gameday::kInsertedColumnWidth); // the grid grows by the new column
@@ -283,7 +298,7 @@ private Q_SLOTS:
         GridEnv env;
         BBScoringLB grid;
         loadTeam(grid.grid(), 9);
-        fillColumn(grid.grid(), 0, { "B1/G", "KS/R", "HR/G", "GO/R", "FO/R" });
+        fillColumn(grid.grid(), 0, {"B1/G", "KS/R", "HR/G", "GO/R", "FO/R"});
         grid.show();
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         PopoverDriver driver;

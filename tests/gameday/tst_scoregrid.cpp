@@ -51,14 +51,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expBkg");
 
         // Every code on a blank cell: its own text and the background of the table.
-        const QStringList outs = { "SAC", "FO", "GO", "KS", "KL", "HDP" };
+        const QStringList outs = {"SAC", "FO", "GO", "KS", "KL", "HDP"};
         for (const QString &code : gameday::atBatCodes()) {
             const QString b = code == u"HR" ? "G" : outs.contains(code) ? "R" : "";
             QTest::addRow("blank + %s", qPrintable(code)) << ""
                                                           << "" << code << true << code << b;
         }
         // Results on a blank cell colour it and leave the text empty.
-        const QStringList resultBkg = { "R", "R", "R", "R", "G", "Y" };
+        const QStringList resultBkg = {"R", "R", "R", "R", "G", "Y"};
         for (int i = 0; i < gameday::resultCodes().size(); ++i) {
             const QString code = gameday::resultCodes().at(i);
             QTest::addRow("blank + %s", qPrintable(code)) << ""
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
         grid.cellClicked(2, 3, false);
 
-        QCOMPARE(popover.showAll, QList<bool> { showAll });
+        QCOMPARE(popover.showAll, QList<bool>{showAll});
         QCOMPARE(grid.cellText(2, 3), expText);
         QCOMPARE(grid.cellBkg(2, 3), expBkg);
         QCOMPARE(grid.getSelRow(), -1);
@@ -170,7 +170,7 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 9);
-        fillColumn(grid, 3, { "GO/R", "FO/R", "KS/R", cell });
+        fillColumn(grid, 3, {"GO/R", "FO/R", "KS/R", cell});
         ScriptedPopover popover;
         popover.install(grid);
 
@@ -178,10 +178,10 @@ private Q_SLOTS:
 
         QCOMPARE(popover.showAll.size(), refused ? 0 : 1);
         QCOMPARE(env.fake.messages.texts(),
-            refused ? QStringList { "There are already three outs in that inning." } : QStringList {});
+                 refused ? QStringList{"There are already three outs in that inning."} : QStringList{});
         if (refused) {
             QCOMPARE(env.fake.messages.shown.at(0).explanation,
-                QStringLiteral("Clear at least 1 of the outs before adding an AB"));
+                     QStringLiteral("Clear at least 1 of the outs before adding an AB"));
             QCOMPARE(env.fake.messages.shown.at(0).actionCaption, QStringLiteral("OK"));
         }
     }
@@ -191,19 +191,19 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 9);
-        fillColumn(grid, 2, { "FO/R", "B1/G", "B1", "GO/R", "B1", "/X", "BB", "B1" });
-        fillColumn(grid, 3, { "KL/R" }); // the next inning's first batter moves right
+        fillColumn(grid, 2, {"FO/R", "B1/G", "B1", "GO/R", "B1", "/X", "BB", "B1"});
+        fillColumn(grid, 3, {"KL/R"}); // the next inning's first batter moves right
         QSignalSpy added(&grid, &ScoreGrid::columnAdded);
         QSignalSpy calcs(&grid, &ScoreGrid::doCalcs);
         ScriptedPopover popover;
         popover.install(grid);
 
-        popover.script({ "B2" });
+        popover.script({"B2"});
         grid.cellClicked(8, 2, false); // the order has gone round with two outs
 
         QCOMPARE(added.count(), 1);
-        const QString expected
-            = QStringList { "1", "2", "3", "3a" }.join(u'\t') + u'\t' + headingsWithDouble(0, 20).mid(3).join(u'\t');
+        const QString expected = QStringList{"1", "2", "3", "3a"}.join(u'\t') + u'\t' +
+                                 headingsWithDouble(0, 20).mid(3).join(u'\t');
         QCOMPARE(added.at(0).at(0).toString(), expected);
         QCOMPARE(grid.getColHeadings(), expected);
         QCOMPARE(grid.columnCount(), 21);
@@ -216,8 +216,8 @@ private Q_SLOTS:
 
         // The second column fills with two more outs: four in the inning,
         // and no third column.
-        fillColumn(grid, 3, { "B1", "FO/R", "B1", "B1", "GO/R", ".", "B1", "B1" });
-        popover.script({ "B1" });
+        fillColumn(grid, 3, {"B1", "FO/R", "B1", "B1", "GO/R", ".", "B1", "B1"});
+        popover.script({"B1"});
         grid.cellClicked(8, 3, false);
         QVERIFY(!grid.check4ThreeOuts(3)); // a fourth out reads as not three: a mistake to find
         QCOMPARE(added.count(), 1);
@@ -230,11 +230,11 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 9);
-        fillColumn(grid, 0, { "FO/R", "B1/G", "B1/G", "GO/R", "B1/G", "B1/G", "BB/G", "B1/Y" });
+        fillColumn(grid, 0, {"FO/R", "B1/G", "B1/G", "GO/R", "B1/G", "B1/G", "BB/G", "B1/Y"});
         QSignalSpy added(&grid, &ScoreGrid::columnAdded);
         QSignalSpy calcs(&grid, &ScoreGrid::doCalcs);
         ScriptedPopover popover;
-        popover.script({ "KS" });
+        popover.script({"KS"});
         popover.install(grid);
         grid.cellClicked(8, 0, false);
         QCOMPARE(added.count(), 0);
@@ -266,17 +266,17 @@ private Q_SLOTS:
         // and nothing moves.
         grid.setCellBkg(0, 22, QStringLiteral("G")); // a run entered as a result alone
         QVERIFY(!grid.canInsertColumn(8));
-        fillColumn(grid, 8, { "FO/R", "B1/G", "B1", "GO/R", "B1", "B1", "BB", "B1" });
+        fillColumn(grid, 8, {"FO/R", "B1/G", "B1", "GO/R", "B1", "B1", "BB", "B1"});
         const QString before = grid.getColHeadings();
         QSignalSpy added(&grid, &ScoreGrid::columnAdded);
         ScriptedPopover popover;
-        popover.script({ "B1" });
+        popover.script({"B1"});
         popover.install(grid);
         grid.cellClicked(8, 8, false);
         QCOMPARE(added.count(), 0);
         QCOMPARE(grid.getColHeadings(), before);
         QCOMPARE(grid.cellBkg(0, 22), QStringLiteral("G"));
-        QCOMPARE(env.fake.messages.texts(), QStringList { "There is no room on the scorecard for another column." });
+        QCOMPARE(env.fake.messages.texts(), QStringList{"There is no room on the scorecard for another column."});
         QCOMPARE(grid.insertColumn(8, 32), before);
     }
 
@@ -295,9 +295,9 @@ private Q_SLOTS:
         GridEnv env; // nine batting slots
         ScoreGrid grid;
         loadTeam(grid, 9);
-        fillColumn(grid, 0, { "GO/R", "FO/R", "KS/R" });
-        fillColumn(grid, 1, { ".", ".", ".", "GO/R", "FO/R", "KL/R" });
-        fillColumn(grid, 2, { ".", ".", ".", ".", ".", ".", "B1" });
+        fillColumn(grid, 0, {"GO/R", "FO/R", "KS/R"});
+        fillColumn(grid, 1, {".", ".", ".", "GO/R", "FO/R", "KL/R"});
+        fillColumn(grid, 2, {".", ".", ".", ".", ".", ".", "B1"});
         grid.setCellBkg(8, 4, QStringLiteral("Y"));
 
         grid.insertReplacementRow(4, orderNum);
@@ -322,8 +322,8 @@ private Q_SLOTS:
         ScoreGrid grid;
         grid.setColumnHeadings(headingsWithDouble(1, 21));
         loadTeam(grid, 9);
-        fillColumn(grid, 0, { "GO/R", "FO/R" });
-        fillColumn(grid, 1, { ".", ".", "KS/R" });
+        fillColumn(grid, 0, {"GO/R", "FO/R"});
+        fillColumn(grid, 1, {".", ".", "KS/R"});
         grid.insertReplacementRow(0, 1);
         // "1" and "1a" are both finished, so the substitute starts in "2".
         QCOMPARE(bkgRow(grid, 1, 4), QStringLiteral("XX--"));
@@ -335,7 +335,7 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 4);
-        fillColumn(grid, 0, { "GO/R", "HR/G", "B1/Y", "FO/R" });
+        fillColumn(grid, 0, {"GO/R", "HR/G", "B1/Y", "FO/R"});
         grid.removeRow(1);
         QCOMPARE(grid.rowCount(), 3);
         QCOMPARE(grid.getSelRow(), 1);
@@ -352,11 +352,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("choice");
         QTest::addColumn<bool>("asked");
         // Seven innings: the question comes from column index 6 on.
-        QTest::newRow("home run in the seventh") << 6 << "" << "HR" << true;
-        QTest::newRow("runner scores in the seventh") << 6 << "B1" << "xRUN" << true;
-        QTest::newRow("runner scores in the sixth") << 5 << "B1" << "xRUN" << false;
-        QTest::newRow("single in the seventh") << 6 << "" << "B1" << false;
-        QTest::newRow("runner left in the seventh") << 6 << "B1" << "xLOB" << false;
+        QTest::newRow("home run in the seventh") << 6 << ""
+                                                 << "HR" << true;
+        QTest::newRow("runner scores in the seventh") << 6 << "B1"
+                                                      << "xRUN" << true;
+        QTest::newRow("runner scores in the sixth") << 5 << "B1"
+                                                    << "xRUN" << false;
+        QTest::newRow("single in the seventh") << 6 << ""
+                                               << "B1" << false;
+        QTest::newRow("runner left in the seventh") << 6 << "B1"
+                                                    << "xLOB" << false;
     }
     void walkoffQuestion()
     {
@@ -371,7 +376,7 @@ private Q_SLOTS:
         loadTeam(grid, 9);
         grid.setCellText(3, col, start);
         ScriptedPopover popover;
-        popover.script({ choice });
+        popover.script({choice});
         popover.install(grid);
         QList<int> hitsWhenAsked;
         connect(&grid, &ScoreGrid::askIsWalkoff, &grid, [&] { hitsWhenAsked.append(grid.countTotalHits()); });
@@ -389,12 +394,12 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 4);
-        fillColumn(grid, 2, { "GO/R", "/X", "B1/Y", "HR/G" });
-        fill(grid, { "", "B2/R . . . . . . . . . B1" }); // row 1: col 0 and an extra-inning column
+        fillColumn(grid, 2, {"GO/R", "/X", "B1/Y", "HR/G"});
+        fill(grid, {"", "B2/R . . . . . . . . . B1"}); // row 1: col 0 and an extra-inning column
         ScriptedPopover popover;
         popover.install(grid);
 
-        popover.script({ "Clear Column" });
+        popover.script({"Clear Column"});
         grid.cellClicked(0, 2, false);
         QCOMPARE(bkgColumn(grid, 2), QStringLiteral("R-YG"));
         QCOMPARE(grid.cellText(0, 2), QStringLiteral("GO"));
@@ -402,30 +407,30 @@ private Q_SLOTS:
         // Asked first when the column has data; Cancel leaves it.
         env.fake.messages.answers.append(platform::MsgCancel);
         env.fake.messages.answers.append(platform::MsgAction);
-        popover.script({ "Disable Column", "Disable Column" });
+        popover.script({"Disable Column", "Disable Column"});
         grid.cellClicked(0, 2, false);
         QCOMPARE(bkgColumn(grid, 2), QStringLiteral("R-YG"));
         grid.cellClicked(0, 2, false);
         QCOMPARE(bkgColumn(grid, 2), QStringLiteral("XXXX"));
         QVERIFY(grid.isColumnEmpty(2));
         QCOMPARE(env.fake.messages.texts(),
-            QStringList(2, QStringLiteral("Are you sure you want to clear the data in column 3?")));
+                 QStringList(2, QStringLiteral("Are you sure you want to clear the data in column 3?")));
         QCOMPARE(env.fake.messages.shown.at(0).actionCaption, QStringLiteral("Clear"));
 
         // An empty column is disabled without a question.
         env.fake.messages.clear();
-        popover.script({ "Disable Column" });
+        popover.script({"Disable Column"});
         grid.cellClicked(0, 5, false);
         QCOMPARE(bkgColumn(grid, 5), QStringLiteral("XXXX"));
         QVERIFY(env.fake.messages.shown.isEmpty());
 
-        popover.script({ "Clear Row" });
+        popover.script({"Clear Row"});
         grid.cellClicked(1, 0, false);
         QCOMPARE(bkgRow(grid, 1, 20), QStringLiteral("---------XXXXXXXXXXX"));
         QCOMPARE(grid.cellText(1, 0), QString());
         QCOMPARE(grid.cellText(1, 10), QStringLiteral("B1")); // past the live innings
 
-        popover.script({ "Disable Row" });
+        popover.script({"Disable Row"});
         grid.cellClicked(3, 0, false);
         QCOMPARE(bkgRow(grid, 3, 20), QString(20, u'X'));
         QVERIFY(grid.isRowEmpty(3));
@@ -438,21 +443,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("runs");
 
         const QStringList plain = headingsWithDouble(0, 20);
-        QTest::newRow("no at bats") << plain << QStringList {} << "-1,-1,-1,-1,-1,-1,-1,-1,-1,-1";
+        QTest::newRow("no at bats") << plain << QStringList{} << "-1,-1,-1,-1,-1,-1,-1,-1,-1,-1";
         QTest::newRow("runs, zero and no data")
-            << plain << QStringList { "HR/G GO/R . B1/Y", "GO/R FO/R", "B1/G" } << "2,0,-1,0,-1,-1,-1,-1,-1,-1";
+            << plain << QStringList{"HR/G GO/R . B1/Y", "GO/R FO/R", "B1/G"} << "2,0,-1,0,-1,-1,-1,-1,-1,-1";
         QTest::newRow("doubled inning keeps its zero")
-            << headingsWithDouble(2, 21) << QStringList { ". GO/R . HR/G", ". . B1/G" }
-            << "-1,1,1,-1,-1,-1,-1,-1,-1,-1";
+            << headingsWithDouble(2, 21) << QStringList{". GO/R . HR/G", ". . B1/G"} << "-1,1,1,-1,-1,-1,-1,-1,-1,-1";
         QTest::newRow("doubled inning with an empty second column")
-            << headingsWithDouble(2, 21) << QStringList { ". GO/R . HR/G" } << "-1,0,1,-1,-1,-1,-1,-1,-1,-1";
+            << headingsWithDouble(2, 21) << QStringList{". GO/R . HR/G"} << "-1,0,1,-1,-1,-1,-1,-1,-1,-1";
         QTest::newRow("tenth slot collects extra innings")
-            << plain << QStringList { ". . . . . . . . . GO/R . HR/G", ". . . . . . . . . . . . B1/G" }
+            << plain << QStringList{". . . . . . . . . GO/R . HR/G", ". . . . . . . . . . . . B1/G"}
             << "-1,-1,-1,-1,-1,-1,-1,-1,-1,2";
         QTest::newRow("a scoreless tenth before unplayed innings")
-            << plain << QStringList { ". . . . . . . . . GO/R" } << "-1,-1,-1,-1,-1,-1,-1,-1,-1,0";
-        QTest::newRow("disabled cells hold no data")
-            << plain << QStringList { "B1/X" } << "-1,-1,-1,-1,-1,-1,-1,-1,-1,-1";
+            << plain << QStringList{". . . . . . . . . GO/R"} << "-1,-1,-1,-1,-1,-1,-1,-1,-1,0";
+        QTest::newRow("disabled cells hold no data") << plain << QStringList{"B1/X"} << "-1,-1,-1,-1,-1,-1,-1,-1,-1,-1";
     }
     void countRunsByInning()
     {
@@ -473,7 +476,7 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 5);
-        fill(grid, { "B1/G GO/R", "HR/G KS/R", "B2/Y . B3/R", "BB/Y ROE/G", "/G" });
+        fill(grid, {"B1/G GO/R", "HR/G KS/R", "B2/Y . B3/R", "BB/Y ROE/G", "/G"});
         QCOMPARE(grid.countTotalRuns(), 4); // a run is a colour, not a code
         QCOMPARE(grid.countTotalHits(), 4);
         QCOMPARE(grid.countTotalLOBs(), 2);
@@ -487,11 +490,11 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("column");
         QTest::addColumn<bool>("full");
         QTest::addColumn<bool>("empty");
-        QTest::newRow("blank") << QStringList {} << false << true;
-        QTest::newRow("only disabled") << QStringList { "/X", "/X", "/X" } << true << true;
-        QTest::newRow("text in disabled cells") << QStringList { "B1/X", "/X", "/X" } << true << true;
-        QTest::newRow("filled and disabled") << QStringList { "B1", "GO/R", "/X" } << true << false;
-        QTest::newRow("a result without a batter") << QStringList { "B1", "/G", "/X" } << false << false;
+        QTest::newRow("blank") << QStringList{} << false << true;
+        QTest::newRow("only disabled") << QStringList{"/X", "/X", "/X"} << true << true;
+        QTest::newRow("text in disabled cells") << QStringList{"B1/X", "/X", "/X"} << true << true;
+        QTest::newRow("filled and disabled") << QStringList{"B1", "GO/R", "/X"} << true << false;
+        QTest::newRow("a result without a batter") << QStringList{"B1", "/G", "/X"} << false << false;
     }
     void fullAndEmptyColumns()
     {
@@ -511,16 +514,16 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadTeam(grid, 2);
-        fill(grid, { "B1/G GO/R BB/Y KS/R HR/G SAC/R CI/Y ROE/R B1/R" });
+        fill(grid, {"B1/G GO/R BB/Y KS/R HR/G SAC/R CI/Y ROE/R B1/R"});
         const auto stats = grid.getHittingStats(0);
-        std::array<int, 21> expected {};
+        std::array<int, 21> expected{};
         expected[hitD.value("AB")] = 6; // B1 GO KS HR ROE B1
         expected[hitD.value("B1")] = 2;
-        for (const char *code : { "GO", "BB", "KS", "HR", "SAC", "CI", "ROE" })
+        for (const char *code : {"GO", "BB", "KS", "HR", "SAC", "CI", "ROE"})
             expected[hitD.value(code)] = 1;
         QCOMPARE(stats, expected); // runs and LOB come from elsewhere
-        QCOMPARE(grid.getHittingStats(1), (std::array<int, 21> {}));
-        QCOMPARE(grid.getHittingStats(7), (std::array<int, 21> {}));
+        QCOMPARE(grid.getHittingStats(1), (std::array<int, 21>{}));
+        QCOMPARE(grid.getHittingStats(7), (std::array<int, 21>{}));
     }
 
     void userStatNamedLikeACode()
@@ -532,7 +535,7 @@ private Q_SLOTS:
         QCOMPARE(hitD.value("KL"), 21);
         ScoreGrid grid;
         loadTeam(grid, 1);
-        fill(grid, { "KL/R B1" });
+        fill(grid, {"KL/R B1"});
         const auto stats = grid.getHittingStats(0);
         QCOMPARE(stats[0], 2);
         QCOMPARE(stats[1], 1);

@@ -187,12 +187,13 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("messages");
         QTest::addColumn<QString>("printedText");
         QTest::newRow("no page on show") << 0 << QString()
-                                         << QStringList{"An error was encountered while printing the file"} << QString();
+                                         << QStringList{"An error was encountered while printing the file"}
+                                         << QString();
         // The page goes to the printer as plain text.
         QTest::newRow("a page") << 6 << QString() << QStringList{} << "The list";
         QTest::newRow("after a link to a place in the page") << 7 << "#codes" << QStringList{} << "On Base Result";
-        QTest::newRow("after a link to a place in another page") << 11 << "A_07.html#outs" << QStringList{}
-                                                                  << "On Base Result";
+        QTest::newRow("after a link to a place in another page")
+            << 11 << "A_07.html#outs" << QStringList{} << "On Base Result";
     }
     void printing()
     {
@@ -221,18 +222,18 @@ private Q_SLOTS:
         QTest::addColumn<QSizeF>("page");
         // 10,000 dots a metre is 254 an inch: 2,794 dots are 792 points,
         // 2,159 are exactly 612.
-        QTest::newRow("wider than a page turns it") << picture(2794, 2159, 10000) << 1 << QSize(634, 490)
-                                                    << QSizeF(792, 612);
-        QTest::newRow("exactly a page's width stands") << picture(2159, 2794, 10000) << 1 << QSize(490, 634)
-                                                       << QSizeF(612, 792);
-        QTest::newRow("three copies, three pages") << picture(600, 800, 2835) << 3 << QSize(480, 640)
-                                                   << QSizeF(612, 792);
+        QTest::newRow("wider than a page turns it")
+            << picture(2794, 2159, 10000) << 1 << QSize(634, 490) << QSizeF(792, 612);
+        QTest::newRow("exactly a page's width stands")
+            << picture(2159, 2794, 10000) << 1 << QSize(490, 634) << QSizeF(612, 792);
+        QTest::newRow("three copies, three pages")
+            << picture(600, 800, 2835) << 3 << QSize(480, 640) << QSizeF(612, 792);
         // The project's own forms, as the program finds them.
         const QDir extras(QDir(gResourceFolder()).filePath(QStringLiteral("tlyn_Extras")));
-        QTest::newRow("the line-up card stands") << QImage(extras.filePath(QStringLiteral("Line-up Card.png"))) << 1
-                                                 << QSize() << QSizeF(612, 792);
-        QTest::newRow("the scoresheet lies") << QImage(extras.filePath(QStringLiteral("Scoresheet.png"))) << 1
-                                             << QSize() << QSizeF(792, 612);
+        QTest::newRow("the line-up card stands")
+            << QImage(extras.filePath(QStringLiteral("Line-up Card.png"))) << 1 << QSize() << QSizeF(612, 792);
+        QTest::newRow("the scoresheet lies")
+            << QImage(extras.filePath(QStringLiteral("Scoresheet.png"))) << 1 << QSize() << QSizeF(792, 612);
     }
     void formsPrint()
     {

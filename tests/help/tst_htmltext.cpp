@@ -22,34 +22,40 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("lists");
 
         const QString cr(QChar(13));
-        QTest::newRow("nested bold and italic") << "<b>one<i>two</i></b>" << "onetwo"
-                                                << QStringList{"bolds=0\t6", "italics=3\t6"};
-        QTest::newRow("tags in any case") << "<B>a</b><BR>b" << "a" + cr + "b" << QStringList{"bolds=0\t1"};
+        QTest::newRow("nested bold and italic") << "<b>one<i>two</i></b>"
+                                                << "onetwo" << QStringList{"bolds=0\t6", "italics=3\t6"};
+        QTest::newRow("tags in any case") << "<B>a</b><BR>b"
+                                          << "a" + cr + "b" << QStringList{"bolds=0\t1"};
         QTest::newRow("unclosed paragraph") << "<p>text" << cr + "text" << QStringList{};
-        QTest::newRow("written-out brackets") << "a&lt;b&gt;c" << "a<b>c" << QStringList{};
-        QTest::newRow("escaped ampersand before a bracket") << "x&amp;lt;y" << "x<y" << QStringList{};
-        QTest::newRow("image with source") << "<img src=\"pic.png\">" << "[IMAGE]" << QStringList{"links=0\t7\tpic.png"};
-        QTest::newRow("image with alt") << "<img alt=photo>" << "[IMAGE: photo]" << QStringList{};
+        QTest::newRow("written-out brackets") << "a&lt;b&gt;c"
+                                              << "a<b>c" << QStringList{};
+        QTest::newRow("escaped ampersand before a bracket") << "x&amp;lt;y"
+                                                            << "x<y" << QStringList{};
+        QTest::newRow("image with source") << "<img src=\"pic.png\">"
+                                           << "[IMAGE]" << QStringList{"links=0\t7\tpic.png"};
+        QTest::newRow("image with alt") << "<img alt=photo>"
+                                        << "[IMAGE: photo]" << QStringList{};
         QTest::newRow("list item keeps its indent")
             << "<li>first  second" << cr + "   \u2022 first second" << QStringList{};
         QTest::newRow("font sizes from the control's 12")
-            << "<font size=+2>a</font><font size=-2>b</font><font size=9 face=Serif color=#FF0000>c</font>" << "abc"
-            << QStringList{"fonts=2\t3\tSerif", "colors=2\t3\t#FF0000", "sizes=0\t1\t14;1\t2\t10;2\t3\t9"};
-        QTest::newRow("headers and small")
-            << "<h2>Title</h2><small>s</small>" << cr + "Title" + cr + "s"
-            << QStringList{"headers=1\t7\t2", "sizes=7\t8\t10"};
-        QTest::newRow("links and anchors")
-            << "<a name=top>Top</a> <a href=\"A_02.html\">Teams</a>" << "Top Teams"
-            << QStringList{"links=4\t9\tA_02.html", "anchors=0\ttop"};
+            << "<font size=+2>a</font><font size=-2>b</font><font size=9 face=Serif color=#FF0000>c</font>"
+            << "abc" << QStringList{"fonts=2\t3\tSerif", "colors=2\t3\t#FF0000", "sizes=0\t1\t14;1\t2\t10;2\t3\t9"};
+        QTest::newRow("headers and small") << "<h2>Title</h2><small>s</small>" << cr + "Title" + cr + "s"
+                                           << QStringList{"headers=1\t7\t2", "sizes=7\t8\t10"};
+        QTest::newRow("links and anchors") << "<a name=top>Top</a> <a href=\"A_02.html\">Teams</a>"
+                                           << "Top Teams" << QStringList{"links=4\t9\tA_02.html", "anchors=0\ttop"};
         QTest::newRow("stray closing tag and unknown element") << "</b>x<span>y</span><q>z"
                                                                << "xyz" << QStringList{};
-        QTest::newRow("title is cut out") << "<title>Help</title>body" << "body" << QStringList{};
-        QTest::newRow("entities by exact name")
-            << "&Agrave;&agrave;&AGRAVE;&copy;&szlig;&Yuml;" << "\u00C0\u00E0&AGRAVE;\u00A9\u00DF\u0178" << QStringList{};
-        QTest::newRow("leading line feeds go") << "\n\nx" << "x" << QStringList{};
-        QTest::newRow("same name nested: the outer closes at the inner tag") << "<b>a<b>b</b>c</b>" << "abc"
-                                                                  << QStringList{"bolds=0\t2;1\t3"};
-        QTest::newRow("unclosed bracket takes the rest") << "ab<b" << "ab" << QStringList{};
+        QTest::newRow("title is cut out") << "<title>Help</title>body"
+                                          << "body" << QStringList{};
+        QTest::newRow("entities by exact name") << "&Agrave;&agrave;&AGRAVE;&copy;&szlig;&Yuml;"
+                                                << "\u00C0\u00E0&AGRAVE;\u00A9\u00DF\u0178" << QStringList{};
+        QTest::newRow("leading line feeds go") << "\n\nx"
+                                               << "x" << QStringList{};
+        QTest::newRow("same name nested: the outer closes at the inner tag") << "<b>a<b>b</b>c</b>"
+                                                                             << "abc" << QStringList{"bolds=0\t2;1\t3"};
+        QTest::newRow("unclosed bracket takes the rest") << "ab<b"
+                                                         << "ab" << QStringList{};
     }
 
     void render()
@@ -107,13 +113,20 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("meaning");
-        QTest::newRow("pitching before batting") << "ip" << "Innings Pitched";
-        QTest::newRow("bb") << "BB" << "Basses on Balls";
-        QTest::newRow("cs") << "cs" << "Caught Stealing";
-        QTest::newRow("heading") << "batters" << "";
-        QTest::newRow("exact only") << "S" << "Save";
-        QTest::newRow("no prefix") << "Sl" << "-";
-        QTest::newRow("nothing") << "xyz" << "-";
+        QTest::newRow("pitching before batting") << "ip"
+                                                 << "Innings Pitched";
+        QTest::newRow("bb") << "BB"
+                            << "Basses on Balls";
+        QTest::newRow("cs") << "cs"
+                            << "Caught Stealing";
+        QTest::newRow("heading") << "batters"
+                                 << "";
+        QTest::newRow("exact only") << "S"
+                                    << "Save";
+        QTest::newRow("no prefix") << "Sl"
+                                   << "-";
+        QTest::newRow("nothing") << "xyz"
+                                 << "-";
     }
 
     void abbreviations()

@@ -2,11 +2,11 @@
 // them: one list's selection at a time, a message to the selected people,
 // the printout, the settings' checks and where the password goes.
 
-#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/myPrefs.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "people/ui/contactInfoScrn.h"
 #include "people/ui/emailInfoScrn.h"
@@ -31,14 +31,14 @@ class TestContactScrns : public QObject
     {
         QString team = QString::number(addTeam(QStringLiteral("Ann & Bo's #1 Nine?"), {}, {}, true));
         qint64 bears = addTeam(QStringLiteral("Bears"));
-        Session() : testkit::Season(false) { }
+        Session() : testkit::Season(false) {}
         void person(const char *table, const QString &first, const QString &email)
         {
-            gData->insert(QString::fromLatin1(table),
-                { { QStringLiteral("TeamNum"), team.toLongLong() }, { QStringLiteral("First"), first },
-                    { QStringLiteral("Last"), QStringLiteral("Zed") },
-                    { QStringLiteral("PhoneNumber"), QStringLiteral("6145551234") },
-                    { QStringLiteral("Email"), email } });
+            gData->insert(QString::fromLatin1(table), {{QStringLiteral("TeamNum"), team.toLongLong()},
+                                                       {QStringLiteral("First"), first},
+                                                       {QStringLiteral("Last"), QStringLiteral("Zed")},
+                                                       {QStringLiteral("PhoneNumber"), QStringLiteral("6145551234")},
+                                                       {QStringLiteral("Email"), email}});
         }
     };
 
@@ -57,7 +57,7 @@ class TestContactScrns : public QObject
             dialog.reject();
         });
         dialog.exec();
-        return { message, closed };
+        return {message, closed};
     }
 
 private Q_SLOTS:
@@ -86,11 +86,11 @@ private Q_SLOTS:
         QCOMPARE(s.fake.urls.opened.size(), 1);
         const QUrl url = s.fake.urls.opened.first();
         QCOMPARE(QUrl::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()),
-            QStringLiteral("ann@example.org,bo+team@example.org"));
+                 QStringLiteral("ann@example.org,bo+team@example.org"));
         const QUrlQuery query(url);
         QCOMPARE(query.queryItems(QUrl::FullyDecoded).size(), 1);
-        QCOMPARE(
-            query.queryItemValue(QStringLiteral("subject"), QUrl::FullyDecoded), QStringLiteral("Ann & Bo's #1 Nine?"));
+        QCOMPARE(query.queryItemValue(QStringLiteral("subject"), QUrl::FullyDecoded),
+                 QStringLiteral("Ann & Bo's #1 Nine?"));
 
         // Back to the coaches; the other team's lists are empty.
         screen->coachesList->setSelectedRow(0);
@@ -114,16 +114,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         const QString server = QStringLiteral("smtp.example.org");
         const QString user = QStringLiteral("coach@example.org");
-        QTest::newRow("no server") << QStringList { QStringLiteral("  "), QString(), QString() } << true
+        QTest::newRow("no server") << QStringList{QStringLiteral("  "), QString(), QString()} << true
                                    << QStringLiteral("Please enter the SMTP server info.");
-        QTest::newRow("no user") << QStringList { server, QString(), QString() } << true
+        QTest::newRow("no user") << QStringList{server, QString(), QString()} << true
                                  << QStringLiteral("Please enter a valid user name.");
-        QTest::newRow("not an address") << QStringList { server, QStringLiteral("coach at home"), QString() } << true
+        QTest::newRow("not an address") << QStringList{server, QStringLiteral("coach at home"), QString()} << true
                                         << QStringLiteral("The email address you entered does not appear to be valid.");
-        QTest::newRow("no password") << QStringList { server, user, QString() } << true
+        QTest::newRow("no password") << QStringList{server, user, QString()} << true
                                      << QStringLiteral("Please enter the email password.");
-        QTest::newRow("no password needed") << QStringList { server, user, QString() } << false << QString();
-        QTest::newRow("all there") << QStringList { server, user, QStringLiteral("pw") } << true << QString();
+        QTest::newRow("no password needed") << QStringList{server, user, QString()} << false << QString();
+        QTest::newRow("all there") << QStringList{server, user, QStringLiteral("pw")} << true << QString();
     }
     void settingsMessages()
     {
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QVERIFY(gPrefs->prEmailPW.isEmpty());
         QVERIFY(gPrefs->prefsDirty);
         QCOMPARE(s.fake.secrets.secrets.value(QStringLiteral("mail password")),
-            storeAnswers ? QStringLiteral("older-version-pw") : QString());
+                 storeAnswers ? QStringLiteral("older-version-pw") : QString());
         gPrefs->prefsDirty = false;
         QString note;
         const auto [shown, closed] = runSettings([&](emailInfoScrn *d) {

@@ -2,12 +2,12 @@
 // into the pool, units handed out, the list exported and imported again,
 // the lists printed, the backup timer running while the screen is open.
 
-#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/myTimerClass.h"
 #include "app/ui/MainMenuBar.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "people/ui/InventoryScrn.h"
 #include "reports/ui/qlmListBox.h"
@@ -34,7 +34,7 @@ class TestInventoryScrn : public QObject
         qint64 bears = addTeam(QStringLiteral("Bears"), QStringLiteral("East"));
         qint64 ann = addPlayer(cougars, QStringLiteral("Ann"), QStringLiteral("Ames"));
         qint64 bo = addPlayer(cougars, QStringLiteral("Bo"), QStringLiteral("Ames"));
-        Session() : testkit::Season(false) { }
+        Session() : testkit::Season(false) {}
     };
 
     static QStringList rows(const qlmListBox *list)
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QTest::keyClick(screen->inputFld[2], Qt::Key_Tab);
         QVERIFY(screen->inputFld[0]->hasFocus());
         QTest::keyClick(screen->inputFld[0], Qt::Key_Return);
-        QCOMPARE(rows(screen->teamInvList), QStringList { QStringLiteral("4|Helmet|H-1") });
+        QCOMPARE(rows(screen->teamInvList), QStringList{QStringLiteral("4|Helmet|H-1")});
         QVERIFY(screen->inputFld[1]->text().isEmpty());
 
         // The plus button adds only with a count.
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(screen->addBtn->isEnabled());
         screen->teamInvList->setSelectedRow(0);
         QTest::mouseClick(screen->addBtn, Qt::LeftButton);
-        QCOMPARE(rows(screen->IndivList), QStringList { QStringLiteral("Helmet|H-1") });
+        QCOMPARE(rows(screen->IndivList), QStringList{QStringLiteral("Helmet|H-1")});
         QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("2|Helmet|H-1"));
         QVERIFY(!screen->RemoveBtn->isEnabled());
         screen->IndivList->setSelectedRow(0);
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("3|Helmet|H-1"));
         screen->teamInvList->setSelectedRow(1);
         testkit::clickHalf(screen->TeamInvPlusMinus, false);
-        QCOMPARE(rows(screen->teamInvList), QStringList { QStringLiteral("3|Helmet|H-1") });
+        QCOMPARE(rows(screen->teamInvList), QStringList{QStringLiteral("3|Helmet|H-1")});
 
         screen->close();
         QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeOff);
@@ -115,8 +115,8 @@ private Q_SLOTS:
         Session s;
         auto *screen = new InventoryScrn;
         QVERIFY(testkit::showActive(screen));
-        const QStringList pool { QStringLiteral("12|Baseballs|"), QStringLiteral("1|Catcher's mask|C #2"),
-            QStringLiteral("-1|Rosin & tar|R?%") };
+        const QStringList pool{QStringLiteral("12|Baseballs|"), QStringLiteral("1|Catcher's mask|C #2"),
+                               QStringLiteral("-1|Rosin & tar|R?%")};
         for (const QString &row : pool) {
             const QStringList f = row.split(u'|');
             QVERIFY(screen->book().enterItem(-1, f[0], f[1], f[2]));
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(s.fake.messages.shown.isEmpty());
 
         // A file that isn't text is ignored.
-        const QString picture = fakes::writePicture(s.home.filePath(QStringLiteral("p.png")), { 4, 4 }, Qt::red);
+        const QString picture = fakes::writePicture(s.home.filePath(QStringLiteral("p.png")), {4, 4}, Qt::red);
         s.fake.files.answers.enqueue(picture);
         import->trigger();
         QCOMPARE(screen->teamInvList->rowCount(), 3);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(s.fake.printing.printed.size(), 2);
         const QString team = fakes::pdfText(s.fake.printing.printed.at(0));
         QVERIFY2(team.contains(QStringLiteral("O'Brien's Nine's Inventory")) && team.contains(QStringLiteral("Glove")),
-            qPrintable(team));
+                 qPrintable(team));
         QVERIFY(fakes::pdfText(s.fake.printing.printed.at(1)).contains(QStringLiteral("Ann Ames's Inventory")));
     }
 };

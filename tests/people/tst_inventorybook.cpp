@@ -14,7 +14,7 @@ class TestInventoryBook : public QObject
 
     struct Season : testkit::Season
     {
-        InventoryBook book { *gData };
+        InventoryBook book{*gData};
         QString team = QString::number(addTeam(QStringLiteral("Cougars"), QStringLiteral("Central")));
         QString ann = QString::number(addPlayer(team.toLongLong(), QStringLiteral("Ann"), QStringLiteral("Ames")));
         QString bo = QString::number(addPlayer(team.toLongLong(), QStringLiteral("Bo"), QStringLiteral("Bell")));
@@ -30,7 +30,7 @@ class TestInventoryBook : public QObject
         }
         int heldBy(const QString &player)
         {
-            return count(QStringLiteral("SELECT COUNT(*) FROM PlayerInventory WHERE PlayerID = ?"), { player });
+            return count(QStringLiteral("SELECT COUNT(*) FROM PlayerInventory WHERE PlayerID = ?"), {player});
         }
     };
 
@@ -42,19 +42,19 @@ private Q_SLOTS:
         Season s;
         QVERIFY(s.book.enterItem(-1, QStringLiteral("2"), QStringLiteral("Helmet"), QStringLiteral("H-7")));
         QVERIFY(s.book.enterItem(-1, QStringLiteral("0"), QStringLiteral("Bat"), QString()));
-        QCOMPARE(s.pool(), (QStringList { QStringLiteral("2 Helmet H-7"), QStringLiteral("1 Bat ") }));
+        QCOMPARE(s.pool(), (QStringList{QStringLiteral("2 Helmet H-7"), QStringLiteral("1 Bat ")}));
         const qint64 helmets = s.book.pool().at(0).serial;
 
         s.book.selectPlayer(s.ann);
         QVERIFY(s.book.assign(0));
         QCOMPARE(s.pool().first(), QStringLiteral("1 Helmet H-7"));
         QVERIFY(s.book.assign(0));
-        QCOMPARE(s.pool(), QStringList { QStringLiteral("1 Bat ") });
+        QCOMPARE(s.pool(), QStringList{QStringLiteral("1 Bat ")});
         QCOMPARE(s.book.held().size(), 2);
         QCOMPARE(s.book.held().at(1).ctrlNum, helmets);
 
         QVERIFY(s.book.giveBack(0));
-        QCOMPARE(s.pool(), (QStringList { QStringLiteral("1 Bat "), QStringLiteral("1 Helmet H-7") }));
+        QCOMPARE(s.pool(), (QStringList{QStringLiteral("1 Bat "), QStringLiteral("1 Helmet H-7")}));
         QVERIFY(s.book.pool().at(1).serial != helmets);
         QCOMPARE(s.heldBy(s.ann), 1);
 
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(s.pool().isEmpty());
         QCOMPARE(s.heldBy(s.ann), 1);
         QVERIFY(s.book.giveBack(0));
-        QCOMPARE(s.pool(), QStringList { QStringLiteral("1 Glove G") });
+        QCOMPARE(s.pool(), QStringList{QStringLiteral("1 Glove G")});
         QCOMPARE(s.heldBy(s.ann), 0);
     }
 
@@ -102,16 +102,16 @@ private Q_SLOTS:
         QVERIFY(s.book.assign(0));
         s.book.selectPlayer(s.bo);
         QVERIFY(s.book.assign(0));
-        QCOMPARE(s.pool(), QStringList { QStringLiteral("3 Jersey ") });
+        QCOMPARE(s.pool(), QStringList{QStringLiteral("3 Jersey ")});
 
         s.book.selectPlayer(s.ann);
         QVERIFY(drop ? s.book.drop(0) : s.book.giveBack(0));
         QCOMPARE(s.heldBy(s.ann), 0);
         QCOMPARE(s.heldBy(s.bo), 1);
-        QCOMPARE(s.pool(), QStringList { drop ? QStringLiteral("3 Jersey ") : QStringLiteral("4 Jersey ") });
+        QCOMPARE(s.pool(), QStringList{drop ? QStringLiteral("3 Jersey ") : QStringLiteral("4 Jersey ")});
         if (drop)
             QCOMPARE(s.fake.messages.texts(),
-                QStringList { QStringLiteral("Delete this item without adding it back to the team inventory?") });
+                     QStringList{QStringLiteral("Delete this item without adding it back to the team inventory?")});
     }
 
     // Refusals say why and change nothing.
@@ -126,11 +126,10 @@ private Q_SLOTS:
         QVERIFY(!s.book.enterItem(-1, QString(), QStringLiteral("Nothing"), QString()));
         s.fake.messages.defaultAnswer = platform::MsgCancel;
         QVERIFY(s.book.assign(0) == false);
-        QCOMPARE(s.fake.messages.texts(),
-            (QStringList { QStringLiteral("Please select an item from the inventory."),
-                QStringLiteral("It appears there are no Cap to assign."),
-                QStringLiteral("It appears there are no Cap to assign.") }));
-        QCOMPARE(s.pool(), QStringList { QStringLiteral("0 Cap ") });
+        QCOMPARE(s.fake.messages.texts(), (QStringList{QStringLiteral("Please select an item from the inventory."),
+                                                       QStringLiteral("It appears there are no Cap to assign."),
+                                                       QStringLiteral("It appears there are no Cap to assign.")}));
+        QCOMPARE(s.pool(), QStringList{QStringLiteral("0 Cap ")});
         QCOMPARE(s.heldBy(s.ann), 0);
     }
 
@@ -143,25 +142,25 @@ private Q_SLOTS:
         QTest::addColumn<QString>("explanation"); // of the skipped-lines message; empty for none
 
         QTest::newRow("good lines, CR LF") << QByteArray("12\tBaseballs\t\r\n0\tBat\tB-1\r\n-2\tRosin bag\r\n")
-                                           << QStringList { QStringLiteral("12 Baseballs "),
-                                                  QStringLiteral("1 Bat B-1"), QStringLiteral("-2 Rosin bag ") }
+                                           << QStringList{QStringLiteral("12 Baseballs "), QStringLiteral("1 Bat B-1"),
+                                                          QStringLiteral("-2 Rosin bag ")}
                                            << QString();
         QTest::newRow("a quantity alone, blank lines and a byte-order mark")
             << QByteArray("\xEF\xBB\xBF\n7\n\n   \n3\tÉquipe ñ\r")
-            << QStringList { QStringLiteral("7  "), QStringLiteral("3 Équipe ñ ") } << QString();
+            << QStringList{QStringLiteral("7  "), QStringLiteral("3 Équipe ñ ")} << QString();
         QTest::newRow("no tabs and five fields")
-            << QByteArray("12 Baseballs\n2\tBat\tB\n1\ta\tb\tc\td\n") << QStringList { QStringLiteral("2 Bat B") }
+            << QByteArray("12 Baseballs\n2\tBat\tB\n1\ta\tb\tc\td\n") << QStringList{QStringLiteral("2 Bat B")}
             << QStringLiteral("Lines 1 and 3 did not hold");
         QTest::newRow("not a quantity") << QByteArray("two\tBats\n2.5\tCones\n99999999999\tBalls\n4\tCones\n")
-                                        << QStringList { QStringLiteral("4 Cones ") }
+                                        << QStringList{QStringLiteral("4 Cones ")}
                                         << QStringLiteral("Lines 1, 2 and 3 did not hold");
         QTest::newRow("a line of 100,000 characters")
-            << (QByteArray("1\t") + QByteArray(100000, 'x') + "\n5\tBases\n")
-            << QStringList { QStringLiteral("5 Bases ") } << QStringLiteral("Line 1 did not hold");
+            << (QByteArray("1\t") + QByteArray(100000, 'x') + "\n5\tBases\n") << QStringList{QStringLiteral("5 Bases ")}
+            << QStringLiteral("Line 1 did not hold");
         QTest::newRow("binary junk") << QByteArray("3\tHel\x00met\n\x89PNG\r\n\x1a\n2\t\xff\xfe\n6\tCaps\n", 30)
-                                     << QStringList { QStringLiteral("6 Caps ") }
+                                     << QStringList{QStringLiteral("6 Caps ")}
                                      << QStringLiteral("Lines 1, 2, 3 and 4 did not hold");
-        QTest::newRow("all skipped") << QByteArray("Helmets\n") << QStringList {}
+        QTest::newRow("all skipped") << QByteArray("Helmets\n") << QStringList{}
                                      << QStringLiteral("Line 1 did not hold");
     }
     void importDamagedFiles()
@@ -177,9 +176,9 @@ private Q_SLOTS:
         if (explanation.isEmpty()) {
             QVERIFY(s.fake.messages.shown.isEmpty());
         } else {
-            QCOMPARE(s.fake.messages.texts(), QStringList { QStringLiteral("Some lines were not imported.") });
+            QCOMPARE(s.fake.messages.texts(), QStringList{QStringLiteral("Some lines were not imported.")});
             QVERIFY2(s.fake.messages.shown.first().explanation.startsWith(explanation),
-                qPrintable(s.fake.messages.shown.first().explanation));
+                     qPrintable(s.fake.messages.shown.first().explanation));
         }
     }
 
@@ -187,8 +186,8 @@ private Q_SLOTS:
     {
         Season s;
         QVERIFY(!s.book.importInvItems("\n\r\n  \n").read);
-        QCOMPARE(
-            s.fake.messages.texts(), QStringList { QStringLiteral("Either there was an error or the list is empty.") });
+        QCOMPARE(s.fake.messages.texts(),
+                 QStringList{QStringLiteral("Either there was an error or the list is empty.")});
     }
 };
 

@@ -15,7 +15,6 @@ using people::MemberRecord;
 
 namespace {
 
-
 const fakes::PdfWord *findWord(const QList<fakes::PdfWord> &words, const QString &text, int nth = 0)
 {
     for (const fakes::PdfWord &w : words) {
@@ -78,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(fourth->page, 2);
         QCOMPARE(qRound(second->yMin - first->yMin), 216);
         QCOMPARE(qRound(fourth->yMin), qRound(first->yMin)); // a new page starts at the top
-        QVERIFY(qAbs(first->xMin - 36) < 1.5);                // at the left margin
+        QVERIFY(qAbs(first->xMin - 36) < 1.5);               // at the left margin
         const auto *league = findWord(words, QStringLiteral("League"));
         const auto *field = findWord(words, QStringLiteral("Field:"));
         QCOMPARE(qRound(league->yMin - first->yMin), 16);

@@ -13,8 +13,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("quotes and semicolons") << QStringLiteral("O'Brien's \"Big\" Red; Jr.")
-                                               << QStringLiteral("O'Brien's \"Big\" Red; Jr.");
+        QTest::newRow("quotes and semicolons")
+            << QStringLiteral("O'Brien's \"Big\" Red; Jr.") << QStringLiteral("O'Brien's \"Big\" Red; Jr.");
         QTest::newRow("non-ASCII") << QStringLiteral("Zoë Ñúñez-Øster 李") << QStringLiteral("Zoë Ñúñez-Øster 李");
         QTest::newRow("tab from a spreadsheet") << QStringLiteral("Mary\tAnn") << QStringLiteral("Mary Ann");
         QTest::newRow("line ends") << QStringLiteral("Jo\r\nBeth\r") << QStringLiteral("Jo  Beth ");
@@ -33,12 +33,24 @@ private Q_SLOTS:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("mask");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("seven digits") << "5551234" << "###\\-####" << "555-1234";
-        QTest::newRow("ten digits") << "6145551234" << "\\(###) ###\\-####" << "(614) 555-1234";
-        QTest::newRow("ten typed with dashes") << "614-555-1234" << "\\(###) ###\\-####" << "(614) 555-1234";
-        QTest::newRow("six: no mask") << "555123" << "" << "555123";
-        QTest::newRow("too many digits shown as typed") << "16145551234" << "\\(###) ###\\-####" << "16145551234";
-        QTest::newRow("letters shown as typed") << "call Bob!" << "###\\-####" << "call Bob!";
+        QTest::newRow("seven digits") << "5551234"
+                                      << "###\\-####"
+                                      << "555-1234";
+        QTest::newRow("ten digits") << "6145551234"
+                                    << "\\(###) ###\\-####"
+                                    << "(614) 555-1234";
+        QTest::newRow("ten typed with dashes") << "614-555-1234"
+                                               << "\\(###) ###\\-####"
+                                               << "(614) 555-1234";
+        QTest::newRow("six: no mask") << "555123"
+                                      << ""
+                                      << "555123";
+        QTest::newRow("too many digits shown as typed") << "16145551234"
+                                                        << "\\(###) ###\\-####"
+                                                        << "16145551234";
+        QTest::newRow("letters shown as typed") << "call Bob!"
+                                                << "###\\-####"
+                                                << "call Bob!";
     }
     void phoneMask()
     {

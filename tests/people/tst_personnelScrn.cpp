@@ -1,7 +1,6 @@
 // The personnel screen driven as the coach drives it, offscreen, with every
 // dialog answered by the fakes.
 
-#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/ui/MainMenuBar.h"
@@ -9,6 +8,7 @@
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "people/ui/PictureCanvas.h"
 #include "people/ui/personnelScrn.h"
@@ -48,16 +48,18 @@ class TestPersonnelScrn : public QObject
         }
         static QString team(const QString &name)
         {
-            return QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("Central")},
-                                                                           {QStringLiteral("TeamName"), name}}));
+            return QString::number(
+                gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QStringLiteral("Central")},
+                                                        {QStringLiteral("TeamName"), name}}));
         }
         QString player(const QString &teamID, const QString &first, const QString &last, const QString &dob = {})
         {
-            return QString::number(gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), teamID.toLongLong()},
-                                                                             {QStringLiteral("First"), first},
-                                                                             {QStringLiteral("Last"), last},
-                                                                             {QStringLiteral("DOB"), dob},
-                                                                             {QStringLiteral("Active"), 1}}));
+            return QString::number(
+                gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), teamID.toLongLong()},
+                                                          {QStringLiteral("First"), first},
+                                                          {QStringLiteral("Last"), last},
+                                                          {QStringLiteral("DOB"), dob},
+                                                          {QStringLiteral("Active"), 1}}));
         }
     };
 
@@ -79,8 +81,9 @@ class TestPersonnelScrn : public QObject
 
     static QString column(const QString &column, const QString &playerID)
     {
-        return gData->scalar(QStringLiteral("SELECT ") + column + QStringLiteral(" FROM Players WHERE playerID = ?"),
-                             {playerID})
+        return gData
+            ->scalar(QStringLiteral("SELECT ") + column + QStringLiteral(" FROM Players WHERE playerID = ?"),
+                     {playerID})
             .toString();
     }
 
@@ -265,7 +268,8 @@ private Q_SLOTS:
         s.fake.messages.clear();
 
         screen->playersList->setSelectedRow(0);
-        s.fake.files.answers.enqueue(fakes::writePicture(s.home.filePath(QStringLiteral("zoe.png")), {86, 100}, Qt::darkCyan));
+        s.fake.files.answers.enqueue(
+            fakes::writePicture(s.home.filePath(QStringLiteral("zoe.png")), {86, 100}, Qt::darkCyan));
         clickHalf(screen->PlusMinusIndivPic, true);
         QCOMPARE(s.fake.files.calls.first().request.title, QStringLiteral("Select a Picture File to add"));
         QVERIFY(screen->editState().editDirty); // a new photo is a change

@@ -36,17 +36,31 @@ private Q_SLOTS:
                                 QStringLiteral("O'Neil; Łukasiewicz\tJr"));
         // Every text field with what it holds, read back to the character.
         const QList<std::pair<QString MemberRecord::*, QString>> typed{
-            {&MemberRecord::First, p.First}, {&MemberRecord::TeamNum, team},
-            {&MemberRecord::Address, "12 \"Main\" St., Apt; 4"}, {&MemberRecord::City, "Dublin"},
-            {&MemberRecord::State, "OH"}, {&MemberRecord::Zip, "43017"}, {&MemberRecord::PhoneNumber, "(614) 555-1234"},
-            {&MemberRecord::CellPhone, "555-9876"}, {&MemberRecord::Email, "pepe@example.com"},
-            {&MemberRecord::UniNum, "07"}, {&MemberRecord::Pos1, "SS"}, {&MemberRecord::Pos2, "C"},
-            {&MemberRecord::Pos3, "RHP"}, {&MemberRecord::HitSide, "Switch"}, {&MemberRecord::ThrowSide, "Left"},
-            {&MemberRecord::DOB, "04/16/2012"}, {&MemberRecord::StudentID, "S-1'2"},
-            {&MemberRecord::Guardian, "Ana O'Neil"}, {&MemberRecord::GuardianPhone, "555-0001"},
-            {&MemberRecord::EmergContact, "Tío Jorge"}, {&MemberRecord::EmergPhone, "555-0002"},
-            {&MemberRecord::Doctor, "Dr. Ng"}, {&MemberRecord::DoctorPhone, "555-0003"},
-            {&MemberRecord::MedInfo, "Peanuts; bees"}, {&MemberRecord::PlayerNotes, "Line one\nline\ttwo"}};
+            {&MemberRecord::First, p.First},
+            {&MemberRecord::TeamNum, team},
+            {&MemberRecord::Address, "12 \"Main\" St., Apt; 4"},
+            {&MemberRecord::City, "Dublin"},
+            {&MemberRecord::State, "OH"},
+            {&MemberRecord::Zip, "43017"},
+            {&MemberRecord::PhoneNumber, "(614) 555-1234"},
+            {&MemberRecord::CellPhone, "555-9876"},
+            {&MemberRecord::Email, "pepe@example.com"},
+            {&MemberRecord::UniNum, "07"},
+            {&MemberRecord::Pos1, "SS"},
+            {&MemberRecord::Pos2, "C"},
+            {&MemberRecord::Pos3, "RHP"},
+            {&MemberRecord::HitSide, "Switch"},
+            {&MemberRecord::ThrowSide, "Left"},
+            {&MemberRecord::DOB, "04/16/2012"},
+            {&MemberRecord::StudentID, "S-1'2"},
+            {&MemberRecord::Guardian, "Ana O'Neil"},
+            {&MemberRecord::GuardianPhone, "555-0001"},
+            {&MemberRecord::EmergContact, "Tío Jorge"},
+            {&MemberRecord::EmergPhone, "555-0002"},
+            {&MemberRecord::Doctor, "Dr. Ng"},
+            {&MemberRecord::DoctorPhone, "555-0003"},
+            {&MemberRecord::MedInfo, "Peanuts; bees"},
+            {&MemberRecord::PlayerNotes, "Line one\nline\ttwo"}};
         for (const auto &[field, value] : typed)
             p.*field = value;
         p.Active = false;

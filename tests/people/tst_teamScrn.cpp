@@ -1,7 +1,6 @@
 // The team screen driven as the coach drives it, offscreen, with every
 // dialog answered by the fakes.
 
-#include "fakes/TestKit.h"
 #include "app/App.h"
 #include "app/FileTypes.h"
 #include "app/globals.h"
@@ -10,6 +9,7 @@
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "people/ui/MaskedPhoneField.h"
 #include "people/ui/PictureCanvas.h"
@@ -87,8 +87,7 @@ private Q_SLOTS:
         QCOMPARE(screen->teamList->rowCount(), 1);
         const QString first = screen->teamList->rowTag(0);
         QCOMPARE(gPrefs->prHomeTeam, first);
-        QCOMPARE(screen->teamList->rowCells(0),
-                 (QStringList{"O'Brien's \"Prep\"", "Señores; Rojos", "X"}));
+        QCOMPARE(screen->teamList->rowCells(0), (QStringList{"O'Brien's \"Prep\"", "Señores; Rojos", "X"}));
         QCOMPARE(screen->actionBtn->text(), QStringLiteral("Add Team")); // the form is empty again
 
         s.fake.messages.answers.enqueue(std::uint8_t(answer));
@@ -201,9 +200,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("seven") << "5551234" << "555-1234";
-        QTest::newRow("ten") << "6145551234" << "(614) 555-1234";
-        QTest::newRow("six") << "555123" << "555123";
+        QTest::newRow("seven") << "5551234"
+                               << "555-1234";
+        QTest::newRow("ten") << "6145551234"
+                             << "(614) 555-1234";
+        QTest::newRow("six") << "555123"
+                             << "555123";
     }
     void phoneMask()
     {
@@ -306,7 +308,8 @@ private Q_SLOTS:
         QFETCH(QSize, kept);
         Session s;
         auto screen = open();
-        s.fake.files.answers.enqueue(fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), chosen, Qt::red));
+        s.fake.files.answers.enqueue(
+            fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), chosen, Qt::red));
         clickHalf(screen->PlusMinusTeamLogo, true);
         QCOMPARE(screen->LogoCvn->picture().size(), kept);
     }
@@ -324,8 +327,8 @@ private Q_SLOTS:
             buffer.open(QIODevice::WriteOnly);
             crest.save(&buffer, "JPEG", 75);
         }
-        gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Cougars")},
-                                                 {QStringLiteral("TeamLogo"), jpeg}});
+        gData->insert(QStringLiteral("Teams"),
+                      {{QStringLiteral("TeamName"), QStringLiteral("Cougars")}, {QStringLiteral("TeamLogo"), jpeg}});
         auto screen = open();
         screen->teamList->setSelectedRow(0);
         QCOMPARE(screen->LogoCvn->picture().size(), QSize(40, 30));

@@ -31,12 +31,17 @@ private Q_SLOTS:
         TeamBook book(*gData, *gPrefs);
         TeamRecord t = team(QStringLiteral("O'Brien's \"Prep\"; Academy"), QStringLiteral("Señores\tRojos"));
         // Every text field with what it holds, read back to the character.
-        const QList<std::pair<QString TeamRecord::*, QString>> typed{
-            {&TeamRecord::SchoolName, t.SchoolName}, {&TeamRecord::League, "Tri-County, North"},
-            {&TeamRecord::Division, "A; B"}, {&TeamRecord::SchoolAddress, "1 Elm St."},
-            {&TeamRecord::SchoolAddress1, "Suite \"B\""}, {&TeamRecord::SchoolCity, "Zürich"},
-            {&TeamRecord::SchoolZip, "43017"}, {&TeamRecord::SchoolState, "OH"}, {&TeamRecord::Phone, "6145551234"},
-            {&TeamRecord::HomeField, "Mc'Kinley Park'); DROP TABLE Teams;--"}};
+        const QList<std::pair<QString TeamRecord::*, QString>> typed{{&TeamRecord::SchoolName, t.SchoolName},
+                                                                     {&TeamRecord::League, "Tri-County, North"},
+                                                                     {&TeamRecord::Division, "A; B"},
+                                                                     {&TeamRecord::SchoolAddress, "1 Elm St."},
+                                                                     {&TeamRecord::SchoolAddress1, "Suite \"B\""},
+                                                                     {&TeamRecord::SchoolCity, "Zürich"},
+                                                                     {&TeamRecord::SchoolZip, "43017"},
+                                                                     {&TeamRecord::SchoolState, "OH"},
+                                                                     {&TeamRecord::Phone, "6145551234"},
+                                                                     {&TeamRecord::HomeField,
+                                                                      "Mc'Kinley Park'); DROP TABLE Teams;--"}};
         for (const auto &[field, value] : typed)
             t.*field = value;
         t.Active = false;
@@ -134,13 +139,12 @@ private Q_SLOTS:
         gPrefs->prHomeTeam = id;
         f.addPlayer(id.toLongLong(), QStringLiteral("Al"), QStringLiteral("Reyes"));
         QVERIFY(gData->exec(QStringLiteral("CREATE TRIGGER keep BEFORE DELETE ON Teams "
-                                          "BEGIN SELECT RAISE(ABORT, 'kept'); END")));
+                                           "BEGIN SELECT RAISE(ABORT, 'kept'); END")));
         QVERIFY(!book.deleteTeam(id));
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 1);
         QCOMPARE(f.count(QStringLiteral("SELECT COUNT(*) FROM Teams")), 1);
         QCOMPARE(gPrefs->prHomeTeam, id);
     }
-
 };
 
 QTEST_MAIN(TestTeamBook)

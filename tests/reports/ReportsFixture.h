@@ -55,7 +55,8 @@ struct ReportsFixture
     // A season row of "Hitting", "Fielding" or "Pitching" with the given figures.
     void addSeasonRow(const QString &table, qint64 playerID, qint64 teamID, const QHash<QString, int> &figures)
     {
-        Fields fields{{QStringLiteral("playerID"), playerID}, {QStringLiteral("teamID"), teamID},
+        Fields fields{{QStringLiteral("playerID"), playerID},
+                      {QStringLiteral("teamID"), teamID},
                       {QStringLiteral("gameID"), 1}};
         for (auto it = figures.cbegin(); it != figures.cend(); ++it)
             fields.append({it.key(), it.value()});

@@ -199,7 +199,8 @@ private Q_SLOTS:
                 return true;
             }
             if (event->key() == Qt::Key_Tab) {
-                QMetaObject::invokeMethod(list.get(), [&list, row] { list->editCell(row + 1, 1); }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(
+                    list.get(), [&list, row] { list->editCell(row + 1, 1); }, Qt::QueuedConnection);
                 return false;
             }
             return column != 1;

@@ -321,7 +321,8 @@ private Q_SLOTS:
             << QByteArray("Inventory\nA\tB\nx\ty\tz\n");
         QTest::newRow("non-ASCII text in UTF-8")
             << QStringList{"Jugador", "Posición"} << QList<QStringList>{{"José Núñez", "Lanzador – 投手"}}
-            << QByteArray("Inventory\nJugador\tPosici\xc3\xb3n\nJos\xc3\xa9 N\xc3\xba\xc3\xb1" "ez\tLanzador "
+            << QByteArray("Inventory\nJugador\tPosici\xc3\xb3n\nJos\xc3\xa9 N\xc3\xba\xc3\xb1"
+                          "ez\tLanzador "
                           "\xe2\x80\x93 \xe6\x8a\x95\xe6\x89\x8b\n");
     }
     void exportFile()
@@ -330,7 +331,8 @@ private Q_SLOTS:
         QFETCH(QList<QStringList>, rows);
         QFETCH(QByteArray, expected);
         fakes::FakePlatform fake;
-        const QString path = m_dir.filePath(QStringLiteral("export-%1.txt").arg(QTest::currentDataTag()).replace(' ', '_'));
+        const QString path = m_dir.filePath(
+            QStringLiteral("export-%1.txt").arg(QTest::currentDataTag()).replace(' ', '_'));
         fake.files.answers.enqueue(path);
         qlmListBox list;
         list.setHeadings(headings);
@@ -353,10 +355,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("written");
         QTest::addColumn<bool>("documents");
-        QTest::newRow("no extension") << "roster" << "roster.txt" << true;
-        QTest::newRow(".txt kept") << "roster.txt" << "roster.txt" << false;
-        QTest::newRow("another extension kept") << "roster.tsv" << "roster.tsv" << true;
-        QTest::newRow("dot in a folder only") << "my.lists/roster" << "my.lists/roster.txt" << false;
+        QTest::newRow("no extension") << "roster"
+                                      << "roster.txt" << true;
+        QTest::newRow(".txt kept") << "roster.txt"
+                                   << "roster.txt" << false;
+        QTest::newRow("another extension kept") << "roster.tsv"
+                                                << "roster.tsv" << true;
+        QTest::newRow("dot in a folder only") << "my.lists/roster"
+                                              << "my.lists/roster.txt" << false;
     }
     void exportNameAndFolder()
     {
@@ -416,7 +422,8 @@ private Q_SLOTS:
         // A skipped column leaves its separator; tags follow a tab.
         QCOMPARE(list.myDataAsString("", 1, true),
                  QStringLiteral("Laps\t\t3:15\tAnn\t41\rBunting\t\t\t\t42\rSigns\t\t3:45\tBo\t43"));
-        QCOMPARE(list.myDataAsString("", 3, false), QStringLiteral("Laps\t3:00\t3:15\t\rBunting\t3:15\t\t\rSigns\t3:30\t3:45\t"));
+        QCOMPARE(list.myDataAsString("", 3, false),
+                 QStringLiteral("Laps\t3:00\t3:15\t\rBunting\t3:15\t\t\rSigns\t3:30\t3:45\t"));
         qlmListBox empty;
         empty.setHeadings({"A"});
         QCOMPARE(empty.myDataAsString("P", -1, true), QStringLiteral("P"));

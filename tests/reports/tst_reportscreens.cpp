@@ -97,9 +97,8 @@ private Q_SLOTS:
         QTest::newRow("batting") << 0 << QStringList{"B1", "B2", "B3", "HR", "BB", "KS", "KL", "Runs", "RBI"}
                                  << QStringList{"AB", "Avg", "OBP", "SP"};
         QTest::newRow("fielding") << 1 << QStringList{"IP", "CH", "PO", "Asst", "FE", "TE"} << QStringList{"FPct"};
-        QTest::newRow("pitching") << 2
-                                  << QStringList{"Win", "Loss", "Save", "ND", "Start", "ShO", "CG", "Balls", "Ks",
-                                                 "PitCt", "IP", "Hits", "ErRuns", "BB", "Kouts"}
+        QTest::newRow("pitching") << 2 << QStringList{"Win", "Loss",  "Save", "ND",   "Start",  "ShO", "CG",   "Balls",
+                                                      "Ks",  "PitCt", "IP",   "Hits", "ErRuns", "BB",  "Kouts"}
                                   << QStringList{"ERA"};
     }
     // The defaults, "All" and back, a check by keyboard, and the columns a

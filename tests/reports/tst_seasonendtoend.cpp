@@ -121,9 +121,9 @@ private Q_SLOTS:
 
         // Nguyen: 2 for 2, a single and a double, (1 + 2) / 2 bases, one run.
         // Washington: 1 for 2, a home run and a strikeout, 4 / 2 bases, 2 RBI.
-        auto batting = std::make_unique<reportScrn>(
-            0, QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP", "B1", "B2", "B3", "HR", "BB", "KS",
-                           "KL", "Runs", "RBI"});
+        auto batting = std::make_unique<reportScrn>(0, QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP",
+                                                                   "B1", "B2", "B3", "HR", "BB", "KS", "KL", "Runs",
+                                                                   "RBI"});
         const QStringList shown = lines(batting->reportBox);
         QVERIFY(shown.contains("Ethan Nguyen 2 1.000 1.000 1.500 1 1 0 0 0 0 0 1 0"));
         QVERIFY(shown.contains("Caleb Washington 2 .500 .500 2.000 0 0 0 1 0 1 0 1 2"));
@@ -131,9 +131,9 @@ private Q_SLOTS:
         QCOMPARE(shown.size(), 10);
 
         auto standings = std::make_unique<standingsScrn>();
-        QCOMPARE(lines(standings->myLB), (QStringList{"Patriots 1 0 0 1.000 0.0", "Celtics 1 1 0 .500 0.5",
-                                                      "Wildcats 0 1 0 .000 1.0", "Knights .000 0.5",
-                                                      "Cardinals .000 0.5"}));
+        QCOMPARE(lines(standings->myLB),
+                 (QStringList{"Patriots 1 0 0 1.000 0.0", "Celtics 1 1 0 .500 0.5", "Wildcats 0 1 0 .000 1.0",
+                              "Knights .000 0.5", "Cardinals .000 0.5"}));
     }
 };
 

@@ -33,10 +33,14 @@ private Q_SLOTS:
         QTest::addColumn<double>("value");
         QTest::addColumn<QString>("mask");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("rounds up to a whole one") << 0.9996 << ".000" << "1.000";
-        QTest::newRow("more digits than the mask") << 1234.0 << "##0" << "1234";
-        QTest::newRow("games back behind") << -1.5 << "#0.0" << "-1.5";
-        QTest::newRow("no sign on a rounded zero") << -0.01 << "#0.0" << "0.0";
+        QTest::newRow("rounds up to a whole one") << 0.9996 << ".000"
+                                                  << "1.000";
+        QTest::newRow("more digits than the mask") << 1234.0 << "##0"
+                                                   << "1234";
+        QTest::newRow("games back behind") << -1.5 << "#0.0"
+                                           << "-1.5";
+        QTest::newRow("no sign on a rounded zero") << -0.01 << "#0.0"
+                                                   << "0.0";
     }
     void masks()
     {
@@ -63,8 +67,9 @@ private Q_SLOTS:
         // bases 2 + 2 + 4 = 8; the intentional walk counts nowhere.
         QTest::newRow("a season") << reports::Batting << batting << "AB=10 B1=2 B2=1 HR=1 BB=2 IBB=1 HBP=1 SAC=1"
                                   << QStringList{"Al", "Ames", "10", ".400", ".500", ".800", "2", "1"};
-        QTest::newRow("interference counts nowhere") << reports::Batting << batting << "AB=2 B1=1 CI=1"
-                                                     << QStringList{"Al", "Ames", "2", ".500", ".500", ".500", "0", "0"};
+        QTest::newRow("interference counts nowhere")
+            << reports::Batting << batting << "AB=2 B1=1 CI=1"
+            << QStringList{"Al", "Ames", "2", ".500", ".500", ".500", "0", "0"};
         QTest::newRow("all home runs") << reports::Batting << batting << "AB=4 HR=4"
                                        << QStringList{"Al", "Ames", "4", "1.000", "1.000", "4.000", "0", "0"};
         QTest::newRow("thirds round") << reports::Batting << batting << "AB=3 B1=2 B3=1"
@@ -88,8 +93,8 @@ private Q_SLOTS:
         QTest::newRow("nine innings") << reports::Pitching << pitching << "IP=90 ErRuns=3"
                                       << QStringList{"Al", "Ames", "3.00", "9.0", "3"};
         // 6 2/3 innings: 9 x 6 / (20/3) = 8.10.
-        QTest::newRow("thirds of innings") << reports::Pitching << pitching << "IP=62 ErRuns=6"
-                                           << QStringList{"Al", "Ames", "8.10", "6.2", "6"};
+        QTest::newRow("thirds of innings")
+            << reports::Pitching << pitching << "IP=62 ErRuns=6" << QStringList{"Al", "Ames", "8.10", "6.2", "6"};
         QTest::newRow("one out") << reports::Pitching << pitching << "IP=1 ErRuns=1"
                                  << QStringList{"Al", "Ames", "27.00", "0.1", "1"};
     }
@@ -117,10 +122,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("division");
         QTest::addColumn<QString>("team");
         QTest::addColumn<QStringList>("lastNames");
-        QTest::newRow("all") << "" << "" << "" << QStringList{"Ames", "Bell", "Cole", "Dunn", "Player", "Ford"};
-        QTest::newRow("division across leagues") << "" << "East" << "" << QStringList{"Ames", "Cole", "Player"};
-        QTest::newRow("traded player under his new team") << "" << "" << "Hawks" << QStringList{"Cole"};
-        QTest::newRow("no league fails a league filter") << "South" << "" << "" << QStringList{"Cole"};
+        QTest::newRow("all") << ""
+                             << ""
+                             << "" << QStringList{"Ames", "Bell", "Cole", "Dunn", "Player", "Ford"};
+        QTest::newRow("division across leagues") << ""
+                                                 << "East"
+                                                 << "" << QStringList{"Ames", "Cole", "Player"};
+        QTest::newRow("traded player under his new team") << ""
+                                                          << ""
+                                                          << "Hawks" << QStringList{"Cole"};
+        QTest::newRow("no league fails a league filter") << "South"
+                                                         << ""
+                                                         << "" << QStringList{"Cole"};
     }
     void filters()
     {

@@ -64,15 +64,12 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("shown");   // Team W L Tie Pct GB, in list order
         QTest::newRow("a tie is half a win") << QStringList{"Ants 2 1 1"} << QStringList{"Ants 2 1 1 .625 0.0"};
         QTest::newRow("leader 10-2, other 8-4")
-            << QStringList{"Ants 8 4 0", "Bees 10 2 0"}
-            << QStringList{"Bees 10 2 0 .833 0.0", "Ants 8 4 0 .667 2.0"};
+            << QStringList{"Ants 8 4 0", "Bees 10 2 0"} << QStringList{"Bees 10 2 0 .833 0.0", "Ants 8 4 0 .667 2.0"};
         QTest::newRow("a tie is no loss in games back")
-            << QStringList{"Ants 5 1 0", "Bees 6 0 2"}
-            << QStringList{"Bees 6 0 2 .875 0.0", "Ants 5 1 0 .833 1.5"};
+            << QStringList{"Ants 5 1 0", "Bees 6 0 2"} << QStringList{"Bees 6 0 2 .875 0.0", "Ants 5 1 0 .833 1.5"};
         // 0-0-0 shows .000 and sorts with the teams that have no record.
-        QTest::newRow("no games played")
-            << QStringList{"Ants 0 0 0", "Bees", "Cats 1 1 0"}
-            << QStringList{"Cats 1 1 0 .500 0.0", "Ants 0 0 0 .000 0.0", "Bees .000 0.0"};
+        QTest::newRow("no games played") << QStringList{"Ants 0 0 0", "Bees", "Cats 1 1 0"}
+                                         << QStringList{"Cats 1 1 0 .500 0.0", "Ants 0 0 0 .000 0.0", "Bees .000 0.0"};
     }
     void percentageAndGamesBack()
     {
@@ -102,8 +99,8 @@ private Q_SLOTS:
         auto screen = openStandings();
         QVERIFY(screen);
         QVERIFY(screen->noGamesWarning->isVisible());
-        QCOMPARE(shownRows(screen->myLB), (QStringList{"Hawks .000 0.0", "Owls .000 0.0", "Elks .000 0.0",
-                                                       "Ants .000 0.0"}));
+        QCOMPARE(shownRows(screen->myLB),
+                 (QStringList{"Hawks .000 0.0", "Owls .000 0.0", "Elks .000 0.0", "Ants .000 0.0"}));
         QCOMPARE(screen->standSelPop->count(), 3);
         screen->standSelPop->setCurrentIndex(screen->standSelPop->findText("North League"));
         QCOMPARE(screen->myLB->rowCount(), 3);

@@ -50,17 +50,25 @@ private Q_SLOTS:
         QTest::addColumn<QString>("busTime");
         QTest::addColumn<QString>("startTime");
         QTest::newRow("away game against N/A")
-            << "Game" << "N/A" << int(Qt::Unchecked) << QStringList{"", "", ""} << QStringList{"6", "", "pm"} << "Game"
-            << "-1" << 2 << "---" << "6:00 PM";
+            << "Game"
+            << "N/A" << int(Qt::Unchecked) << QStringList{"", "", ""} << QStringList{"6", "", "pm"} << "Game"
+            << "-1" << 2 << "---"
+            << "6:00 PM";
         QTest::newRow("minute without hour is no time")
-            << "Scrimmage" << "Bears" << int(Qt::Checked) << QStringList{"", "30", "PM"}
-            << QStringList{"", "45", "AM"} << "Scrimmage" << "4" << 0 << "---" << "---";
-        QTest::newRow("typed in small letters") << "game" << "Bears" << int(Qt::Checked) << QStringList{"8", "5", "a"}
-                                                << QStringList{"10", "00", ""} << "Game" << "4" << 1 << "8:05 AM"
-                                                << "10:00 PM";
+            << "Scrimmage"
+            << "Bears" << int(Qt::Checked) << QStringList{"", "30", "PM"} << QStringList{"", "45", "AM"} << "Scrimmage"
+            << "4" << 0 << "---"
+            << "---";
+        QTest::newRow("typed in small letters")
+            << "game"
+            << "Bears" << int(Qt::Checked) << QStringList{"8", "5", "a"} << QStringList{"10", "00", ""} << "Game"
+            << "4" << 1 << "8:05 AM"
+            << "10:00 PM";
         QTest::newRow("out-of-range numbers are kept to a clock")
-            << "Other" << "" << int(Qt::Unchecked) << QStringList{"19", "75", "PM"} << QStringList{"0", "3", "AM"}
-            << "Other" << "-1" << 0 << "12:59 PM" << "1:03 AM";
+            << "Other"
+            << "" << int(Qt::Unchecked) << QStringList{"19", "75", "PM"} << QStringList{"0", "3", "AM"} << "Other"
+            << "-1" << 0 << "12:59 PM"
+            << "1:03 AM";
     }
     void accepted()
     {
@@ -194,11 +202,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("eventType");
         QTest::addColumn<QString>("titled");
-        QTest::newRow("small letters") << "game" << "Game" << "Game";
-        QTest::newRow("capitals") << "GAME" << "Game" << "GAME";
-        QTest::newRow("two words") << "  team  meeting " << "Team  Meeting" << "Team  Meeting";
-        QTest::newRow("a field name keeps its capitals") << "UCLA field" << "UCLA Field" << "UCLA Field";
-        QTest::newRow("apostrophe") << "o'brien's park" << "O'brien's Park" << "O'brien's Park";
+        QTest::newRow("small letters") << "game"
+                                       << "Game"
+                                       << "Game";
+        QTest::newRow("capitals") << "GAME"
+                                  << "Game"
+                                  << "GAME";
+        QTest::newRow("two words") << "  team  meeting "
+                                   << "Team  Meeting"
+                                   << "Team  Meeting";
+        QTest::newRow("a field name keeps its capitals") << "UCLA field"
+                                                         << "UCLA Field"
+                                                         << "UCLA Field";
+        QTest::newRow("apostrophe") << "o'brien's park"
+                                    << "O'brien's Park"
+                                    << "O'brien's Park";
     }
     void fieldsOnLeaving()
     {

@@ -21,8 +21,8 @@ using scheduletest::Season;
 
 namespace {
 
-void addEvent(
-    const QString &type, const QDate &date, const QString &start, const QString &opponent, const QString &location)
+void addEvent(const QString &type, const QDate &date, const QString &start, const QString &opponent,
+              const QString &location)
 {
     eventClass event;
     event.mDate = date;
@@ -162,57 +162,56 @@ private Q_SLOTS:
         const QString apr20 = QStringLiteral("Monday, April 20, 2026");
         const QString apr22 = QStringLiteral("Wednesday, April 22, 2026");
         const QString april = QStringLiteral("April 2026");
-        QTest::newRow("click on a bar") << QStringList { "click bar15.0" }
+        QTest::newRow("click on a bar") << QStringList{"click bar15.0"}
                                         << "dateClicked 2026-04-15, eventClicked 7:30 Game" << game << april;
         // An opponent of one character isn't shown; "---" starts at 0:00.
         QTest::newRow("click on the second bar")
-            << QStringList { "click bar15.1" } << "dateClicked 2026-04-15, eventClicked 0:00 Practice"
+            << QStringList{"click bar15.1"} << "dateClicked 2026-04-15, eventClicked 0:00 Practice"
             << "0:00 Practice @ O'Malley's Field" << april;
         QTest::newRow("double click on a bar")
-            << QStringList { "dclick bar15.0" }
+            << QStringList{"dclick bar15.0"}
             << "dateClicked 2026-04-15, eventClicked 7:30 Game, dateClicked 2026-04-15, eventDoubleClicked 7:30 Game"
             << apr15 << april;
         QTest::newRow("right click on a bar")
-            << QStringList { "right bar15.0" } << "dateClicked 2026-04-15, rightClickOnEvent 7:30 Game" << apr15
-            << april;
+            << QStringList{"right bar15.0"} << "dateClicked 2026-04-15, rightClickOnEvent 7:30 Game" << apr15 << april;
         // Two events behind one strip: told once.
         QTest::newRow("click on a strip")
-            << QStringList { "click more20" } << "dateClicked 2026-04-20, moreClicked 2026-04-20" << apr20 << april;
+            << QStringList{"click more20"} << "dateClicked 2026-04-20, moreClicked 2026-04-20" << apr20 << april;
         QTest::newRow("double click on a strip")
-            << QStringList { "dclick more20" }
+            << QStringList{"dclick more20"}
             << "dateClicked 2026-04-20, moreClicked 2026-04-20, dateClicked 2026-04-20, moreDoubleClicked 2026-04-20"
             << apr20 << april;
         QTest::newRow("click on an empty day")
-            << QStringList { "click day22" } << "dateClicked 2026-04-22, noEventSelected" << apr22 << april;
+            << QStringList{"click day22"} << "dateClicked 2026-04-22, noEventSelected" << apr22 << april;
         QTest::newRow("double click on an empty day")
-            << QStringList { "dclick day22" }
+            << QStringList{"dclick day22"}
             << "dateClicked 2026-04-22, noEventSelected, dateClicked 2026-04-22, noEventSelected, "
                "doubleClickedOnDate 2026-04-22"
             << apr22 << april;
         QTest::newRow("right click on a day")
-            << QStringList { "right day22" } << "dateClicked 2026-04-22, rightClickOnDate 2026-04-22, noEventSelected"
+            << QStringList{"right day22"} << "dateClicked 2026-04-22, rightClickOnDate 2026-04-22, noEventSelected"
             << apr22 << april;
         QTest::newRow("grey day turns the month")
-            << QStringList { "click day-1" } << "dateClicked 2026-05-01, noEventSelected"
+            << QStringList{"click day-1"} << "dateClicked 2026-05-01, noEventSelected"
             << "Friday, May 1, 2026"
             << "May 2026";
-        QTest::newRow("last pixel column") << QStringList { "click edge" } << ""
+        QTest::newRow("last pixel column") << QStringList{"click edge"} << ""
                                            << "" << april;
-        QTest::newRow("below the last row") << QStringList { "click below" } << ""
+        QTest::newRow("below the last row") << QStringList{"click below"} << ""
                                             << "" << april;
         // Return closes the window too.
-        QTest::newRow("Return on a day") << QStringList { "click day22", "key Return" }
+        QTest::newRow("Return on a day") << QStringList{"click day22", "key Return"}
                                          << "dateClicked 2026-04-22, noEventSelected, returnKeyOnDate 2026-04-22"
                                          << ""
                                          << "";
         QTest::newRow("Return on an event")
-            << QStringList { "click bar15.0", "key Return" }
+            << QStringList{"click bar15.0", "key Return"}
             << "dateClicked 2026-04-15, eventClicked 7:30 Game, returnKeyOnEvent 7:30 Game"
             << ""
             << "";
         // Today is the 15th.
         QTest::newRow("arrows and Space")
-            << QStringList { "key Right", "key Left", "key Space", "key Space", "key Space" }
+            << QStringList{"key Right", "key Left", "key Space", "key Space", "key Space"}
             << "dateClicked 2026-04-16, noEventSelected, dateClicked 2026-04-15, noEventSelected, "
                "eventClicked 7:30 Game, eventClicked 0:00 Practice, eventClicked 7:30 Game"
             << game << april;
@@ -235,10 +234,10 @@ private Q_SLOTS:
             const QString action = step.section(u' ', 0, 0);
             const QString target = step.section(u' ', 1);
             if (action == u"key") {
-                const Qt::Key key = target == u"Return" ? Qt::Key_Return
-                    : target == u"Space"                ? Qt::Key_Space
-                    : target == u"Right"                ? Qt::Key_Right
-                                                        : Qt::Key_Left;
+                const Qt::Key key = target == u"Return"  ? Qt::Key_Return
+                                    : target == u"Space" ? Qt::Key_Space
+                                    : target == u"Right" ? Qt::Key_Right
+                                                         : Qt::Key_Left;
                 QTest::keyClick(view, key);
                 continue;
             }
@@ -288,8 +287,8 @@ private Q_SLOTS:
         const QString pdf = season.fake.printing.printed.first();
         QCOMPARE(fakes::pdfPageCount(pdf), 2);
         const QString text = fakes::pdfText(pdf);
-        for (const char *line : { "Schedule for: O'Brien's Nine", "Printed On: Wednesday, April 15, 2026", "April 2026",
-                 "7:30 Game", "0:00 Practice", "More (2)...", "Sunday" })
+        for (const char *line : {"Schedule for: O'Brien's Nine", "Printed On: Wednesday, April 15, 2026", "April 2026",
+                                 "7:30 Game", "0:00 Practice", "More (2)...", "Sunday"})
             QVERIFY2(text.contains(QString::fromUtf8(line)), line);
 
         // The heading, then the calendar below it, all within the page.

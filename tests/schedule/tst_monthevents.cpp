@@ -80,28 +80,28 @@ private Q_SLOTS:
         QTest::addColumn<int>("month");
         QTest::addColumn<QStringList>("records");
         // A 70-high cell holds bars at +15, +29 and +43; +57 passes the limit of +47.
-        QTest::newRow("fourth in a cell") << QStringList(4,
-            "2026-04-15T19:30") << 4 << QStringList { "04-15 +15 #0", "04-15 +29 #1", "04-15 +43 #2", "04-15 more 1" };
-        QTest::newRow("three overflowing") << QStringList(6, "2026-04-15T19:30") << 4
-                                           << QStringList { "04-15 +15 #0", "04-15 +29 #1", "04-15 +43 #2",
-                                                  "04-15 more 3", "04-15 more 3", "04-15 more 3" };
+        QTest::newRow("fourth in a cell")
+            << QStringList(4, "2026-04-15T19:30") << 4
+            << QStringList{"04-15 +15 #0", "04-15 +29 #1", "04-15 +43 #2", "04-15 more 1"};
+        QTest::newRow("three overflowing")
+            << QStringList(6, "2026-04-15T19:30") << 4 << QStringList{"04-15 +15 #0", "04-15 +29 #1", "04-15 +43 #2",
+                                                                      "04-15 more 3", "04-15 more 3", "04-15 more 3"};
         QTest::newRow("across months, first month")
-            << QStringList { "2026-03-28T09:00|2026-04-03T09:00" } << 3
-            << QStringList { "03-28 +15 #0", "03-29 +15 #0", "03-30 +15 #0", "03-31 +15 #0", "04-01 +15 #0",
-                   "04-02 +15 #0", "04-03 +15 #0" };
+            << QStringList{"2026-03-28T09:00|2026-04-03T09:00"} << 3
+            << QStringList{"03-28 +15 #0", "03-29 +15 #0", "03-30 +15 #0", "03-31 +15 #0",
+                           "04-01 +15 #0", "04-02 +15 #0", "04-03 +15 #0"};
         // April's grid begins on 29 March.
-        QTest::newRow("across months, second month") << QStringList { "2026-03-28T09:00|2026-04-03T09:00" } << 4
-                                                     << QStringList { "03-29 +15 #0", "03-30 +15 #0", "03-31 +15 #0",
-                                                            "04-01 +15 #0", "04-02 +15 #0", "04-03 +15 #0" };
-        QTest::newRow("over a whole month")
-            << QStringList { "2026-03-28T09:00|2026-05-03T09:00" } << 4 << QStringList {};
-        QTest::newRow("only in grey days")
-            << QStringList { "2026-03-30T09:00|2026-03-31T09:00" } << 4 << QStringList {};
+        QTest::newRow("across months, second month") << QStringList{"2026-03-28T09:00|2026-04-03T09:00"} << 4
+                                                     << QStringList{"03-29 +15 #0", "03-30 +15 #0", "03-31 +15 #0",
+                                                                    "04-01 +15 #0", "04-02 +15 #0", "04-03 +15 #0"};
+        QTest::newRow("over a whole month") << QStringList{"2026-03-28T09:00|2026-05-03T09:00"} << 4 << QStringList{};
+        QTest::newRow("only in grey days") << QStringList{"2026-03-30T09:00|2026-03-31T09:00"} << 4 << QStringList{};
         // The first day counts though its cell begins before the start time.
-        QTest::newRow("evening to morning") << QStringList { "2026-04-15T20:00|2026-04-16T08:00" } << 4
-                                            << QStringList { "04-15 +15 #0", "04-16 +15 #0" };
-        QTest::newRow("stacked per cell") << QStringList { "2026-04-14T09:00|2026-04-16T09:00",
-            "2026-04-15T18:00" } << 4 << QStringList { "04-14 +15 #0", "04-15 +15 #0", "04-16 +15 #0", "04-15 +29 #1" };
+        QTest::newRow("evening to morning")
+            << QStringList{"2026-04-15T20:00|2026-04-16T08:00"} << 4 << QStringList{"04-15 +15 #0", "04-16 +15 #0"};
+        QTest::newRow("stacked per cell")
+            << QStringList{"2026-04-14T09:00|2026-04-16T09:00", "2026-04-15T18:00"} << 4
+            << QStringList{"04-14 +15 #0", "04-15 +15 #0", "04-16 +15 #0", "04-15 +29 #1"};
     }
     void eventsInCells()
     {
@@ -122,8 +122,8 @@ private Q_SLOTS:
             QCOMPARE(calendar.cells()[std::size_t(r.eventDateID)].date.toString(Qt::ISODate), r.eventDate);
             if (r.moreBox) {
                 // The last 10 pixels of the cell, across its width.
-                QCOMPARE(
-                    QRectF(r.x1, r.y1, r.x2 - r.x1, r.y2 - r.y1), QRectF(cell.left(), cell.bottom() - 10, 100, 10));
+                QCOMPARE(QRectF(r.x1, r.y1, r.x2 - r.x1, r.y2 - r.y1),
+                         QRectF(cell.left(), cell.bottom() - 10, 100, 10));
                 shown.append(QStringLiteral("%1 more %2").arg(day).arg(calendar.overflowed(int(r.eventDateID))));
             } else {
                 QCOMPARE(r.x1, cell.left() + 3);
@@ -188,7 +188,7 @@ private Q_SLOTS:
         MonthEventsCalendar calendar;
         mcEventDataClass event = eventOf(QStringLiteral("2026-04-15T10:00"), 17);
         QCOMPARE(calendar.addEvent(event), QStringLiteral("17"));
-        for (const char *subject : { "first", "second" }) {
+        for (const char *subject : {"first", "second"}) {
             event.subject = QString::fromLatin1(subject);
             QCOMPARE(calendar.addEvent(event, QStringLiteral("k")), QStringLiteral("k"));
         }

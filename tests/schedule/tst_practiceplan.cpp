@@ -29,9 +29,10 @@ namespace {
 
 qint64 practice(const QString &date, const QString &place)
 {
-    return gData->insert(QStringLiteral("Schedule"),
-        { { QStringLiteral("SchedDate"), date }, { QStringLiteral("Event"), QStringLiteral("Practice") },
-            { QStringLiteral("Location"), place }, { QStringLiteral("isHome"), 0 } });
+    return gData->insert(QStringLiteral("Schedule"), {{QStringLiteral("SchedDate"), date},
+                                                      {QStringLiteral("Event"), QStringLiteral("Practice")},
+                                                      {QStringLiteral("Location"), place},
+                                                      {QStringLiteral("isHome"), 0}});
 }
 
 practicePlanScrn *openPlan(qint64 eventID)
@@ -51,8 +52,7 @@ QList<QStringList> rowsOf(const qlmListBox *list)
 
 int drillsIn(qint64 eventID)
 {
-    return gData
-        ->scalar(QStringLiteral("SELECT COUNT(*) FROM Drills WHERE scheduleID = ?"), { QString::number(eventID) })
+    return gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Drills WHERE scheduleID = ?"), {QString::number(eventID)})
         .toInt();
 }
 
@@ -100,8 +100,8 @@ class TestPracticePlan : public QObject
 private Q_SLOTS:
     void init()
     {
-        screens::registerScreen(
-            ScreenId::practicePlanScrn, [](const QVariant &id) { return new practicePlanScrn(id.toString()); });
+        screens::registerScreen(ScreenId::practicePlanScrn,
+                                [](const QVariant &id) { return new practicePlanScrn(id.toString()); });
     }
     void cleanup() { screens::unregisterScreen(ScreenId::practicePlanScrn); }
 
@@ -135,18 +135,18 @@ private Q_SLOTS:
         QCOMPARE(screen->startBox->itemText(20), QStringLiteral("12:00 PM"));
         QCOMPARE(screen->endBox->itemText(63), QStringLiteral("10:45 PM"));
 
-        const QList<QStringList> typed {
-            { QStringLiteral("Long Toss"), QStringLiteral("3:00 PM"), QString(), QString() },
-            { QStringLiteral("Bunting & base-running #2"), QString(), QString(), QStringLiteral("Łucja O'Neil") },
-            { QStringLiteral("Fungo"), QStringLiteral("3:15 PM"), QStringLiteral("3:05 PM"), QString() },
-            { QStringLiteral("Cool down"), QString(), QString(), QString() },
+        const QList<QStringList> typed{
+            {QStringLiteral("Long Toss"), QStringLiteral("3:00 PM"), QString(), QString()},
+            {QStringLiteral("Bunting & base-running #2"), QString(), QString(), QStringLiteral("Łucja O'Neil")},
+            {QStringLiteral("Fungo"), QStringLiteral("3:15 PM"), QStringLiteral("3:05 PM"), QString()},
+            {QStringLiteral("Cool down"), QString(), QString(), QString()},
         };
         for (int i = 0; i < typed.size(); ++i)
             enterDrill(screen, typed.at(i), i % 2 == 1);
         QVERIFY(screen->drillBox->currentText().isEmpty());
         QVERIFY(screen->coachBox->currentText().isEmpty());
-        enterDrill(screen, { QStringLiteral("   "), QStringLiteral("4:00 PM") }, false);
-        QCOMPARE(season.fake.messages.texts(), QStringList { QStringLiteral("Please enter a drill.") });
+        enterDrill(screen, {QStringLiteral("   "), QStringLiteral("4:00 PM")}, false);
+        QCOMPARE(season.fake.messages.texts(), QStringList{QStringLiteral("Please enter a drill.")});
         QCOMPARE(season.fake.beeper.beeps, 1);
         QCOMPARE(rowsOf(screen->drillList), typed);
         QCOMPARE(drillsIn(tuesday), 4);
@@ -176,7 +176,7 @@ private Q_SLOTS:
         QCOMPARE(other->drillList->selectedRow(), -1);
         saveAs(other, QStringLiteral("copy"));
         QCOMPARE(bytesOf(planPath(QStringLiteral("copy"))),
-            QByteArray("Long Toss\t3:00 PM\nFungo\t3:15 PM\t3:05 PM\nCool down\n"));
+                 QByteArray("Long Toss\t3:00 PM\nFungo\t3:15 PM\t3:05 PM\nCool down\n"));
         QCOMPARE(season.fake.messages.shown.size(), 1);
     }
 
@@ -218,9 +218,9 @@ private Q_SLOTS:
             QVERIFY(season.fake.messages.shown.isEmpty());
         } else {
             QCOMPARE(season.fake.messages.texts(),
-                QStringList { QStringLiteral("Some lines of this plan were not recalled.") });
+                     QStringList{QStringLiteral("Some lines of this plan were not recalled.")});
             QVERIFY2(season.fake.messages.shown.first().explanation.startsWith(explanation),
-                qPrintable(season.fake.messages.shown.first().explanation));
+                     qPrintable(season.fake.messages.shown.first().explanation));
         }
     }
 
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QTest::mouseClick(screen->saveBtn, Qt::LeftButton);
         QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
         QCOMPARE(season.fake.messages.texts(),
-            QStringList(2, QStringLiteral("There was an error finding the correct location.")));
+                 QStringList(2, QStringLiteral("There was an error finding the correct location.")));
         QVERIFY(season.fake.files.calls.isEmpty());
     }
 
@@ -243,21 +243,21 @@ private Q_SLOTS:
     {
         Season season;
         const QString team = QString::number(season.homeID);
-        for (const auto &p : { std::pair { "Ann", "ann@example.org" }, std::pair { "Bo", "bo-at-example.org" },
-                 std::pair { "Cy", "c&y@example.org" } })
-            gData->insert(QStringLiteral("Players"),
-                { { QStringLiteral("TeamNum"), team.toLongLong() },
-                    { QStringLiteral("First"), QString::fromLatin1(p.first) },
-                    { QStringLiteral("Last"), QStringLiteral("Z") },
-                    { QStringLiteral("Email"), QString::fromLatin1(p.second) } });
-        gData->insert(QStringLiteral("Coaches"),
-            { { QStringLiteral("TeamNum"), team.toLongLong() }, { QStringLiteral("First"), QStringLiteral("Dee") },
-                { QStringLiteral("Last"), QStringLiteral("Coach") },
-                { QStringLiteral("Email"), QStringLiteral("dee@example.org") } });
+        for (const auto &p : {std::pair{"Ann", "ann@example.org"}, std::pair{"Bo", "bo-at-example.org"},
+                              std::pair{"Cy", "c&y@example.org"}})
+            gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), team.toLongLong()},
+                                                      {QStringLiteral("First"), QString::fromLatin1(p.first)},
+                                                      {QStringLiteral("Last"), QStringLiteral("Z")},
+                                                      {QStringLiteral("Email"), QString::fromLatin1(p.second)}});
+        gData->insert(QStringLiteral("Coaches"), {{QStringLiteral("TeamNum"), team.toLongLong()},
+                                                  {QStringLiteral("First"), QStringLiteral("Dee")},
+                                                  {QStringLiteral("Last"), QStringLiteral("Coach")},
+                                                  {QStringLiteral("Email"), QStringLiteral("dee@example.org")}});
         auto *screen = openPlan(practice(QStringLiteral("2026-04-14"), QStringLiteral("O'Malley's Field #2")));
         enterDrill(screen,
-            { QStringLiteral("Hit & run?"), QStringLiteral("3:00 PM"), QString(), QStringLiteral("Dee 100%") }, false);
-        enterDrill(screen, { QStringLiteral("Laps") }, false);
+                   {QStringLiteral("Hit & run?"), QStringLiteral("3:00 PM"), QString(), QStringLiteral("Dee 100%")},
+                   false);
+        enterDrill(screen, {QStringLiteral("Laps")}, false);
         // Tab from the coach goes back to the drill, ready for the next one.
         screen->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(screen));
@@ -286,16 +286,15 @@ private Q_SLOTS:
         QStringList to;
         for (const QByteArray &a : url.path(QUrl::FullyEncoded).toUtf8().split(','))
             to.append(QUrl::fromPercentEncoding(a));
-        QCOMPARE(to,
-            (QStringList { QStringLiteral("dee@example.org"), QStringLiteral("ann@example.org"),
-                QStringLiteral("c&y@example.org") }));
+        QCOMPARE(to, (QStringList{QStringLiteral("dee@example.org"), QStringLiteral("ann@example.org"),
+                                  QStringLiteral("c&y@example.org")}));
         const QUrlQuery query(url);
         QCOMPARE(query.queryItems(QUrl::FullyDecoded).size(), 2);
         QCOMPARE(query.queryItemValue(QStringLiteral("subject"), QUrl::FullyDecoded), QStringLiteral("Practice Plans"));
         const QString heading = screen->practDateLabel->text() + QStringLiteral("\r\n") + screen->practLocLabel->text();
         QCOMPARE(query.queryItemValue(QStringLiteral("body"), QUrl::FullyDecoded),
-            heading + QStringLiteral("\r\n") + heading
-                + QStringLiteral("Hit & run?\t3:00 PM\t\tDee 100%\r\nLaps\t\t\t"));
+                 heading + QStringLiteral("\r\n") + heading +
+                     QStringLiteral("Hit & run?\t3:00 PM\t\tDee 100%\r\nLaps\t\t\t"));
     }
 };
 

@@ -25,8 +25,8 @@
 #include <QTest>
 #include <QToolButton>
 
-using scheduletest::Season;
 using scheduletest::makeEvent;
+using scheduletest::Season;
 using scheduletest::whenShown;
 
 namespace {
@@ -121,8 +121,8 @@ private Q_SLOTS:
         QTest::qWait(1);
         QVERIFY(season.fake.messages.shown.isEmpty()); // a home team is set
         QCOMPARE(screen->homeTeamFld->text(), QStringLiteral("O'Brien's Nine"));
-        QCOMPARE(screen->ScheduleListbox->headings(), (QStringList{"Date", "Bus Departs", "Start Time", "Event",
-                                                                   "Opponent", "Location", "H"}));
+        QCOMPARE(screen->ScheduleListbox->headings(),
+                 (QStringList{"Date", "Bus Departs", "Start Time", "Event", "Opponent", "Location", "H"}));
         QVERIFY(!screen->viewCalendarBtn->isEnabled()); // the events calendar isn't there yet
         QVERIFY(screen->menuBar()->item(QStringLiteral("FilePrint"))->isEnabled());
         QVERIFY(screen->menuBar()->item(QStringLiteral("FileExport"))->isEnabled());
@@ -245,7 +245,8 @@ private Q_SLOTS:
         QCOMPARE(gData->scalar("SELECT COUNT(*) FROM Drills").toInt(), 0);
 
         // The unopened game goes; a recorded one stays.
-        const qint64 recorded = screen->schedule().addNewItem(makeEvent("Game", QDate(2026, 5, 1), "Bears", season.bearsID, 1));
+        const qint64 recorded = screen->schedule().addNewItem(
+            makeEvent("Game", QDate(2026, 5, 1), "Bears", season.bearsID, 1));
         screen->loadScheduleLB(QStringLiteral("Show All"));
         gData->insert("Games", {{"schedID", QString::number(recorded)}, {"recorded", 1}});
         list->setSelectedRow(0);
@@ -344,7 +345,7 @@ private Q_SLOTS:
             if (!x.contains(w.text))
                 x.insert(w.text, w.xMin);
         const double date = x.value(QStringLiteral("Date"));
-        const QList<QPair<QString, int>> starts = {{"Bus", 95}, {"Start", 172}, {"Event", 249},
+        const QList<QPair<QString, int>> starts = {{"Bus", 95},       {"Start", 172},    {"Event", 249},
                                                    {"Opponent", 366}, {"Location", 483}, {"H", 638}};
         for (const auto &s : starts)
             QVERIFY2(qAbs(x.value(s.first) - date - s.second) < 1.0, qPrintable(s.first));

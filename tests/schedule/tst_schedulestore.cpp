@@ -139,7 +139,6 @@ private Q_SLOTS:
         QCOMPARE(ids(list.rows()), (QList<qint64>{good, old}));
         QCOMPARE(count("Schedule"), 4);
     }
-
 };
 
 QTEST_MAIN(TestScheduleStore)

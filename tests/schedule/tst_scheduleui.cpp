@@ -259,8 +259,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("location");
-        QTest::newRow("practice") << "Practice" << "north gym";
-        QTest::newRow("meeting") << "Meeting" << "library room 4";
+        QTest::newRow("practice") << "Practice"
+                                  << "north gym";
+        QTest::newRow("meeting") << "Meeting"
+                                 << "library room 4";
     }
     void composingAPracticeAndAMeeting()
     {
@@ -308,9 +310,10 @@ private Q_SLOTS:
     void opponentIsKeptById()
     {
         Season season;
-        const qint64 westBears = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")},
-                                                                         {QStringLiteral("SchoolName"), QStringLiteral("Westside")},
-                                                                         {QStringLiteral("HomeField"), QStringLiteral("Riverside")}});
+        const qint64 westBears = gData->insert(QStringLiteral("Teams"),
+                                               {{QStringLiteral("TeamName"), QStringLiteral("Bears")},
+                                                {QStringLiteral("SchoolName"), QStringLiteral("Westside")},
+                                                {QStringLiteral("HomeField"), QStringLiteral("Riverside")}});
         const eventClass game = scheduletest::makeEvent("Game", QDate(2026, 4, 18), "Bears", westBears, 1);
         const qint64 id = ScheduleStore(*gData).insert(game);
 
@@ -331,10 +334,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("hour");
         QTest::addColumn<QString>("minute");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("5 minutes, not 55") << "7" << "5" << "7:05 PM";
-        QTest::newRow("1 minute, not 10") << "12" << "1" << "12:01 PM";
-        QTest::newRow("0 minutes, not 00 by chance") << "1" << "0" << "1:00 PM";
-        QTest::newRow("two digits") << "10" << "35" << "10:35 PM";
+        QTest::newRow("5 minutes, not 55") << "7"
+                                           << "5"
+                                           << "7:05 PM";
+        QTest::newRow("1 minute, not 10") << "12"
+                                          << "1"
+                                          << "12:01 PM";
+        QTest::newRow("0 minutes, not 00 by chance") << "1"
+                                                     << "0"
+                                                     << "1:00 PM";
+        QTest::newRow("two digits") << "10"
+                                    << "35"
+                                    << "10:35 PM";
     }
     void typedTimesStayAsTyped()
     {
@@ -411,7 +422,8 @@ private Q_SLOTS:
         QCOMPARE(*editor.result(), game);
 
         // An opponent that is gone shows as "N/A"; an unreadable date must be picked again.
-        gData->exec("UPDATE Schedule SET SchedDate = '18.4.26', Opponent = 'Owls', OppID = '99' WHERE eventID = ?", {id});
+        gData->exec("UPDATE Schedule SET SchedDate = '18.4.26', Opponent = 'Owls', OppID = '99' WHERE eventID = ?",
+                    {id});
         newEventScrn old;
         QVERIFY(old.loadEvent(id));
         QCOMPARE(old.opponentBox->currentText(), QStringLiteral("N/A"));

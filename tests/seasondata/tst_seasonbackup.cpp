@@ -32,10 +32,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("slashes") << "en_US" << "4_15_26";
-        QTest::newRow("slashes, four-digit year") << "en_GB" << "15_04_2026";
-        QTest::newRow("dots") << "de_DE" << "15.04.26";
-        QTest::newRow("dashes") << "sv_SE" << "2026-04-15";
+        QTest::newRow("slashes") << "en_US"
+                                 << "4_15_26";
+        QTest::newRow("slashes, four-digit year") << "en_GB"
+                                                  << "15_04_2026";
+        QTest::newRow("dots") << "de_DE"
+                              << "15.04.26";
+        QTest::newRow("dashes") << "sv_SE"
+                                << "2026-04-15";
     }
     void dateFolderName()
     {
@@ -101,7 +105,8 @@ private Q_SLOTS:
         const QDir day = QFileInfo(first).dir();
         QCOMPARE(day.dirName(), seasondata::dateFolderName(today));
         QCOMPARE(day.entryList(QDir::Files, QDir::Name),
-                 QStringList({myDB::getCurDBFileName(firstSeason), myDB::getCurDBFileName(QStringLiteral("Fall Ball"))}));
+                 QStringList(
+                     {myDB::getCurDBFileName(firstSeason), myDB::getCurDBFileName(QStringLiteral("Fall Ball"))}));
     }
 };
 

@@ -31,7 +31,6 @@
 #include <QRadioButton>
 #include <QTest>
 
-
 using testkit::choose;
 using testkit::clickHalf;
 
@@ -101,16 +100,26 @@ void typeInCell(qlmListBox *list, const QString &text, Qt::Key then)
 QString field(const myPrefs &p, const QString &name)
 {
     const auto flag = [](bool on) { return on ? QStringLiteral("1") : QStringLiteral("0"); };
-    if (name == u"prLogoOnStart") return flag(p.prLogoOnStart);
-    if (name == u"prLogoOnReport") return flag(p.prLogoOnReport);
-    if (name == u"prInnings") return p.prInnings;
-    if (name == u"prLineUp") return p.prLineUp;
-    if (name == u"prHomeTeam") return p.prHomeTeam;
-    if (name == u"prBackupFreq") return QString::number(p.prBackupFreq);
-    if (name == u"positions") return p.prAbbrevPos + u'|' + p.prPositions;
-    if (name == u"prGameTypes") return p.prGameTypes;
-    if (name == u"prDataBackupLoc") return parseGSI(p.prDataBackupLoc);
-    if (name == u"user-defined") return p.prUDB.section(u'\t', 0, 1) + u'\t' + p.prUDF.section(u'\t', 5, 5);
+    if (name == u"prLogoOnStart")
+        return flag(p.prLogoOnStart);
+    if (name == u"prLogoOnReport")
+        return flag(p.prLogoOnReport);
+    if (name == u"prInnings")
+        return p.prInnings;
+    if (name == u"prLineUp")
+        return p.prLineUp;
+    if (name == u"prHomeTeam")
+        return p.prHomeTeam;
+    if (name == u"prBackupFreq")
+        return QString::number(p.prBackupFreq);
+    if (name == u"positions")
+        return p.prAbbrevPos + u'|' + p.prPositions;
+    if (name == u"prGameTypes")
+        return p.prGameTypes;
+    if (name == u"prDataBackupLoc")
+        return parseGSI(p.prDataBackupLoc);
+    if (name == u"user-defined")
+        return p.prUDB.section(u'\t', 0, 1) + u'\t' + p.prUDF.section(u'\t', 5, 5);
     return QStringLiteral("no field ") + name;
 }
 
@@ -215,15 +224,18 @@ private Q_SLOTS:
         QTest::addColumn<bool>("copied");
         QTest::addColumn<bool>("compacted");
 
-        QTest::newRow("a backup") << "drive" << 0 << "Backup was successful" << "" << true << false;
-        QTest::newRow("compaction not yet due at 14 days")
-            << "drive" << 14 << "Backup was successful" << "" << true << false;
-        QTest::newRow("compaction due after 14 days")
-            << "drive" << 15 << "Backup was successful" << "" << true << true;
-        QTest::newRow("backup drive removed")
-            << "removed" << 0 << "Destination not found" << "Set in the Preferences screen." << false << false;
-        QTest::newRow("no location, the coach picks one") << "ask" << 0 << "Backup was successful" << "" << true << false;
-        QTest::newRow("no location, the coach cancels") << "none" << 0 << "" << "" << false << false;
+        QTest::newRow("a backup") << "drive" << 0 << "Backup was successful"
+                                  << "" << true << false;
+        QTest::newRow("compaction not yet due at 14 days") << "drive" << 14 << "Backup was successful"
+                                                           << "" << true << false;
+        QTest::newRow("compaction due after 14 days") << "drive" << 15 << "Backup was successful"
+                                                      << "" << true << true;
+        QTest::newRow("backup drive removed") << "removed" << 0 << "Destination not found"
+                                              << "Set in the Preferences screen." << false << false;
+        QTest::newRow("no location, the coach picks one") << "ask" << 0 << "Backup was successful"
+                                                          << "" << true << false;
+        QTest::newRow("no location, the coach cancels") << "none" << 0 << ""
+                                                        << "" << false << false;
     }
 
     void backupDialog()
@@ -246,7 +258,8 @@ private Q_SLOTS:
             f.fake.files.answers.enqueue(drive);
         const double now = double(f.fake.clock.time.toSecsSinceEpoch());
         // "15" stands for one second past the 14 days.
-        gPrefs->prLastDBClean = daysSinceCompaction == 15 ? now - 14 * 86400.0 - 1 : now - daysSinceCompaction * 86400.0;
+        gPrefs->prLastDBClean = daysSinceCompaction == 15 ? now - 14 * 86400.0 - 1
+                                                          : now - daysSinceCompaction * 86400.0;
 
         const double lastClean = gPrefs->prLastDBClean;
         QAction *item = f.start->menuBar()->item(QStringLiteral("FileBackup"));
@@ -257,7 +270,8 @@ private Q_SLOTS:
         QCOMPARE(dialog->windowModality(), Qt::ApplicationModal);
         if (location == u"none") {
             QTRY_VERIFY(!dialog);
-            QVERIFY(!QDir(drive + QStringLiteral("/TLYN2_backup")).exists(seasondata::dateFolderName(QDate(2026, 4, 15))));
+            QVERIFY(
+                !QDir(drive + QStringLiteral("/TLYN2_backup")).exists(seasondata::dateFolderName(QDate(2026, 4, 15))));
             return;
         }
         if (compacted)
@@ -349,30 +363,76 @@ private Q_SLOTS:
 
     void preferencesSavedAndReadBack_data()
     {
-        QTest::addColumn<QString>("stored");  // "field=value" put in the preferences first
+        QTest::addColumn<QString>("stored"); // "field=value" put in the preferences first
         QTest::addColumn<QString>("control");
-        QTest::addColumn<QString>("input");   // a row's text; list rows "cell|cell", several by "/"
+        QTest::addColumn<QString>("input"); // a row's text; list rows "cell|cell", several by "/"
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("expected"); // {a} {p} {g}: the stored lists before; {drive}
 
-        QTest::newRow("LogoOnStartCheck") << "" << "LogoOnStartCheck" << "click" << "prLogoOnStart" << "0";
-        QTest::newRow("LogoOnReportsCheck by Space") << "" << "LogoOnReportsCheck" << "space" << "prLogoOnReport"
+        QTest::newRow("LogoOnStartCheck") << ""
+                                          << "LogoOnStartCheck"
+                                          << "click"
+                                          << "prLogoOnStart"
+                                          << "0";
+        QTest::newRow("LogoOnReportsCheck by Space") << ""
+                                                     << "LogoOnReportsCheck"
+                                                     << "space"
+                                                     << "prLogoOnReport"
                                                      << "0";
-        QTest::newRow("InnPerGamePop") << "" << "InnPerGamePop" << "7 Innings" << "prInnings" << "7 Innings";
-        QTest::newRow("maxLineupPop") << "" << "maxLineupPop" << "15 Players" << "prLineUp" << "15 Players";
-        QTest::newRow("homeTeamPop") << "" << "homeTeamPop" << "Central Cubs" << "prHomeTeam" << "2";
-        QTest::newRow("backupPop") << "" << "backupPop" << "30 min." << "prBackupFreq" << "30";
-        QTest::newRow("backupPop, 7 isn't offered") << "prBackupFreq=7" << "backupPop" << "" << "prBackupFreq" << "0";
-        QTest::newRow("PositionLB, typed commas go") << "" << "PositionLB" << "D,H2|Designated, Hitter"
-                                                     << "positions" << "{a},DH2|{p},Designated Hitter";
-        QTest::newRow("PositionLB, a row removed") << "prAbbrevPos=C,SS" << "PositionLB" << "-" << "positions"
+        QTest::newRow("InnPerGamePop") << ""
+                                       << "InnPerGamePop"
+                                       << "7 Innings"
+                                       << "prInnings"
+                                       << "7 Innings";
+        QTest::newRow("maxLineupPop") << ""
+                                      << "maxLineupPop"
+                                      << "15 Players"
+                                      << "prLineUp"
+                                      << "15 Players";
+        QTest::newRow("homeTeamPop") << ""
+                                     << "homeTeamPop"
+                                     << "Central Cubs"
+                                     << "prHomeTeam"
+                                     << "2";
+        QTest::newRow("backupPop") << ""
+                                   << "backupPop"
+                                   << "30 min."
+                                   << "prBackupFreq"
+                                   << "30";
+        QTest::newRow("backupPop, 7 isn't offered") << "prBackupFreq=7"
+                                                    << "backupPop"
+                                                    << ""
+                                                    << "prBackupFreq"
+                                                    << "0";
+        QTest::newRow("PositionLB, typed commas go") << ""
+                                                     << "PositionLB"
+                                                     << "D,H2|Designated, Hitter"
+                                                     << "positions"
+                                                     << "{a},DH2|{p},Designated Hitter";
+        QTest::newRow("PositionLB, a row removed") << "prAbbrevPos=C,SS"
+                                                   << "PositionLB"
+                                                   << "-"
+                                                   << "positions"
                                                    << "SS|Shortstop";
-        QTest::newRow("PositionLB, lists of different lengths")
-            << "prPositions=Pitcher" << "PositionLB" << "" << "positions" << "Data Error|";
-        QTest::newRow("gameTypeLB, a typed and an empty row") << "" << "gameTypeLB" << "Scrim,mage/" << "prGameTypes"
+        QTest::newRow("PositionLB, lists of different lengths") << "prPositions=Pitcher"
+                                                                << "PositionLB"
+                                                                << ""
+                                                                << "positions"
+                                                                << "Data Error|";
+        QTest::newRow("gameTypeLB, a typed and an empty row") << ""
+                                                              << "gameTypeLB"
+                                                              << "Scrim,mage/"
+                                                              << "prGameTypes"
                                                               << "{g},Scrimmage,";
-        QTest::newRow("setBULocBtn") << "" << "setBULocBtn" << "" << "prDataBackupLoc" << "{drive}";
-        QTest::newRow("setUDVBtn") << "" << "setUDVBtn" << "\tDiving\tcatches" << "user-defined"
+        QTest::newRow("setBULocBtn") << ""
+                                     << "setBULocBtn"
+                                     << ""
+                                     << "prDataBackupLoc"
+                                     << "{drive}";
+        QTest::newRow("setUDVBtn") << ""
+                                   << "setUDVBtn"
+                                   << "\tDiving\tcatches"
+                                   << "user-defined"
                                    << "--\tCaught Stealing\tDiving catches";
     }
     void preferencesSavedAndReadBack()
@@ -446,11 +506,14 @@ private Q_SLOTS:
     void returnKey_data()
     {
         QTest::addColumn<bool>("fromStart");
-        QTest::addColumn<QString>("focus"); // where Return is pressed
+        QTest::addColumn<QString>("focus");   // where Return is pressed
         QTest::addColumn<QString>("innings"); // in the file after the restart
-        QTest::newRow("from the start screen") << true << "InnPerGamePop" << "9 Innings";
-        QTest::newRow("over another screen") << false << "InnPerGamePop" << "9 Innings";
-        QTest::newRow("on the Save button") << true << "prefsavebutton" << "5 Innings";
+        QTest::newRow("from the start screen") << true << "InnPerGamePop"
+                                               << "9 Innings";
+        QTest::newRow("over another screen") << false << "InnPerGamePop"
+                                             << "9 Innings";
+        QTest::newRow("on the Save button") << true << "prefsavebutton"
+                                            << "5 Innings";
     }
     void returnKey()
     {
@@ -482,7 +545,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("abbrevs"); // the five batting abbreviations typed
         QTest::addColumn<QString>("description"); // typed as every batting description
-        QTest::addColumn<QStringList>("keys");     // hitD's user-defined keys at the next start
+        QTest::addColumn<QStringList>("keys");    // hitD's user-defined keys at the next start
         QTest::addColumn<QList<int>>("indexes");
         QTest::addColumn<bool>("shortened");
 

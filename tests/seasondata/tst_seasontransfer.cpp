@@ -24,16 +24,31 @@ private Q_SLOTS:
         QTest::addColumn<QString>("trouble");
         QTest::addColumn<QString>("message");
 
-        QTest::newRow("two teams with inventory") << "2027" << "AC" << true << "" << "The transfer was successful";
-        QTest::newRow("two teams without inventory") << "2027" << "AC" << false << "" << "The transfer was successful";
-        QTest::newRow("a name with a quote") << "O'Brien's 2027" << "B" << false << "" << "The transfer was successful";
-        QTest::newRow("empty name") << "" << "A" << false << "" << "Please provide a name for the new season.";
-        QTest::newRow("a slash in the name") << "2027/8" << "A" << false << ""
-                                             << "A season's name can't hold a slash, a backslash or a control character.";
-        QTest::newRow("no teams chosen") << "2027" << "" << false << "" << "Please add teams for transferring";
-        QTest::newRow("previous file gone") << "2027" << "A" << false << "ghost"
+        QTest::newRow("two teams with inventory") << "2027"
+                                                  << "AC" << true << ""
+                                                  << "The transfer was successful";
+        QTest::newRow("two teams without inventory") << "2027"
+                                                     << "AC" << false << ""
+                                                     << "The transfer was successful";
+        QTest::newRow("a name with a quote") << "O'Brien's 2027"
+                                             << "B" << false << ""
+                                             << "The transfer was successful";
+        QTest::newRow("empty name") << ""
+                                    << "A" << false << ""
+                                    << "Please provide a name for the new season.";
+        QTest::newRow("a slash in the name")
+            << "2027/8"
+            << "A" << false << ""
+            << "A season's name can't hold a slash, a backslash or a control character.";
+        QTest::newRow("no teams chosen") << "2027"
+                                         << "" << false << ""
+                                         << "Please add teams for transferring";
+        QTest::newRow("previous file gone") << "2027"
+                                            << "A" << false << "ghost"
                                             << "The previous season file could not be located.";
-        QTest::newRow("failure half way") << "2027" << "AC" << true << "no coaches table" << "Database Error: 1";
+        QTest::newRow("failure half way") << "2027"
+                                          << "AC" << true << "no coaches table"
+                                          << "Database Error: 1";
     }
 
     void transfer()
@@ -115,7 +130,8 @@ private Q_SLOTS:
         QCOMPARE(f.count(QStringLiteral("PlayerInventory")), 0);
         QCOMPARE(f.count(QStringLiteral("Schedule")), 0);
         // The home team keeps its id, so it is still the home team.
-        QCOMPARE(gData->getTeamNameFromID(gPrefs->prHomeTeam, false), QString::fromLatin1(teams.contains(u'A') ? "Lions" : ""));
+        QCOMPARE(gData->getTeamNameFromID(gPrefs->prHomeTeam, false),
+                 QString::fromLatin1(teams.contains(u'A') ? "Lions" : ""));
         // A new row continues after the carried ids rather than reusing one.
         QVERIFY(f.addTeam(QStringLiteral("New"), QStringLiteral("Team")) > got.last().toLongLong());
         // The old season is untouched.

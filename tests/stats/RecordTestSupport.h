@@ -44,11 +44,13 @@ public:
         m_app = std::make_unique<App>(m_home.path());
         if (m_app->Event_Open() != App::OpenResult::Ok)
             qFatal("season did not open");
-        homeID = QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("O'Brien's Nine")}}));
-        bearsID = QString::number(gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")}}));
+        homeID = QString::number(
+            gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("O'Brien's Nine")}}));
+        bearsID = QString::number(
+            gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Bears")}}));
     }
 
-    fakes::FakePlatform fake {};
+    fakes::FakePlatform fake{};
     QString homeID;
     QString bearsID;
 
@@ -56,9 +58,10 @@ public:
     // gives its schedule id.
     QString storeGame(const Card &a, const Card &b)
     {
-        const qint64 eventID = gData->insert(QStringLiteral("Schedule"), {{QStringLiteral("Event"), QStringLiteral("Game")},
-                                                                          {QStringLiteral("OppID"), bearsID},
-                                                                          {QStringLiteral("isHome"), 2}});
+        const qint64 eventID = gData->insert(QStringLiteral("Schedule"),
+                                             {{QStringLiteral("Event"), QStringLiteral("Game")},
+                                              {QStringLiteral("OppID"), bearsID},
+                                              {QStringLiteral("isHome"), 2}});
         const QString schedID = QString::number(eventID);
         Fields row = {{QStringLiteral("schedID"), schedID},
                       {QStringLiteral("Teams"), QString(homeID + u'\t' + bearsID)},
@@ -84,8 +87,8 @@ public:
     // "AB=3 B1=1 ...", with "team=" and "game=" first; "" without a row.
     static QString seasonRow(const QString &table, const QString &playerID)
     {
-        const QList<Record> rows = gData->select(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE playerID = ?"),
-                                                 {playerID.toLongLong()});
+        const QList<Record> rows = gData->select(
+            QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE playerID = ?"), {playerID.toLongLong()});
         if (rows.isEmpty())
             return {};
         const Record &r = rows.first();
@@ -104,8 +107,8 @@ public:
     // "W-L-Tie" of a team, "" without a row.
     static QString record(const QString &teamID)
     {
-        const QList<Record> rows = gData->select(QStringLiteral("SELECT W, L, Tie FROM GameResultsByTeam WHERE teamID = ?"),
-                                                 {teamID.toLongLong()});
+        const QList<Record> rows = gData->select(
+            QStringLiteral("SELECT W, L, Tie FROM GameResultsByTeam WHERE teamID = ?"), {teamID.toLongLong()});
         if (rows.isEmpty())
             return {};
         return rows.first().text(QStringLiteral("W")) + u'-' + rows.first().text(QStringLiteral("L")) + u'-' +
@@ -158,10 +161,11 @@ inline void failAtWrite(int n)
         for (const char *op : {"INSERT", "UPDATE"}) {
             const std::string name = std::string("fail_") + op + "_" + table;
             db.exec("DROP TRIGGER IF EXISTS temp." + name);
-            db.exec("CREATE TEMP TRIGGER " + name + " BEFORE " + op + " ON main." + table +
-                    " BEGIN UPDATE failPlan SET seen = seen + 1;"
-                    " SELECT RAISE(ABORT, 'forced failure') WHERE (SELECT seen FROM failPlan) = (SELECT at FROM failPlan);"
-                    " END");
+            db.exec(
+                "CREATE TEMP TRIGGER " + name + " BEFORE " + op + " ON main." + table +
+                " BEGIN UPDATE failPlan SET seen = seen + 1;"
+                " SELECT RAISE(ABORT, 'forced failure') WHERE (SELECT seen FROM failPlan) = (SELECT at FROM failPlan);"
+                " END");
         }
     }
 }

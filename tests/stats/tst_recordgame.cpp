@@ -30,7 +30,8 @@ QStringList storeTwoGames(Season &s)
                                    Card{bears, {"GO/R KS/R", "B2/Y FO/R"}, "0\t0\r0\t0"});
     Season::panel(stats::Panel::Batting, g1, "201", "0\t3\t0\t0\t1");
     Season::panel(stats::Panel::Fielding, g1, "203", "9\t5\t3\t2\t1\t0\t0\t0\t0\t0\t0\t0\t0");
-    Season::pitchPanel(g1, "205", {0, true, false, false, 30, 50, "4.1\t20\t5\t2\t1\t3\t4\t2\t0\t0\t6\t0\t1\t0\t0\t0\t0"});
+    Season::pitchPanel(g1, "205",
+                       {0, true, false, false, 30, 50, "4.1\t20\t5\t2\t1\t3\t4\t2\t0\t0\t6\t0\t1\t0\t0\t0\t0"});
     Season::pitchPanel(g1, "302", {2, false, false, false, 0, 0, "4.2\t25\t7"});
 
     const QString g2 = s.storeGame(Card{home, {"B2/G", "SAC/R", "CI/Y"}, "0\t0\r1\t0\r0\t0"},
@@ -68,20 +69,42 @@ private Q_SLOTS:
 
         // First game: a row only for a saved panel (the inserted figures
         // show in the sums after the second game).
-        QTest::newRow("no fielding panel, no row") << 1 << "Fielding" << "201" << "";
-        QTest::newRow("no pitching panel, no row") << 1 << "Pitching" << "203" << "";
+        QTest::newRow("no fielding panel, no row") << 1 << "Fielding"
+                                                   << "201"
+                                                   << "";
+        QTest::newRow("no pitching panel, no row") << 1 << "Pitching"
+                                                   << "203"
+                                                   << "";
         // Second game: the same rows are updated.
-        QTest::newRow("updated hitting") << 2 << "Hitting" << "201" << "AB=3 B1=1 B2=1 GO=1 Runs=2 RBI=1 UDB2=3 UDB5=1";
-        QTest::newRow("sacrifice is no at bat") << 2 << "Hitting" << "203" << "AB=1 BB=1 SAC=1 KS=1 RBI=1 SB=1 LOB=1";
-        QTest::newRow("home run for the other side") << 2 << "Hitting" << "301" << "AB=3 HR=1 GO=1 KS=1 Runs=1 RBI=1";
-        QTest::newRow("fielding first in the second game") << 2 << "Fielding" << "201" << "IP=7 CH=2 PO=2";
-        QTest::newRow("fielding updated") << 2 << "Fielding" << "203" << "IP=18 CH=6 PO=4 Asst=2 FE=1 TE=1";
-        QTest::newRow("4.1 + 2.2 = 7.0") << 2 << "Pitching" << "205"
-            << "Win=1 ND=1 Start=1 Balls=40 Ks=62 PitCt=102 IP=70 BF=29 Hits=5 ErRuns=2 HRA=1 GrO=3 FlO=4 BB=2 Kouts=6 WldP=1";
-        QTest::newRow("4.2 + 2.2 = 7.1") << 2 << "Pitching" << "302" << "Loss=1 Save=1 IP=71 BF=25 Hits=7";
+        QTest::newRow("updated hitting") << 2 << "Hitting"
+                                         << "201"
+                                         << "AB=3 B1=1 B2=1 GO=1 Runs=2 RBI=1 UDB2=3 UDB5=1";
+        QTest::newRow("sacrifice is no at bat") << 2 << "Hitting"
+                                                << "203"
+                                                << "AB=1 BB=1 SAC=1 KS=1 RBI=1 SB=1 LOB=1";
+        QTest::newRow("home run for the other side") << 2 << "Hitting"
+                                                     << "301"
+                                                     << "AB=3 HR=1 GO=1 KS=1 Runs=1 RBI=1";
+        QTest::newRow("fielding first in the second game") << 2 << "Fielding"
+                                                           << "201"
+                                                           << "IP=7 CH=2 PO=2";
+        QTest::newRow("fielding updated") << 2 << "Fielding"
+                                          << "203"
+                                          << "IP=18 CH=6 PO=4 Asst=2 FE=1 TE=1";
+        QTest::newRow("4.1 + 2.2 = 7.0") << 2 << "Pitching"
+                                         << "205"
+                                         << "Win=1 ND=1 Start=1 Balls=40 Ks=62 PitCt=102 IP=70 BF=29 Hits=5 ErRuns=2 "
+                                            "HRA=1 GrO=3 FlO=4 BB=2 Kouts=6 WldP=1";
+        QTest::newRow("4.2 + 2.2 = 7.1") << 2 << "Pitching"
+                                         << "302"
+                                         << "Loss=1 Save=1 IP=71 BF=25 Hits=7";
         // Team records, "W-L-Tie": a tie added to the rows of a win.
-        QTest::newRow("a tie added to a win") << 2 << "GameResultsByTeam" << "home" << "1-0-1";
-        QTest::newRow("a tie added to a loss") << 2 << "GameResultsByTeam" << "bears" << "0-1-1";
+        QTest::newRow("a tie added to a win") << 2 << "GameResultsByTeam"
+                                              << "home"
+                                              << "1-0-1";
+        QTest::newRow("a tie added to a loss") << 2 << "GameResultsByTeam"
+                                               << "bears"
+                                               << "0-1-1";
     }
     void seasonRows()
     {
@@ -111,8 +134,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("bearsRuns");
         QTest::addColumn<QString>("home");
         QTest::addColumn<QString>("bearsRecord");
-        QTest::newRow("0-0 tie") << "" << 0 << "0-0-1" << "0-0-1";
-        QTest::newRow("run-entry team wins") << "xxx\t0\t2\t0\t1\t--\t--\t--\t--\t--\t--\t7\t1\t4" << 3 << "0-1-0" << "1-0-0";
+        QTest::newRow("0-0 tie") << "" << 0 << "0-0-1"
+                                 << "0-0-1";
+        QTest::newRow("run-entry team wins") << "xxx\t0\t2\t0\t1\t--\t--\t--\t--\t--\t--\t7\t1\t4" << 3 << "0-1-0"
+                                             << "1-0-0";
     }
     void scoreboardDecides()
     {
@@ -133,12 +158,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("damage");
         QTest::addColumn<QString>("passed");
-        QTest::newRow("clean game") << "" << "1111";
-        QTest::newRow("run-entry opponent passes for it") << "run entry" << "1111";
-        QTest::newRow("no runs on either side") << "no runs" << "0111";
-        QTest::newRow("a batter on base without result") << "on base" << "1101";
-        QTest::newRow("no pitching panel saved") << "no pitching" << "1110";
-        QTest::newRow("no fielding panel saved") << "no fielding" << "1110";
+        QTest::newRow("clean game") << ""
+                                    << "1111";
+        QTest::newRow("run-entry opponent passes for it") << "run entry"
+                                                          << "1111";
+        QTest::newRow("no runs on either side") << "no runs"
+                                                << "0111";
+        QTest::newRow("a batter on base without result") << "on base"
+                                                         << "1101";
+        QTest::newRow("no pitching panel saved") << "no pitching"
+                                                 << "1110";
+        QTest::newRow("no fielding panel saved") << "no fielding"
+                                                 << "1110";
     }
     void checks()
     {
@@ -172,14 +203,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("damage");
         QTest::addColumn<QString>("message");
         QTest::addColumn<GameRecorder::Result>("result");
-        QTest::newRow("lineup out of step") << "lineup" << "The lineup and hitting data are not in sync."
-                                            << GameRecorder::Result::NotInSync;
-        QTest::newRow("thirds digit above 2") << "innings" << "Incorrect 'IP' entry." << GameRecorder::Result::BadInnings;
-        QTest::newRow("season total thirds above 2") << "total" << "Incorrect 'IP' entry."
-                                                     << GameRecorder::Result::BadInnings;
-        QTest::newRow("texts longer than lineup") << "texts" << "There is an error in the saved data."
-                                                  << GameRecorder::Result::BadSavedData;
-        QTest::newRow("already recorded") << "recorded" << "" << GameRecorder::Result::AlreadyRecorded;
+        QTest::newRow("lineup out of step")
+            << "lineup"
+            << "The lineup and hitting data are not in sync." << GameRecorder::Result::NotInSync;
+        QTest::newRow("thirds digit above 2") << "innings"
+                                              << "Incorrect 'IP' entry." << GameRecorder::Result::BadInnings;
+        QTest::newRow("season total thirds above 2") << "total"
+                                                     << "Incorrect 'IP' entry." << GameRecorder::Result::BadInnings;
+        QTest::newRow("texts longer than lineup")
+            << "texts"
+            << "There is an error in the saved data." << GameRecorder::Result::BadSavedData;
+        QTest::newRow("already recorded") << "recorded"
+                                          << "" << GameRecorder::Result::AlreadyRecorded;
     }
     void refusalsLeaveTheFile()
     {
@@ -188,7 +223,8 @@ private Q_SLOTS:
         Season s;
         const QString game = storeTwoGames(s).first();
         if (damage == u"lineup")
-            gData->exec("UPDATE Games SET TeamBPlayers = ? WHERE schedID = ?", {"1\tP\tAl Fox\t301\r2\tP\tBo Gray", game});
+            gData->exec("UPDATE Games SET TeamBPlayers = ? WHERE schedID = ?",
+                        {"1\tP\tAl Fox\t301\r2\tP\tBo Gray", game});
         else if (damage == u"innings")
             gData->exec("UPDATE GamesIndivPitching SET stats = '6.3' WHERE playerID = '302'");
         else if (damage == u"total")

@@ -73,7 +73,10 @@ QString seasonDump(const QString &home, const QString &bears, const QString &gam
     out << "F1: " + Season::seasonRow("Fielding", "1") << "P16: " + Season::seasonRow("Pitching", "16");
     out << "home " + Season::record(home) << "bears " + Season::record(bears);
     out << (Season::isRecorded(game) ? "recorded" : "open");
-    return out.join(u'\n').replace("game=" + game, "game=G").replace("team=" + home, "team=H").replace("team=" + bears, "team=B");
+    return out.join(u'\n')
+        .replace("game=" + game, "game=G")
+        .replace("team=" + home, "team=H")
+        .replace("team=" + bears, "team=B");
 }
 
 } // namespace
@@ -88,18 +91,22 @@ private Q_SLOTS:
         QTest::addColumn<int>("view");
         QTest::addColumn<QString>("answer");
         QTest::addColumn<QString>("season");
-        const QString recorded = QStringList{
-            "H1: team=H game=G AB=1 B1=1 Runs=1",
-            "H2: team=H game=G AB=1 HR=1 Runs=1 RBI=1",
-            "H13: team=B game=G AB=2 B2=1 HR=1 Runs=1 RBI=1 LOB=1",
-            "H14: team=B game=G AB=1 GO=1 SB=1",
-            "H15: team=B game=G AB=1 KS=1",
-            "H16: team=B game=G AB=1 FO=1",
-            "F1: team=H game=G IP=9",
-            "P16: team=B game=G Loss=1 Start=1 Balls=20 Ks=30 PitCt=50 IP=51 BF=12 Hits=4",
-            "home 1-0-0", "bears 0-1-0", "recorded"}.join(u'\n');
-        const QString untouched = QStringList{"H1: ", "H2: ", "H13: ", "H14: ", "H15: ", "H16: ", "F1: ", "P16: ",
-                                              "home ", "bears ", "open"}.join(u'\n');
+        const QString recorded =
+            QStringList{"H1: team=H game=G AB=1 B1=1 Runs=1",
+                        "H2: team=H game=G AB=1 HR=1 Runs=1 RBI=1",
+                        "H13: team=B game=G AB=2 B2=1 HR=1 Runs=1 RBI=1 LOB=1",
+                        "H14: team=B game=G AB=1 GO=1 SB=1",
+                        "H15: team=B game=G AB=1 KS=1",
+                        "H16: team=B game=G AB=1 FO=1",
+                        "F1: team=H game=G IP=9",
+                        "P16: team=B game=G Loss=1 Start=1 Balls=20 Ks=30 PitCt=50 IP=51 BF=12 Hits=4",
+                        "home 1-0-0",
+                        "bears 0-1-0",
+                        "recorded"}
+                .join(u'\n');
+        const QString untouched = QStringList{"H1: ", "H2: ",  "H13: ", "H14: ",  "H15: ", "H16: ",
+                                              "F1: ", "P16: ", "home ", "bears ", "open"}
+                                      .join(u'\n');
         QTest::newRow("from the home team's view, panel open") << 0 << "recordBtn" << recorded;
         QTest::newRow("from the Bears' view") << 1 << "recordBtn" << recorded;
         QTest::newRow("cancel") << 1 << "cancelBtn" << untouched;
@@ -126,7 +133,8 @@ private Q_SLOTS:
         scr->TeamBtn[0]->click();
         playTeam(game, {"C", "B1"}, {{0, 0, "B1"}, {0, 0, "xRUN"}, {1, 0, "HR"}});
         game.setBatterStat(1, 0, "1");
-        stats::GameStatStore(*gData).savePitching(s.schedID(), "16", bears, {2, true, false, false, 20, 30, "5.1\t12\t4"});
+        stats::GameStatStore(*gData).savePitching(s.schedID(), "16", bears,
+                                                  {2, true, false, false, 20, 30, "5.1\t12\t4"});
         // The catcher's fielding panel open with a figure typed; a change of
         // team saves and closes it, else recording does.
         scr->Names_PosLB->setSelectedRow(0);

@@ -29,18 +29,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("frame");
         QTest::addColumn<QString>("line");
-        QTest::newRow("start-up") << "% main" << "";
-        QTest::newRow("not a frame") << "libc.so.6(+0x2718a) [0x7f]" << "";
-        QTest::newRow("sub") << "foo.bar%%" << "Sub foo.bar()";
-        QTest::newRow("receiver goes") << "Foo.Bar%%o<Foo>i8" << "Sub Foo.Bar( int64 )";
-        QTest::newRow("extends") << "$Bar%s%sb" << "Function Bar( extends string, boolean ) as string";
-        QTest::newRow("event") << "Baz#%%A1s&i4" << "Event Baz( string(), byref int32 )";
-        QTest::newRow("function")
-            << "monthlyCalendar.daysInMonth%i8%o<monthlyCalendar>i8i8"
-            << "Function monthlyCalendar.daysInMonth( int64, int64 ) as int64";
-        QTest::newRow("assigns and paramarray")
-            << "Team.Name=%%o<Team>s" << "Sub Team.Name( assigns string )";
-        QTest::newRow("paramarray") << "Log.Add*%%o<Log>A1s" << "Sub Log.Add( paramarray string() )";
+        QTest::newRow("start-up") << "% main"
+                                  << "";
+        QTest::newRow("not a frame") << "libc.so.6(+0x2718a) [0x7f]"
+                                     << "";
+        QTest::newRow("sub") << "foo.bar%%"
+                             << "Sub foo.bar()";
+        QTest::newRow("receiver goes") << "Foo.Bar%%o<Foo>i8"
+                                       << "Sub Foo.Bar( int64 )";
+        QTest::newRow("extends") << "$Bar%s%sb"
+                                 << "Function Bar( extends string, boolean ) as string";
+        QTest::newRow("event") << "Baz#%%A1s&i4"
+                               << "Event Baz( string(), byref int32 )";
+        QTest::newRow("function") << "monthlyCalendar.daysInMonth%i8%o<monthlyCalendar>i8i8"
+                                  << "Function monthlyCalendar.daysInMonth( int64, int64 ) as int64";
+        QTest::newRow("assigns and paramarray") << "Team.Name=%%o<Team>s"
+                                                << "Sub Team.Name( assigns string )";
+        QTest::newRow("paramarray") << "Log.Add*%%o<Log>A1s"
+                                    << "Sub Log.Add( paramarray string() )";
     }
 
     void frames()
@@ -55,8 +61,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("codes");
         QTest::addColumn<QStringList>("types");
         QTest::newRow("two-dimensional array") << "A2i8" << QStringList{"int64(,)"};
-        QTest::newRow("every kind") << "u2f4f8cbso<Team>" << QStringList{"uint16", "single", "double", "color", "boolean",
-                                                                          "string", "Team"};
+        QTest::newRow("every kind") << "u2f4f8cbso<Team>"
+                                    << QStringList{"uint16", "single", "double", "color", "boolean", "string", "Team"};
         QTest::newRow("byref array") << "&A1s" << QStringList{"byref string()"};
         QTest::newRow("junk between types") << "?i4!" << QStringList{"int32"};
     }
@@ -87,7 +93,8 @@ private Q_SLOTS:
 
     void exceptionKinds()
     {
-        QCOMPARE(TypeOfException(std::make_exception_ptr(std::out_of_range("x"))), QStringLiteral("OutOfBoundsException"));
+        QCOMPARE(TypeOfException(std::make_exception_ptr(std::out_of_range("x"))),
+                 QStringLiteral("OutOfBoundsException"));
         QCOMPARE(TypeOfException(std::make_exception_ptr(std::bad_alloc())), QStringLiteral("OutOfMemoryException"));
         QCOMPARE(TypeOfException(std::make_exception_ptr(std::runtime_error("x"))), QString());
         QCOMPARE(TypeOfException(std::make_exception_ptr(42)), QString());
@@ -98,11 +105,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("running");
         QTest::addColumn<QString>("document");
         QTest::addColumn<bool>("offered");
-        QTest::newRow("newer") << "2.2.0" << "2.2.1" << true;
-        QTest::newRow("same") << "2.2.0" << "2.2.0" << false;
-        QTest::newRow("older") << "2.2.0" << "2.1.9" << false;
-        QTest::newRow("text order") << "2.9.0" << "2.10.0" << false;
-        QTest::newRow("no answer") << "2.2.0" << "" << false;
+        QTest::newRow("newer") << "2.2.0"
+                               << "2.2.1" << true;
+        QTest::newRow("same") << "2.2.0"
+                              << "2.2.0" << false;
+        QTest::newRow("older") << "2.2.0"
+                               << "2.1.9" << false;
+        QTest::newRow("text order") << "2.9.0"
+                                    << "2.10.0" << false;
+        QTest::newRow("no answer") << "2.2.0"
+                                   << "" << false;
     }
 
     void versions()

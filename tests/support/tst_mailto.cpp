@@ -19,19 +19,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expectedBody"); // line ends as mail carries them
 
         QTest::newRow("delimiters in the subject")
-            << QStringList { QStringLiteral("coach@example.org") } << QStringLiteral("A&B ?#% 100%+ O'Brien's = 1")
+            << QStringList{QStringLiteral("coach@example.org")} << QStringLiteral("A&B ?#% 100%+ O'Brien's = 1")
             << QString() << QString();
         QTest::newRow("an address with delimiters")
-            << QStringList { QStringLiteral("o&brien+nine@example.org"), QStringLiteral("x?y#z%@example.org") }
+            << QStringList{QStringLiteral("o&brien+nine@example.org"), QStringLiteral("x?y#z%@example.org")}
             << QStringLiteral("s") << QString() << QString();
-        QTest::newRow("an empty entry stays") << QStringList { QStringLiteral("a@b.org"), QString() }
-                                              << QStringLiteral("Cougars") << QString() << QString();
+        QTest::newRow("an empty entry stays")
+            << QStringList{QStringLiteral("a@b.org"), QString()} << QStringLiteral("Cougars") << QString() << QString();
         QTest::newRow("body with every line end")
-            << QStringList { QStringLiteral("a@b.org") } << QStringLiteral("Practice Plans")
+            << QStringList{QStringLiteral("a@b.org")} << QStringLiteral("Practice Plans")
             << QStringLiteral("Practice Date: 4/15/26\nLoc\r\nRow 1\tA&B\rRow 2 #1 50%")
             << QStringLiteral("Practice Date: 4/15/26\r\nLoc\r\nRow 1\tA&B\r\nRow 2 #1 50%");
         QTest::newRow("letters beyond Latin")
-            << QStringList { QStringLiteral("łukasz@example.org") } << QStringLiteral("Łódź – 東京 Ωmega")
+            << QStringList{QStringLiteral("łukasz@example.org")} << QStringLiteral("Łódź – 東京 Ωmega")
             << QStringLiteral("Ñandú &body=x") << QStringLiteral("Ñandú &body=x");
     }
     void partsReadBackExactly()

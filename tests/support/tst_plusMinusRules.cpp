@@ -61,13 +61,14 @@ private Q_SLOTS:
         QTest::addColumn<Half>("raised");
         QTest::newRow("last pixel of plus") << QPointF(22, 3) << QPointF(22.4, 3) << true << PlusMinusState::Plus;
         QTest::newRow("middle is minus") << QPointF(22.5, 3) << QPointF(23, 3) << true << PlusMinusState::Minus;
-        QTest::newRow("let go over the other half") << QPointF(5, 10) << QPointF(30, 10) << true << PlusMinusState::None;
+        QTest::newRow("let go over the other half")
+            << QPointF(5, 10) << QPointF(30, 10) << true << PlusMinusState::None;
         QTest::newRow("let go below") << QPointF(5, 10) << QPointF(5, 23) << true << PlusMinusState::None;
         QTest::newRow("let go above") << QPointF(40, 10) << QPointF(40, -1) << true << PlusMinusState::None;
         QTest::newRow("let go right of it") << QPointF(40, 10) << QPointF(46, 10) << true << PlusMinusState::None;
         QTest::newRow("let go left of it") << QPointF(2, 10) << QPointF(-1, 10) << true << PlusMinusState::None;
-        QTest::newRow("minus with plus disabled") << QPointF(40, 10) << QPointF(40, 10) << false
-                                                  << PlusMinusState::Minus;
+        QTest::newRow("minus with plus disabled")
+            << QPointF(40, 10) << QPointF(40, 10) << false << PlusMinusState::Minus;
     }
     void pressAndRelease()
     {

@@ -35,12 +35,24 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("digits");
         QTest::addColumn<int>("beeps");
-        QTest::newRow("7 digits") << "5551234" << "555-1234" << "5551234" << 0;
-        QTest::newRow("10 digits") << "6145551234" << "(614) 555-1234" << "6145551234" << 0;
-        QTest::newRow("11 digits") << "16145551234" << "1 (614) 555-1234" << "16145551234" << 0;
-        QTest::newRow("a 12th digit is refused") << "161455512349" << "1 (614) 555-1234" << "16145551234" << 1;
-        QTest::newRow("letters and spaces refused") << "555 CAKE" << "555" << "555" << 5;
-        QTest::newRow("own separators put right") << "(614)555-1234" << "(614) 555-1234" << "6145551234" << 0;
+        QTest::newRow("7 digits") << "5551234"
+                                  << "555-1234"
+                                  << "5551234" << 0;
+        QTest::newRow("10 digits") << "6145551234"
+                                   << "(614) 555-1234"
+                                   << "6145551234" << 0;
+        QTest::newRow("11 digits") << "16145551234"
+                                   << "1 (614) 555-1234"
+                                   << "16145551234" << 0;
+        QTest::newRow("a 12th digit is refused") << "161455512349"
+                                                 << "1 (614) 555-1234"
+                                                 << "16145551234" << 1;
+        QTest::newRow("letters and spaces refused") << "555 CAKE"
+                                                    << "555"
+                                                    << "555" << 5;
+        QTest::newRow("own separators put right") << "(614)555-1234"
+                                                  << "(614) 555-1234"
+                                                  << "6145551234" << 0;
     }
     void phoneTypedKeyByKey()
     {
@@ -148,9 +160,7 @@ private Q_SLOTS:
         QSignalSpy up2(boxes[2], &qlmCheckBox::MouseUp);
         QCOMPARE(boxes[1]->groupTotal(), 2);
 
-        const auto values = [&] {
-            return QList<bool>{boxes[0]->value(), boxes[1]->value(), boxes[2]->value()};
-        };
+        const auto values = [&] { return QList<bool>{boxes[0]->value(), boxes[1]->value(), boxes[2]->value()}; };
         QTest::mouseClick(boxes[1], Qt::LeftButton);
         QCOMPARE(values(), (QList<bool>{false, true, false}));
         QCOMPARE(up1.count(), 1);

@@ -21,10 +21,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("digits");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("none") << "" << "";
-        QTest::newRow("4") << "5551" << "555-1";
-        QTest::newRow("8") << "61455512" << "(614) 555-12";
-        QTest::newRow("14, pasted") << "44161455512349" << "4 (416) 145-5512349";
+        QTest::newRow("none") << ""
+                              << "";
+        QTest::newRow("4") << "5551"
+                           << "555-1";
+        QTest::newRow("8") << "61455512"
+                           << "(614) 555-12";
+        QTest::newRow("14, pasted") << "44161455512349"
+                                    << "4 (416) 145-5512349";
     }
     void phoneFormat()
     {

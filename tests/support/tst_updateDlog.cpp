@@ -38,8 +38,8 @@ protected:
         connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
             if (!answer)
                 return;
-            socket->write("HTTP/1.1 200 OK\r\nContent-Type: application/octet-stream\r\nContent-Length: "
-                          + QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n");
+            socket->write("HTTP/1.1 200 OK\r\nContent-Type: application/octet-stream\r\nContent-Length: " +
+                          QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n");
             socket->write(body);
             socket->disconnectFromHost();
         });
@@ -61,10 +61,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("action");
         QTest::newRow("newer") << QByteArray("<version>9.0.0</version><description>Faster</description>")
-                               << "Version 9.0.0 of Tallyline Baseball is available." << "Update Now";
+                               << "Version 9.0.0 of Tallyline Baseball is available."
+                               << "Update Now";
         QTest::newRow("same") << QByteArray("<version>2.2.0</version>")
-                              << "Your Copy Of Tallyline Baseball Is Up To Date!" << "Close";
-        QTest::newRow("no page") << QByteArray() << "Your Copy Of Tallyline Baseball Is Up To Date!" << "Close";
+                              << "Your Copy Of Tallyline Baseball Is Up To Date!"
+                              << "Close";
+        QTest::newRow("no page") << QByteArray() << "Your Copy Of Tallyline Baseball Is Up To Date!"
+                                 << "Close";
     }
 
     void check()
@@ -104,8 +107,8 @@ private Q_SLOTS:
     {
         fakes::FakePlatform fake;
         platform::qt::QtHttpService network;
-        fake.http.pages.insert(kDocument, QByteArray("<version>9.0.0</version><name>Tallyline 9</name><url>")
-                                              + QByteArray("URL") + "</url>");
+        fake.http.pages.insert(kDocument, QByteArray("<version>9.0.0</version><name>Tallyline 9</name><url>") +
+                                              QByteArray("URL") + "</url>");
         LoopbackServer server;
         server.body = QByteArray(1572864, 'x');
         fake.http.pages[kDocument].replace("URL", server.url().toUtf8());
@@ -122,7 +125,8 @@ private Q_SLOTS:
         services.http = &network;
         platform::ScopedServices real(services);
         QTest::mouseClick(dlog->actionBtn, Qt::LeftButton);
-        QCOMPARE(fake.files.calls.last().request.suggestedName, QStringLiteral("Tallyline_Baseball_9.0.0_update.tar.gz"));
+        QCOMPARE(fake.files.calls.last().request.suggestedName,
+                 QStringLiteral("Tallyline_Baseball_9.0.0_update.tar.gz"));
         QCOMPARE(fake.files.calls.last().request.prompt, QStringLiteral("Select the Save Location"));
         wAutoUpdate *window = nullptr;
         for (QWidget *w : QApplication::topLevelWidgets())

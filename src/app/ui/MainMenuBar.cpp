@@ -1,5 +1,7 @@
 #include "app/ui/MainMenuBar.h"
 
+#include "app/globals.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
@@ -119,4 +121,13 @@ void MainMenuBar::run(const QString &name)
     const auto it = m_handlers.constFind(name);
     if (it != m_handlers.constEnd())
         (*it)();
+}
+
+void MainMenuBar::installPrinterSetup(bool forceDialog)
+{
+    installHandler(QStringLiteral("FilePrinterSetup"), [forceDialog] {
+        std::optional<platform::PrinterSetup> setup;
+        gGetPrinterSetup(setup, forceDialog);
+        return true;
+    });
 }

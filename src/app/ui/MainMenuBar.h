@@ -22,6 +22,9 @@ public:
     // Enables `item` and runs `handler` when it is chosen.
     void installHandler(const QString &item, Handler handler);
     void removeHandler(const QString &item);
+    // Enables "Printer Setup": it shows the page set-up dialog (or, without
+    // `forceDialog`, only when no set-up is remembered yet).
+    void installPrinterSetup(bool forceDialog = true);
     QAction *item(const QString &name) const;
 
 private:

@@ -110,11 +110,7 @@ formsScrn::formsScrn(QWidget *parent) : ScreenBase(ScreenId::formsScrn, QStringL
         printForm();
         return true;
     });
-    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
-        std::optional<platform::PrinterSetup> setup;
-        gGetPrinterSetup(setup, true);
-        return true;
-    });
+    menus()->installPrinterSetup();
 }
 
 void formsScrn::printForm()

@@ -101,11 +101,7 @@ helpScrn2::helpScrn2(int topic, QWidget *parent)
         printPage();
         return true;
     });
-    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
-        std::optional<platform::PrinterSetup> setup;
-        gGetPrinterSetup(setup, false);
-        return true;
-    });
+    menus()->installPrinterSetup(false);
 
     if (topic > 0) {
         indexVisible = true;

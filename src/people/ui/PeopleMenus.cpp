@@ -19,11 +19,7 @@ void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std:
     });
     if (QAction *print = menus->item(QStringLiteral("FilePrint")))
         print->setText(printText);
-    menus->installHandler(QStringLiteral("FilePrinterSetup"), [] {
-        std::optional<platform::PrinterSetup> setup;
-        gGetPrinterSetup(setup, true);
-        return true;
-    });
+    menus->installPrinterSetup();
     const struct
     {
         const char *item;

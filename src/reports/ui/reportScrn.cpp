@@ -84,11 +84,7 @@ reportScrn::reportScrn(int which, const QStringList &headers, QWidget *parent)
         exportReport();
         return true;
     });
-    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
-        std::optional<platform::PrinterSetup> setup;
-        gGetPrinterSetup(setup, true);
-        return true;
-    });
+    menus()->installPrinterSetup();
 
     scrnSetup();
 }

@@ -87,11 +87,7 @@ standingsScrn::standingsScrn(QWidget *parent)
         myLB->exportMe(QStringLiteral("Current Standings - ") + standSelPop->currentText());
         return true;
     });
-    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
-        std::optional<platform::PrinterSetup> setup;
-        gGetPrinterSetup(setup, true);
-        return true;
-    });
+    menus()->installPrinterSetup();
 }
 
 void standingsScrn::acquireData()

@@ -66,11 +66,7 @@ eventsCalendarScrn::eventsCalendarScrn(QWidget *parent)
         hndlPrint();
         return true;
     });
-    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
-        std::optional<platform::PrinterSetup> setup;
-        gGetPrinterSetup(setup, true);
-        return true;
-    });
+    menus()->installPrinterSetup();
 
     fillEvents();
     eventCalendar1->setFocus();

@@ -100,11 +100,7 @@ scheduleScrn::scheduleScrn(QWidget *parent)
         exportSchedule();
         return true;
     });
-    menus()->installHandler(QStringLiteral("FilePrinterSetup"), [] {
-        std::optional<platform::PrinterSetup> setup;
-        gGetPrinterSetup(setup, true);
-        return true;
-    });
+    menus()->installPrinterSetup();
 
     homeTeamFld->setText(m_schedule.homeTeamName());
     loadScheduleLB(ScheduleStore::kShowAll);

@@ -1,11 +1,13 @@
 #include "people/ui/PeopleMenus.h"
 
 #include "app/globals.h"
+#include "app/myPrefs.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenBase.h"
 #include "app/ui/ScreenDirectory.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QMenu>
 #include <QToolButton>
 #include <QWidget>
@@ -46,4 +48,11 @@ void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std:
             return true;
         });
     }
+}
+
+void fillTeamPopup(QComboBox *popup, const QList<people::TeamChoice> &teams)
+{
+    for (const people::TeamChoice &team : teams)
+        popup->addItem(team.TeamName, team.teamID);
+    popup->setCurrentIndex(popup->findData(gPrefs->prHomeTeam));
 }

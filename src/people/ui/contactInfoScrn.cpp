@@ -71,9 +71,7 @@ contactInfoScrn::contactInfoScrn(QWidget *parent)
     connect(printBtn, &QPushButton::clicked, this, &contactInfoScrn::hndlPrinting);
     connect(closeBtn, &QPushButton::clicked, this, &QWidget::close);
 
-    for (const people::TeamChoice &team : m_book.teams())
-        selectTeamPop->addItem(team.TeamName, team.teamID);
-    selectTeamPop->setCurrentIndex(selectTeamPop->findData(gPrefs->prHomeTeam));
+    fillTeamPopup(selectTeamPop, m_book.teams());
     connect(selectTeamPop, &QComboBox::currentIndexChanged, this, [this] {
         teamIDFld->setText(selectTeamPop->currentData().toString());
         fillLists();

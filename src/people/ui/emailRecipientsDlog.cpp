@@ -3,6 +3,7 @@
 #include "app/globals.h"
 #include "app/myPrefs.h"
 #include "app/ui/Form.h"
+#include "people/ui/PeopleMenus.h"
 #include "reports/ui/qlmListBox.h"
 #include "support/ui/qlmCheckBox.h"
 
@@ -72,9 +73,7 @@ emailRecipientsDlog::emailRecipientsDlog(QWidget *parent) : QDialog(parent), m_b
     connect(setBtn, &QPushButton::clicked, this, &emailRecipientsDlog::setBtn_Action);
     connect(cancelBtn, &QPushButton::clicked, this, &QDialog::reject);
 
-    for (const people::TeamChoice &team : m_book.teams())
-        selectTeamPop->addItem(team.TeamName, team.teamID);
-    selectTeamPop->setCurrentIndex(selectTeamPop->findData(gPrefs->prHomeTeam));
+    fillTeamPopup(selectTeamPop, m_book.teams());
     connect(selectTeamPop, &QComboBox::currentIndexChanged, this, [this] {
         teamIDFld->setText(selectTeamPop->currentData().toString());
         fillLists();

@@ -1,10 +1,12 @@
 #include "Screens.h"
 
+#include "app/App.h"
 #include "app/ui/ScreenDirectory.h"
 #include "gameday/ui/gameDayScrn.h"
 #include "help/ui/HelpAbbrevScrn.h"
 #include "help/ui/formsScrn.h"
 #include "help/ui/helpScrn2.h"
+#include "people/MailSettings.h"
 #include "people/ui/InventoryScrn.h"
 #include "people/ui/contactInfoScrn.h"
 #include "people/ui/emailInfoScrn.h"
@@ -63,4 +65,11 @@ void registerScreens()
         return true;
     }();
     Q_UNUSED(listening);
+}
+
+void connectProgram(App &app)
+{
+    backUpDlog::connectTimer(app.BUTimer);
+    // The mail password lives in the desktop's secret store, not in the file.
+    people::MailSettings::moveOldPassword(*app.prefs());
 }

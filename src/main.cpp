@@ -5,9 +5,7 @@
 #include "app/App.h"
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/splashScrn.h"
-#include "people/MailSettings.h"
 #include "platform/qt/QtServices.h"
-#include "seasondata/ui/backUpDlog.h"
 #include "support/ui/expReporterScrn.h"
 
 int main(int argc, char *argv[])
@@ -24,12 +22,7 @@ int main(int argc, char *argv[])
     if (app.Event_Open() != App::OpenResult::Ok)
         return 0;
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &app, &App::Event_Close);
-    backUpDlog::connectTimer(app.BUTimer);
-    // The mail password lives in the desktop's secret store, not in the file.
-    people::MailSettings::moveOldPassword(*app.prefs());
-    backUpDlog::connectTimer(app.BUTimer);
-    // The mail password lives in the desktop's secret store, not in the file.
-    people::MailSettings::moveOldPassword(*app.prefs());
+    connectProgram(app);
 
     auto *splash = new splashScrn;
     splash->show();

@@ -56,7 +56,14 @@ App::OpenResult App::Event_Open()
     gCreateGlobalLists();
 
     if (!acquireInstanceLock()) {
-        gMsgBox(QStringLiteral("Tallyline Baseball is already running. Switch to the open window to go on."));
+        // Only a lock that another copy holds means that one is running.
+        if (m_lock->error() == QLockFile::LockFailedError) {
+            gMsgBox(QStringLiteral("Tallyline Baseball is already running. Switch to the open window to go on."));
+        } else {
+            gMsgBox(QStringLiteral("Tallyline Baseball can't write in its data folder \"") +
+                    QDir::toNativeSeparators(myPrefs::dataFolderFor(m_appDataRoot)) +
+                    QStringLiteral("\" (is it on a read-only disk?), so it can't start."));
+        }
         return OpenResult::AlreadyRunning;
     }
 

@@ -3,6 +3,7 @@
 #include "app/Schema.h"
 #include "app/globals.h"
 #include "app/myPrefs.h"
+#include "platform/Messages.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -92,20 +93,37 @@ void myDB::notOpened(const QString &message, const QString &explanation)
 
 bool myDB::verifyIntegrity()
 {
-    std::string result;
-    try {
-        SQLite::Statement check(*tlynData, "PRAGMA quick_check");
-        if (check.executeStep())
-            result = check.getColumn(0).getString();
-    } catch (const SQLite::Exception &e) {
-        result = e.what();
+    for (;;) {
+        std::string result;
+        int code = 0;
+        try {
+            SQLite::Statement check(*tlynData, "PRAGMA quick_check");
+            if (check.executeStep())
+                result = check.getColumn(0).getString();
+        } catch (const SQLite::Exception &e) {
+            result = e.what();
+            code = e.getErrorCode() & 0xff;
+        }
+        if (result == "ok")
+            return true;
+        // Held by another program past the busy timeout: the file may well be
+        // sound, and restoring a backup over it would lose good data.
+        if (code == SQLITE_BUSY || code == SQLITE_LOCKED) {
+            if (gShowMsgDlog(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
+                                 QStringLiteral("\" is in use by another program."),
+                             QStringLiteral("Nothing was changed in it. Close the other program, or wait until it "
+                                            "has finished, and try again."),
+                             QStringLiteral("Try Again")) == platform::MsgAction)
+                continue;
+            tlynData.reset();
+            return false;
+        }
+        notOpened(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
+                      QStringLiteral("\" is damaged and can't be opened."),
+                  QStringLiteral(
+                      "Nothing was changed in it. Restore it from a backup copy, or choose another season."));
+        return false;
     }
-    if (result == "ok")
-        return true;
-    notOpened(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
-                  QStringLiteral("\" is damaged and can't be opened."),
-              QStringLiteral("Nothing was changed in it. Restore it from a backup copy, or choose another season."));
-    return false;
 }
 
 bool myDB::connectToDB(const QString &file)
@@ -142,7 +160,7 @@ bool myDB::connectToDB(const QString &file)
 bool myDB::createSchema(const QString &file)
 {
     try {
-        SQLite::Transaction transaction(*tlynData);
+        SQLite::Transaction transaction(*tlynData, SQLite::TransactionBehavior::IMMEDIATE);
         for (const QString &statement : schema::createStatements())
             tlynData->exec(utf8(statement));
         transaction.commit();
@@ -351,7 +369,10 @@ bool myDB::runInTransaction(const std::function<void()> &body)
         ~Depth() { --depth; }
     };
     try {
-        SQLite::Transaction transaction(*tlynData);
+        // IMMEDIATE: the write lock is asked for first, so the busy timeout
+        // waits out another program's write; a deferred step that read
+        // first would fail at once on its first write.
+        SQLite::Transaction transaction(*tlynData, SQLite::TransactionBehavior::IMMEDIATE);
         {
             Depth inside(m_transactionDepth);
             body();

@@ -311,7 +311,10 @@ void myPrefs::readPrefs()
 
 bool myPrefs::isUsableSeasonName(const QString &season)
 {
-    if (season.isEmpty())
+    // The season's file name, with the longest name made beside it (a kept
+    // copy's date and time), must stay inside the 255 bytes a file system
+    // allows for one name.
+    if (season.isEmpty() || season.toUtf8().size() > kMaxSeasonNameBytes)
         return false;
     for (const QChar c : season) {
         if (c.category() == QChar::Other_Control || c == u'/' || c == u'\\')

@@ -45,8 +45,10 @@ public:
     bool decode(const QByteArray &bytes);
 
     // Whether a season's name can be part of a file name: not empty, no
-    // control character, no path separator.
+    // control character, no path separator, at most kMaxSeasonNameBytes
+    // bytes in UTF-8.
     static bool isUsableSeasonName(const QString &season);
+    static constexpr int kMaxSeasonNameBytes = 200;
 
     // The first-run values of every field.
     void initPrefs();

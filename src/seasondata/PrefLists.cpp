@@ -1,5 +1,7 @@
 #include "seasondata/PrefLists.h"
 
+#include <algorithm>
+
 #include "app/myPrefs.h"
 
 namespace seasondata::preflists {
@@ -139,33 +141,51 @@ QString forceTextNotEmpty(const QString &text)
     return text.isEmpty() ? QStringLiteral("--") : text;
 }
 
-JoinedUD joinUD(const QList<UDSlot> &slots)
+JoinedUD joinUD(const QList<UDSlot> &slots, const QList<UDSlot> &stored)
 {
     QList<UDSlot> fitted;
     for (const UDSlot &s : slots)
         fitted.append({forceTextNotEmpty(cleanUDText(s.abbrev)), cleanUDText(s.desc)});
 
+    // Field i of the list: the abbreviation (even) or description (odd).
+    const auto field = [&](int i) -> QString & { return i % 2 ? fitted[i / 2].desc : fitted[i / 2].abbrev; };
+    const auto typed = [&](int i) {
+        if (i / 2 >= stored.size())
+            return true;
+        const UDSlot &was = stored.at(i / 2);
+        return i % 2 ? fitted.at(i / 2).desc != was.desc : fitted.at(i / 2).abbrev != forceTextNotEmpty(was.abbrev);
+    };
+
     JoinedUD joined;
-    // The descriptions give way first, the longest each time, so every name
-    // keeps as much of itself as the field allows; an abbreviation is cut
-    // only when the descriptions are gone, and never below one character.
+    // Each time the longest field may give a character: first among the
+    // fields typed, descriptions before abbreviations; an abbreviation
+    // never goes below one character.
+    const auto longest = [&](bool typedOnly, bool abbrevs) {
+        int best = -1;
+        for (int i = abbrevs ? 0 : 1; i < fitted.size() * 2; i += 2) {
+            const qsizetype floor = abbrevs ? 1 : 0;
+            if (field(i).size() > floor && (!typedOnly || typed(i)) &&
+                (best < 0 || field(i).size() > field(best).size()))
+                best = i;
+        }
+        return best;
+    };
     while (utf8Size(fitted) > myPrefs::kPascalMax) {
         joined.shortened = true;
-        QString *longest = nullptr;
-        for (UDSlot &s : fitted) {
-            if (!s.desc.isEmpty() && (!longest || s.desc.size() > longest->size()))
-                longest = &s.desc;
-        }
-        if (!longest) {
-            for (UDSlot &s : fitted) {
-                if (s.abbrev.size() > 1 && (!longest || s.abbrev.size() > longest->size()))
-                    longest = &s.abbrev;
+        int next = -1;
+        for (const bool typedOnly : {true, false}) {
+            for (const bool abbrevs : {false, true}) {
+                if (next < 0)
+                    next = longest(typedOnly, abbrevs);
             }
         }
-        if (!longest)
+        if (next < 0)
             break;
-        chopOne(*longest);
+        chopOne(field(next));
+        if (!joined.cut.contains(next))
+            joined.cut.append(next);
     }
+    std::sort(joined.cut.begin(), joined.cut.end());
 
     QStringList pieces;
     for (const UDSlot &s : fitted)

@@ -57,11 +57,15 @@ struct JoinedUD
 {
     QString text;
     bool shortened = false; // some text was cut to fit the field
+    // The fields cut, as slot * 2 (abbreviation) or slot * 2 + 1 (description).
+    QList<int> cut;
 };
 // The slots joined for storage: empty abbreviations become "--", tabs and
 // line ends become blanks, and when the whole would outgrow the 255 bytes
-// of its field the longest descriptions (then abbreviations) are shortened
-// until it fits, so the list keeps all its pairs.
-JoinedUD joinUD(const QList<UDSlot> &slots);
+// of its field the longest of the fields that differ from `stored` (the
+// list as it was) are shortened until it fits, descriptions before
+// abbreviations, so the list keeps all its pairs and a field the coach left
+// alone keeps its text. Only when that can't make room are the others cut.
+JoinedUD joinUD(const QList<UDSlot> &slots, const QList<UDSlot> &stored = {});
 
 } // namespace seasondata::preflists

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 
 #include <sqlite3.h>
 
@@ -36,6 +37,17 @@ QString integrityOf(sqlite3 *db)
         result = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 0)));
     sqlite3_finalize(stmt);
     return result;
+}
+
+int pageCountOf(sqlite3 *db)
+{
+    sqlite3_stmt *stmt = nullptr;
+    int pages = -1;
+    if (sqlite3_prepare_v2(db, "PRAGMA page_count", -1, &stmt, nullptr) == SQLITE_OK &&
+        sqlite3_step(stmt) == SQLITE_ROW)
+        pages = sqlite3_column_int(stmt, 0);
+    sqlite3_finalize(stmt);
+    return pages;
 }
 
 // Waits until the file's bytes are on the disk.
@@ -80,7 +92,7 @@ std::unique_ptr<BackupJob> BackupJob::restoreInto(sqlite3 *live, const QString &
 BackupJob::~BackupJob()
 {
     closeWork();
-    if (!m_done && !m_intoLive)
+    if (!m_done && !m_intoLive && m_lock)
         QFile::remove(workFile());
 }
 
@@ -101,8 +113,11 @@ bool BackupJob::fail(int code, const QString &message)
     m_errorCode = code ? code : SQLITE_ERROR;
     m_errorMessage = message;
     closeWork();
-    if (!m_intoLive)
+    // Only the job holding the working name may take its file away.
+    if (!m_intoLive && m_lock) {
         QFile::remove(workFile());
+        m_lock.reset();
+    }
     return false;
 }
 
@@ -120,6 +135,14 @@ bool BackupJob::start()
             return fail(sqlite3_errcode(m_source), QString::fromUtf8(sqlite3_errmsg(m_source)));
         return true;
     }
+    // Two backups into one file would copy into the same working file and
+    // rename whatever stands there over the day's copy: the second waits
+    // its turn. A lock left by a program that died is taken over.
+    auto lock = std::make_unique<QLockFile>(workFile() + QStringLiteral(".lock"));
+    lock->setStaleLockTime(0);
+    if (!lock->tryLock())
+        return fail(SQLITE_BUSY, QStringLiteral("Another backup of this season is being made."));
+    m_lock = std::move(lock);
     QFile::remove(workFile());
     const QByteArray path = workFile().toUtf8();
     int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
@@ -142,8 +165,10 @@ bool BackupJob::step(int pages)
     const int rc = sqlite3_backup_step(m_backup, pages);
     if (rc == SQLITE_OK || rc == SQLITE_BUSY || rc == SQLITE_LOCKED)
         return true; // more to copy, or try again on the next step
-    if (rc == SQLITE_DONE)
+    if (rc == SQLITE_DONE) {
+        m_sourcePages = sqlite3_backup_pagecount(m_backup);
         return false;
+    }
     fail(rc, QString::fromUtf8(sqlite3_errstr(rc)));
     return false;
 }
@@ -179,13 +204,27 @@ bool BackupJob::checkAndPlace()
         return m_done;
     if (!m_dest || m_backup)
         return false;
-    const QString check = integrityOf(m_dest);
-    if (check != u"ok")
-        return fail(SQLITE_CORRUPT, check);
     sqlite3_close_v2(m_dest);
     m_dest = nullptr;
     if (!syncToDisk(workFile()))
         return fail(SQLITE_IOERR, QStringLiteral("The copy couldn't be written to the disk."));
+    // What is judged is the file as it now stands on the disk, opened anew
+    // by its name, not the connection that wrote it.
+    {
+        const QByteArray path = workFile().toUtf8();
+        sqlite3 *check = nullptr;
+        int rc = sqlite3_open_v2(path.constData(), &check, SQLITE_OPEN_READONLY, nullptr);
+        QString verdict = rc == SQLITE_OK ? integrityOf(check) : QString::fromUtf8(sqlite3_errmsg(check));
+        const int pages = rc == SQLITE_OK ? pageCountOf(check) : -1;
+        sqlite3_close_v2(check);
+        if (rc == SQLITE_OK && verdict == u"ok" && (pages != m_sourcePages || pages <= 0)) {
+            rc = SQLITE_CORRUPT;
+            verdict =
+                QStringLiteral("The copy holds %1 pages where the season holds %2.").arg(pages).arg(m_sourcePages);
+        }
+        if (rc != SQLITE_OK || verdict != u"ok")
+            return fail(rc == SQLITE_OK ? SQLITE_CORRUPT : rc, verdict);
+    }
     // Replaces the day's earlier copy in one step; until here it stands.
     std::error_code error;
     std::filesystem::rename(std::filesystem::path(workFile().toStdU16String()),
@@ -193,6 +232,7 @@ bool BackupJob::checkAndPlace()
     if (error)
         return fail(SQLITE_CANTOPEN, QString::fromStdString(error.message()));
     m_done = true;
+    m_lock.reset();
     return true;
 }
 

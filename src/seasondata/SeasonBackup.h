@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QLockFile;
 struct sqlite3;
 struct sqlite3_backup;
 class myDB;
@@ -41,13 +42,18 @@ public:
     BackupJob(const BackupJob &) = delete;
     BackupJob &operator=(const BackupJob &) = delete;
 
-    // Opens the working file. False (see errorCode) when it can't.
+    // Opens the working file. False (see errorCode) when it can't, or when
+    // another backup into the same file is running (SQLITE_BUSY): one
+    // backup at a time per file, in this program or another.
     bool start();
     // Copies up to `pages` pages; true while pages remain.
     bool step(int pages = 256);
     // 0 to 1.
     double progress() const;
-    // After the last step: integrity_check of the copy, then the rename.
+    // After the last step: the copy is closed, synced, opened again by its
+    // name, must pass integrity_check and hold as many pages as the source
+    // had when the copy ended; only then is it renamed into place. A copy
+    // that fails leaves the earlier file of that name as it was.
     bool finish() { return endCopy() && checkAndPlace(); }
     // The two halves of finish(). endCopy lets go of the source connection;
     // checkAndPlace uses only the copy's own, so it may run on another thread.
@@ -70,6 +76,8 @@ private:
     bool m_intoLive = false;   // restoring: m_target is the source file
     sqlite3 *m_dest = nullptr; // the connection this job opened on its file
     sqlite3_backup *m_backup = nullptr;
+    std::unique_ptr<QLockFile> m_lock; // held on the working name while it is ours
+    int m_sourcePages = 0;             // the source's size when the copy ended
     bool m_done = false;
     int m_errorCode = 0;
     QString m_errorMessage;

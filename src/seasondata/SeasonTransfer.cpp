@@ -5,6 +5,7 @@
 #include "app/globals.h"
 #include "app/myDB.h"
 #include "app/myPrefs.h"
+#include "platform/Messages.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -26,6 +27,11 @@ bool checkName(const QString &name)
         gMsgBox(kNoName);
         return false;
     }
+    if (name.toUtf8().size() > myPrefs::kMaxSeasonNameBytes) {
+        gShowMsgDlog(QStringLiteral("The season's name is too long to name a file."),
+                     QStringLiteral("Please choose a shorter name for the new season."), QStringLiteral("OK"));
+        return false;
+    }
     if (!myPrefs::isUsableSeasonName(name)) {
         gShowMsgDlog(QStringLiteral("A season's name can't hold a slash, a backslash or a control character."),
                      QStringLiteral("Please choose another name for the new season."), QStringLiteral("OK"));
@@ -40,6 +46,11 @@ void becomeCurrent(const QString &name)
     gPrefs->prefsDirty = true;
     if (App *app = App::instance())
         app->reopenSeason();
+}
+
+QString seasonFileOf(const QString &name)
+{
+    return QDir(gPrefs->strdDataLoc).filePath(myDB::getCurDBFileName(name));
 }
 
 void run(SQLite::Database &db, const char *sql, qint64 id)
@@ -68,6 +79,12 @@ QString SeasonTransfer::partFileName(const QString &seasonFile)
 bool SeasonTransfer::createNewDB(const QString &name)
 {
     if (!gPrefs || !checkName(name))
+        return false;
+    // The coach meant a new season: one of that name is only opened on his word.
+    if (name != gPrefs->prSeason && QFileInfo::exists(seasonFileOf(name)) &&
+        gShowMsgDlog(QStringLiteral("The season ") + name + QStringLiteral(" exists already."),
+                     QStringLiteral("Open it as it is? No new season is made."),
+                     QStringLiteral("Open")) != platform::MsgAction)
         return false;
     becomeCurrent(name);
     return true;
@@ -98,13 +115,19 @@ bool SeasonTransfer::doTransfer(const QString &name, const QStringList &teamIDs,
     }
 
     const QString target = folder.filePath(myDB::getCurDBFileName(name));
-    const bool existed = QFileInfo::exists(target);
+    // Rows copied into a season that has its own would meet ids it already
+    // uses: players would land on another team. Refused before any write.
+    if (QFileInfo::exists(target)) {
+        gShowMsgDlog(QStringLiteral("The season ") + name + QStringLiteral(" exists already."),
+                     QStringLiteral("Nothing was copied into it. Please provide another name for the new season."),
+                     QStringLiteral("OK"));
+        return false;
+    }
     // A new season is built under a working name and renamed into place
     // when complete, so a failure or a crash never leaves half a season
     // that the season popup would offer.
-    const QString work = existed ? target : partFileName(target);
-    if (!existed)
-        QFile::remove(work);
+    const QString work = partFileName(target);
+    QFile::remove(work);
 
     std::unique_ptr<SQLite::Database> db;
     try {
@@ -117,36 +140,24 @@ bool SeasonTransfer::doTransfer(const QString &name, const QStringList &teamIDs,
         attach.exec();
     } catch (const SQLite::Exception &) {
         db.reset();
-        if (!existed)
-            QFile::remove(work);
+        QFile::remove(work);
         gMsgBox(QStringLiteral("Unable to connect to the selected database"));
         return false;
     }
 
     try {
-        SQLite::Transaction transaction(*db);
-        if (!existed) {
-            for (const QString &statement : schema::createStatements())
-                db->exec(statement.toStdString());
-        }
-        // Into a season that exists already only the rows whose ids are
-        // still free go in; the rows it holds are kept.
+        SQLite::Transaction transaction(*db, SQLite::TransactionBehavior::IMMEDIATE);
+        for (const QString &statement : schema::createStatements())
+            db->exec(statement.toStdString());
         for (const QString &id : teamIDs) {
             const qint64 team = id.toLongLong();
-            if (existed) {
-                run(*db, "INSERT OR IGNORE INTO Teams SELECT * FROM attachDB.Teams WHERE teamID = ?", team);
-                run(*db, "INSERT OR IGNORE INTO Players SELECT * FROM attachDB.Players WHERE TeamNum = ?", team);
-                run(*db, "INSERT OR IGNORE INTO Coaches SELECT * FROM attachDB.Coaches WHERE TeamNum = ?", team);
-            } else {
-                run(*db, "INSERT INTO Teams SELECT * FROM attachDB.Teams WHERE teamID = ?", team);
-                run(*db, "INSERT INTO Players SELECT * FROM attachDB.Players WHERE TeamNum = ?", team);
-                run(*db, "INSERT INTO Coaches SELECT * FROM attachDB.Coaches WHERE TeamNum = ?", team);
-            }
+            run(*db, "INSERT INTO Teams SELECT * FROM attachDB.Teams WHERE teamID = ?", team);
+            run(*db, "INSERT INTO Players SELECT * FROM attachDB.Players WHERE TeamNum = ?", team);
+            run(*db, "INSERT INTO Coaches SELECT * FROM attachDB.Coaches WHERE TeamNum = ?", team);
         }
         // The whole team inventory goes, also that of teams left behind.
         if (withInventory)
-            db->exec(existed ? "INSERT OR IGNORE INTO TeamInventory SELECT * FROM attachDB.TeamInventory"
-                             : "INSERT INTO TeamInventory SELECT * FROM attachDB.TeamInventory");
+            db->exec("INSERT INTO TeamInventory SELECT * FROM attachDB.TeamInventory");
         transaction.commit();
         db->exec("DETACH DATABASE attachDB");
         db.reset();
@@ -154,13 +165,12 @@ bool SeasonTransfer::doTransfer(const QString &name, const QStringList &teamIDs,
         const int code = e.getErrorCode();
         const QString message = QString::fromUtf8(e.what());
         db.reset();
-        if (!existed)
-            QFile::remove(work);
+        QFile::remove(work);
         gMsgBox(QStringLiteral("Database Error: ") + QString::number(code) + u'\n' + message);
         return false;
     }
 
-    if (!existed && !QFile::rename(work, target)) {
+    if (!QFile::rename(work, target)) {
         QFile::remove(work);
         gMsgBox(QStringLiteral("Database Error\nThere was an error when creating the database at <") +
                 QDir::toNativeSeparators(target) + u'>');

@@ -1,5 +1,7 @@
 #include "support/StackCleaner.h"
 
+#include <cstring>
+
 #include <QList>
 #include <QRegularExpression>
 
@@ -104,14 +106,15 @@ QString CleanMangledFunction(const QString &frame)
 {
     // The program's start-up: the entry point and the event loop that
     // every stack passes through tell the reader nothing.
+    // They go by name, whatever parameter codes the platform gave them.
     static const QStringList startUp = {
         QStringLiteral("_NewAppInstance"),
         QStringLiteral("_Main"),
-        QStringLiteral("% main"),
-        QStringLiteral("QCoreApplication.exec%i4%"),
-        QStringLiteral("TallylineApplication.notify%b%o<QObject>o<QEvent>"),
+        QStringLiteral("main"),
+        QStringLiteral("QCoreApplication.exec"),
+        QStringLiteral("TallylineApplication.notify"),
     };
-    if (startUp.contains(frame))
+    if (frame == u"% main" || startUp.contains(frame.section(u'%', 0, 0)))
         return {};
     const QStringList fields = frame.split(u'%');
     if (fields.size() < 3)
@@ -299,6 +302,7 @@ QStringList framesOf(void *const *addresses, int count, int skip)
 // Raw addresses only while throwing: naming them is left for the report.
 thread_local void *t_throwStack[64];
 thread_local int t_throwDepth = 0;
+thread_local const void *t_thrownObject = nullptr;
 
 } // namespace
 
@@ -309,15 +313,33 @@ QStringList currentFrames()
     return framesOf(addresses, count, 1);
 }
 
-void recordThrow()
+void recordThrow(const void *exception)
 {
     t_throwDepth = backtrace(t_throwStack, 64);
+    t_thrownObject = exception;
 }
 
 QStringList framesOfLastThrow()
 {
     // Without this function's caller in the throw trace and recordThrow.
     return framesOf(t_throwStack, t_throwDepth, 2);
+}
+
+QStringList framesOfThrow(const std::exception_ptr &error)
+{
+#if defined(__GLIBCXX__)
+    // An exception_ptr of the GNU library holds the thrown object's address,
+    // the one its throw was noted with.
+    static_assert(sizeof(std::exception_ptr) == sizeof(void *));
+    const void *object = nullptr;
+    std::memcpy(&object, &error, sizeof object);
+    if (!error || !object || object != t_thrownObject)
+        return {};
+    return framesOfLastThrow();
+#else
+    Q_UNUSED(error);
+    return {};
+#endif
 }
 
 } // namespace StackCleaner

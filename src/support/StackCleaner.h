@@ -31,12 +31,16 @@ QString frameFromSymbol(const QString &symbol);
 // function itself.
 QStringList currentFrames();
 
-// Notes the stack of an exception being thrown; called on every throw when
-// the program is linked with the throw trace (support/ThrowTrace.cpp).
-void recordThrow();
+// Notes the stack of `exception` (the thrown object) being thrown; called on
+// every throw when the program is linked with the throw trace
+// (support/ThrowTrace.cpp).
+void recordThrow(const void *exception = nullptr);
 // The stack where the last exception on this thread was thrown, in the
 // frame form; empty when throws aren't traced.
 QStringList framesOfLastThrow();
+// The stack where `error` was thrown, in the frame form; empty when that
+// isn't known (throws not traced, or the last throw noted was another).
+QStringList framesOfThrow(const std::exception_ptr &error);
 
 } // namespace StackCleaner
 

@@ -1,19 +1,38 @@
-// Notes the stack of every exception that this program throws, so that the
+// Notes the stack of every exception thrown in the process, so that the
 // error report can say where an error began and not only where it was
-// caught. The linker sends every throw here first (--wrap=__cxa_throw).
+// caught. The program defines __cxa_throw itself: the dynamic linker then
+// sends every throw here, also those inside the C++ library (vector::at,
+// stoi, bad_alloc) and Qt, which a link-time wrap would miss. The library's
+// own __cxa_throw does the throwing.
 
 #include "support/StackCleaner.h"
 
-#include <typeinfo>
+#include <dlfcn.h>
+
+#include <cstdlib>
+
+namespace {
+
+// The type is passed on untouched, so it is declared as the compiler itself
+// declares this function: with a plain pointer.
+using ThrowFunction = void (*)(void *, void *, void (*)(void *));
+
+ThrowFunction libraryThrow()
+{
+    static const auto next = reinterpret_cast<ThrowFunction>(dlsym(RTLD_NEXT, "__cxa_throw"));
+    return next;
+}
+
+} // namespace
 
 extern "C" {
 
-[[noreturn]] void __real___cxa_throw(void *exception, std::type_info *type, void (*destroy)(void *));
-
-[[noreturn]] void __wrap___cxa_throw(void *exception, std::type_info *type, void (*destroy)(void *))
+[[noreturn]] void __cxa_throw(void *exception, void *type, void (*destroy)(void *))
 {
-    StackCleaner::recordThrow();
-    __real___cxa_throw(exception, type, destroy);
+    StackCleaner::recordThrow(exception);
+    if (ThrowFunction next = libraryThrow())
+        next(exception, type, destroy);
+    std::abort(); // no C++ runtime to throw with: nothing sensible remains
 }
 
 } // extern "C"

@@ -307,6 +307,68 @@ private Q_SLOTS:
         }
     }
 
+    // A write step asks for the write lock first, so another program's
+    // write is waited out (the busy timeout) instead of failing at once.
+    void writeStepWaitsForAnotherWriter()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        myDB db(dir.path(), QStringLiteral("2026"));
+        std::atomic<bool> held = false;
+        std::thread holder([&, path = db.filePath().toStdString()] {
+            SQLite::Database other(path, SQLite::OPEN_READWRITE);
+            other.exec("BEGIN IMMEDIATE");
+            other.exec("INSERT INTO Teams (TeamName) VALUES ('Hawks')");
+            held = true;
+            std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+            other.exec("COMMIT");
+        });
+        while (!held)
+            std::this_thread::yield();
+        const bool ok = db.runInTransaction([&] {
+            const int before = db.scalar(QStringLiteral("SELECT COUNT(*) FROM Teams")).toInt();
+            db.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QString::number(before)}});
+        });
+        holder.join();
+        QVERIFY(ok);
+        QCOMPARE(fake.messages.texts(), QStringList());
+        QCOMPARE(db.scalar(QStringLiteral("SELECT group_concat(TeamName, ',') FROM Teams")).toString(),
+                 QStringLiteral("Hawks,1"));
+    }
+
+    // Held by another program past the busy timeout: in use, not damaged;
+    // the coach can try again.
+    void heldPastTheTimeoutIsInUse()
+    {
+        fakes::FakePlatform fake;
+        fake.messages.strict = true;
+        QTemporaryDir dir;
+        const QString path = QDir(dir.path()).filePath(myDB::getCurDBFileName(QStringLiteral("2026")));
+        {
+            myDB made(dir.path(), QStringLiteral("2026"));
+            made.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Hawks")}});
+        }
+        std::atomic<bool> held = false;
+        std::thread holder([&] {
+            SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
+            other.exec("BEGIN EXCLUSIVE");
+            held = true;
+            std::this_thread::sleep_for(std::chrono::milliseconds(6500));
+            other.exec("COMMIT");
+        });
+        while (!held)
+            std::this_thread::yield();
+        fake.messages.answers.enqueue(platform::MsgAction);
+        myDB db(dir.path(), QStringLiteral("2026"));
+        holder.join();
+        QCOMPARE(fake.messages.texts(),
+                 QStringList{QStringLiteral("The season file \"") + QDir::toNativeSeparators(path) +
+                             QStringLiteral("\" is in use by another program.")});
+        QCOMPARE(fake.messages.shown.first().actionCaption, QStringLiteral("Try Again"));
+        QVERIFY(db.isConnected());
+        QCOMPARE(db.scalar(QStringLiteral("SELECT TeamName FROM Teams")).toString(), QStringLiteral("Hawks"));
+    }
+
     void cleanUpCompacts()
     {
         fakes::FakePlatform fake;

@@ -213,6 +213,8 @@ private Q_SLOTS:
         QTest::newRow("line end") << QStringLiteral("2026\n") << true;
         QTest::newRow("slash") << QStringLiteral("2026/Fall") << true;
         QTest::newRow("backslash") << QStringLiteral("..\\2026") << true;
+        QTest::newRow("too long for a file's name") << QString(101, QChar(0xE9)) << true;
+        QTest::newRow("the longest that names a file") << QString(100, QChar(0xE9)) << false;
         QTest::newRow("blanks, quotes and accents stay") << QStringLiteral("Fall '26 Légion") << false;
     }
     void seasonThatCannotNameAFile()

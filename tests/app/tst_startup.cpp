@@ -5,6 +5,7 @@
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/myDictionaries.h"
+#include "app/myPrefs.h"
 #include "app/ui/AboutScrn.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenBase.h"
@@ -15,6 +16,7 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/TestKit.h"
 #include "platform/qt/QtServices.h"
+#include "support/StackCleaner.h"
 
 #include <QAction>
 #include <QApplication>
@@ -26,9 +28,17 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+#include <vector>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 // Throws from its first custom event, as a faulty handler would.
 class Thrower : public QObject
@@ -41,6 +51,20 @@ public:
             return QObject::event(e);
         if (++events == 1)
             throw std::runtime_error("the scorer dropped the pencil");
+        return true;
+    }
+};
+
+// Throws from inside the C++ library (vector::at) in its custom event.
+class LibraryThrower : public QObject
+{
+public:
+    __attribute__((noinline)) bool event(QEvent *e) override
+    {
+        if (e->type() != QEvent::User)
+            return QObject::event(e);
+        static volatile int sink = 0;
+        sink = std::vector<int>(2).at(std::size_t(e->type()));
         return true;
     }
 };
@@ -168,6 +192,8 @@ private Q_SLOTS:
         QVERIFY(!start->menuBar()->item(QStringLiteral("FilePrint"))->isEnabled());
         QVERIFY(start->menuBar()->item(QStringLiteral("HelpAbout"))->isEnabled());
         QVERIFY(!start->menuBar()->item(QStringLiteral("FileBackup"))->isEnabled());
+        // A build that knows no update address leaves the check out.
+        QVERIFY(!start->menuBar()->item(QStringLiteral("HelpUpdateCheck"))->isVisible());
 
         // A home team that is gone leaves the label empty.
         gData->exec(QStringLiteral("DELETE FROM Teams"));
@@ -359,6 +385,57 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(&thrower, &poke);
         QCOMPARE(thrower.events, 2);
         QCOMPARE(fake.messages.shown.size(), 1);
+    }
+
+    // The report names the handler a library error came from, without the
+    // event loop's own frames and never the place of an earlier error.
+    void libraryErrorInAHandlerIsPlaced()
+    {
+        fakes::FakePlatform fake;
+        QStringList lines;
+        TallylineApplication::setUnhandledHandler([&lines](const std::exception_ptr &error) {
+            lines = StackCleaner::CleanStack(StackCleaner::framesOfThrow(error));
+        });
+        const auto reset = qScopeGuard([] { TallylineApplication::setUnhandledHandler(nullptr); });
+        Thrower earlier;
+        QEvent poke(QEvent::User);
+        QCoreApplication::sendEvent(&earlier, &poke);
+        LibraryThrower thrower;
+        QCoreApplication::sendEvent(&thrower, &poke);
+        QVERIFY2(lines.filter(QStringLiteral("LibraryThrower.event")).size() == 1, qPrintable(lines.join(u'\n')));
+        QVERIFY2(lines.filter(QStringLiteral(" Thrower.event")).isEmpty(), qPrintable(lines.join(u'\n')));
+        QVERIFY2(lines.filter(QStringLiteral("notify")).filter(QStringLiteral("Tallyline")).isEmpty(),
+                 qPrintable(lines.join(u'\n')));
+    }
+
+    // A data folder where no lock can be made is named as such: no other
+    // copy of the program is running.
+    void readOnlyDataFolderIsNotAnotherCopy()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home;
+        const QString folder = myPrefs::dataFolderFor(home.path());
+        QVERIFY(QDir().mkpath(folder));
+        const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
+        int flags = 0;
+        const bool immutable = fd >= 0 && ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0 &&
+                               ::ioctl(fd, FS_IOC_SETFLAGS, &(flags |= FS_IMMUTABLE_FL)) == 0;
+        const auto undo = qScopeGuard([&] {
+            if (immutable) {
+                flags &= ~FS_IMMUTABLE_FL;
+                ::ioctl(fd, FS_IOC_SETFLAGS, &flags);
+            }
+            if (fd >= 0)
+                ::close(fd);
+        });
+        if (!immutable)
+            QSKIP("this file system can't make a folder read-only for the test's user");
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::AlreadyRunning);
+        QCOMPARE(fake.messages.texts(),
+                 QStringList{QStringLiteral("Tallyline Baseball can't write in its data folder \"") +
+                             QDir::toNativeSeparators(folder) +
+                             QStringLiteral("\" (is it on a read-only disk?), so it can't start.")});
     }
 
     // The real dialog: Escape answers "cancel" (1), the buttons answer 0 and 2.

@@ -1,5 +1,7 @@
 #include "fakes/FakePlatform.h"
 
+#include <utility>
+
 #include <QSaveFile>
 #include <QTimer>
 
@@ -31,6 +33,8 @@ std::uint8_t FakeMessages::showMsgDlog(const QString &message, const QString &ex
                                        const QString &altCaption)
 {
     shown.append({message, explanation, actionCaption, altCaption, false});
+    if (whileShown)
+        std::exchange(whileShown, {})();
     // A notice has one way on ("OK", "Continue") besides Cancel; anything
     // else asks the coach to choose.
     const bool question = !altCaption.isEmpty() ||

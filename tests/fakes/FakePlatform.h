@@ -10,6 +10,8 @@
 #include <QQueue>
 #include <QStringList>
 
+#include <functional>
+
 namespace fakes {
 
 struct ShownMessage
@@ -36,6 +38,9 @@ public:
     // still queued when the fake goes. Notices answer `defaultAnswer`.
     bool strict = false;
     QList<ShownMessage> shown;
+    // Runs while a message dialog is up, as the coach or a screen reader
+    // could act on the windows beneath a real one; cleared before it runs.
+    std::function<void()> whileShown;
 
     std::uint8_t showMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
                              const QString &altCaption) override;

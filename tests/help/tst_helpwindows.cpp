@@ -4,7 +4,9 @@
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenDirectory.h"
 #include "app/ui/TallylineApplication.h"
+#include "app/ui/startScrn1.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/TestSupport.h"
 #include "help/Abbreviations.h"
@@ -20,8 +22,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
+#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QtTest>
@@ -268,6 +273,37 @@ private Q_SLOTS:
         QVERIFY(!screen.printBtn->isEnabled());
         screen.menus()->item(QStringLiteral("FilePrint"))->trigger(); // the menu entry stays on: nothing prints
         QCOMPARE(s.fake.printing.printDialogs, 0);
+    }
+
+    // From any screen's menu, the abbreviations window opened again comes
+    // forward over the screen it was asked from.
+    void abbreviationsComeForward_data()
+    {
+        QTest::addColumn<bool>("fromStart");
+        QTest::newRow("the start screen's menu") << true;
+        QTest::newRow("another screen's menu") << false;
+    }
+    void abbreviationsComeForward()
+    {
+        QFETCH(bool, fromStart);
+        Session s;
+        screens::registerScreen(ScreenId::HelpAbbrevScrn, [] { return HelpAbbrevScrn::instance(); });
+        const auto unregister = qScopeGuard([] { screens::unregisterScreen(ScreenId::HelpAbbrevScrn); });
+        QPointer<QMainWindow> screen = fromStart ? static_cast<QMainWindow *>(startScrn1::showStartScreen())
+                                                 : static_cast<QMainWindow *>(new formsScrn);
+        screen->show();
+        auto *menus = qobject_cast<MainMenuBar *>(screen->menuBar());
+        QVERIFY(menus);
+        QPointer<HelpAbbrevScrn> window = HelpAbbrevScrn::instance();
+        for (int time = 0; time < 2; ++time) {
+            screen->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(screen));
+            menus->item(QStringLiteral("Abbrev"))->trigger();
+            QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(window.data()));
+        }
+        delete window;
+        screen->close();
+        delete screen;
     }
 
     // The search runs when typing pauses, not at each key.

@@ -6,9 +6,14 @@
 #include "seasondata/SeasonTransfer.h"
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 
 #include <QFileInfo>
 #include <QTest>
+
+#include <atomic>
+#include <chrono>
+#include <thread>
 
 using namespace seasondata;
 
@@ -73,6 +78,101 @@ private Q_SLOTS:
         QCOMPARE(integrity(target), QStringLiteral("ok"));
         QCOMPARE(rows(target, "Players"), f.count(QStringLiteral("Players")));
         QVERIFY(!QFileInfo::exists(job.workFile()));
+    }
+
+    // A copy that fails its check, and a second backup into a file that
+    // one is being made into, leave the day's earlier copy as it was.
+    void earlierCopyStandsUnlessTheNewOneIsSound_data()
+    {
+        QTest::addColumn<QString>("trouble");
+        QTest::newRow("copy emptied before its check") << "emptied";
+        QTest::newRow("copy cut short before its check") << "cut";
+        QTest::newRow("a second backup while one runs") << "twice";
+    }
+    void earlierCopyStandsUnlessTheNewOneIsSound()
+    {
+        QFETCH(QString, trouble);
+        SeasonFixture f;
+        f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
+        const QString target = f.home.filePath(QStringLiteral("copy.sqlite"));
+        QVERIFY(BackupJob(gData->tlynData->getHandle(), target).runToEnd());
+        QFile earlier(target);
+        QVERIFY(earlier.open(QIODevice::ReadOnly));
+        const QByteArray before = earlier.readAll();
+        earlier.close();
+        f.addTeam(QStringLiteral("Central"), QStringLiteral("Cubs"));
+
+        BackupJob job(gData->tlynData->getHandle(), target);
+        QVERIFY(job.start());
+        while (job.step()) {}
+        QVERIFY(job.endCopy());
+        if (trouble == u"twice") {
+            BackupJob second(gData->tlynData->getHandle(), target);
+            QVERIFY(!second.start());
+            QCOMPARE(second.errorCode(), 5); // busy: one backup at a time
+            QVERIFY(QFileInfo::exists(job.workFile()));
+            QVERIFY(job.checkAndPlace());
+            QCOMPARE(rows(target, "Teams"), 2);
+            return;
+        }
+        // What another program (or a second copy into the same file) could
+        // do to the working file between the copy and its check.
+        QFile work(job.workFile());
+        QVERIFY(work.open(QIODevice::ReadWrite));
+        QVERIFY(work.resize(trouble == u"emptied" ? 0 : work.size() / 2));
+        work.close();
+        QVERIFY(!job.checkAndPlace());
+        QVERIFY(job.errorCode() != 0);
+        QVERIFY(earlier.open(QIODevice::ReadOnly));
+        QCOMPARE(earlier.readAll(), before);
+        QVERIFY(!QFileInfo::exists(job.workFile()));
+    }
+
+    // Many backups while another connection keeps committing: each one is a
+    // whole, sound database, never an empty file.
+    void backupsWhileAnotherConnectionWrites()
+    {
+        SeasonFixture f;
+        f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
+        std::atomic<bool> stop = false;
+        std::atomic<int> commits = 0;
+        std::thread writer([&, file = gData->filePath().toStdString()] {
+            const std::string blob(300, 'w');
+            // Its own connection, as another program has; commits unsynced,
+            // so that many fall between the backups.
+            SQLite::Database other(file, SQLite::OPEN_READWRITE);
+            other.setBusyTimeout(5000);
+            other.exec("PRAGMA synchronous=OFF");
+            while (!stop) {
+                try {
+                    SQLite::Statement insert(other, "INSERT INTO Coaches (Last) VALUES (?)");
+                    insert.bind(1, blob);
+                    insert.exec();
+                    ++commits;
+                    if (commits % 20 == 0)
+                        other.exec("DELETE FROM Coaches WHERE rowid % 3 = 0");
+                } catch (const SQLite::Exception &) {
+                    // A backup holding its read lock past the timeout: try again.
+                }
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            }
+        });
+        const QString target = f.home.filePath(QStringLiteral("soak.sqlite"));
+        for (int i = 0; i < 200; ++i) {
+            BackupJob job(gData->tlynData->getHandle(), target);
+            QVERIFY2(job.runToEnd(), qPrintable(job.errorMessage()));
+            SQLite::Database copy(target.toStdString(), SQLite::OPEN_READONLY);
+            const int pages = copy.execAndGet("PRAGMA page_count").getInt();
+            const int pageSize = copy.execAndGet("PRAGMA page_size").getInt();
+            QVERIFY(pages > 0);
+            QCOMPARE(QFileInfo(target).size(), qint64(pages) * pageSize);
+            QCOMPARE(QString::fromStdString(copy.execAndGet("PRAGMA integrity_check").getString()),
+                     QStringLiteral("ok"));
+            QCOMPARE(copy.execAndGet("SELECT COUNT(*) FROM Teams").getInt(), 1);
+        }
+        stop = true;
+        writer.join();
+        QVERIFY2(commits > 50, "the writer must have written between the backups");
     }
 
     void oneCopyPerSeasonAndDay()

@@ -3,6 +3,7 @@
 // restore, the preference screen saved and read back from the file, and the
 // user-defined names at the next start.
 
+#include "Screens.h"
 #include "SeasonFixture.h"
 #include "app/myDictionaries.h"
 #include "app/ui/MainMenuBar.h"
@@ -19,6 +20,7 @@
 #include "support/ui/qlmCheckBox.h"
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 
 #include <QAccessible>
 #include <QAction>
@@ -42,7 +44,7 @@ struct Session : SeasonFixture
     QPointer<startScrn1> start;
     Session()
     {
-        backUpDlog::connectTimer(app->BUTimer);
+        connectProgram(*app);
         start = startScrn1::showStartScreen();
     }
     ~Session() { closeAll(); }
@@ -196,23 +198,88 @@ private Q_SLOTS:
         QCOMPARE(f.start->SelectSeasonPop->currentText(), QStringLiteral("2027"));
     }
 
+    void emptySeasonSheet_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("before"); // "" , "exists": the season has a file, "damaged": the open one is
+        QTest::addColumn<int>("answer");     // to "exists already", -1 none asked
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("made");
+
+        QTest::newRow("a new name") << "Fall Ball"
+                                    << "" << -1 << "" << true;
+        QTest::newRow("a new name, leaving a damaged season") << "Fall Ball"
+                                                              << "damaged" << -1 << "" << true;
+        QTest::newRow("an existing season, opened on the coach's word")
+            << "Fall Ball"
+            << "exists" << int(platform::MsgAction) << "The season Fall Ball exists already." << true;
+        QTest::newRow("an existing season, the coach declines")
+            << "Fall Ball"
+            << "exists" << int(platform::MsgCancel) << "The season Fall Ball exists already." << false;
+        QTest::newRow("a name too long to name a file")
+            << QString(240, u'x') << "" << -1 << "The season's name is too long to name a file." << false;
+    }
     void emptySeasonSheet()
     {
+        QFETCH(QString, name);
+        QFETCH(QString, before);
+        QFETCH(int, answer);
+        QFETCH(QString, message);
+        QFETCH(bool, made);
+
+        // Only so that the start screen shows whether it would open.
+        screens::registerScreen(ScreenId::teamScrn, [] { return new QWidget; });
         Session f;
+        f.fake.messages.strict = true;
+        const QString first = gPrefs->prSeason;
+        if (before == u"exists") {
+            myDB other(f.dataFolder(), name);
+            other.insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Rivals")}});
+        }
+        if (before == u"damaged") {
+            QFile junk(f.seasonFile(QStringLiteral("Broken")));
+            QVERIFY(junk.open(QIODevice::WriteOnly));
+            junk.write(QByteArray("SQLite format 3") + QByteArray(4096, '\x5a'));
+            junk.close();
+            f.start->setPopupList();
+            f.start->SelectSeasonPop->setCurrentIndex(f.start->SelectSeasonPop->findText(QStringLiteral("Broken")));
+            QVERIFY(f.start->seasonProblemLabel->isVisibleTo(f.start));
+            QVERIFY(!f.start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"))->isEnabled());
+            f.fake.messages.clear();
+        }
+        const QString previous = gPrefs->prSeason;
         QTest::mouseClick(f.start->findChild<QPushButton *>(QStringLiteral("newSeasonBtn")), Qt::LeftButton);
         QPointer<TransferDataScrn> sheet = f.start->findChild<TransferDataScrn *>();
         QVERIFY(sheet);
+        if (before.isEmpty() && made) {
+            QTest::mouseClick(sheet->createBtn, Qt::LeftButton);
+            QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Please provide a name for the new season.")});
+            QVERIFY(sheet->isVisible());
+            f.fake.messages.clear();
+        }
+        testkit::typeInto(sheet->newNameFld, name);
+        if (answer >= 0)
+            f.fake.messages.answers.enqueue(std::uint8_t(answer));
         QTest::mouseClick(sheet->createBtn, Qt::LeftButton);
-        QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Please provide a name for the new season.")});
-        QVERIFY(sheet->isVisible());
-        testkit::typeInto(sheet->newNameFld, QStringLiteral("Fall Ball"));
-        QTest::mouseClick(sheet->createBtn, Qt::LeftButton);
+        QCOMPARE(f.fake.messages.texts(), message.isEmpty() ? QStringList() : QStringList{message});
+        if (!made) {
+            QVERIFY(sheet->isVisible());
+            QCOMPARE(gPrefs->prSeason, previous);
+            sheet->close();
+            f.restart();
+            QCOMPARE(gPrefs->prSeason, first);
+            return;
+        }
         QTRY_VERIFY(!sheet);
-        QCOMPARE(gPrefs->prSeason, QStringLiteral("Fall Ball"));
-        QVERIFY(QFileInfo::exists(f.seasonFile(QStringLiteral("Fall Ball"))));
-        QCOMPARE(f.start->SelectSeasonPop->currentText(), QStringLiteral("Fall Ball"));
+        QCOMPARE(gPrefs->prSeason, name);
+        QVERIFY(QFileInfo::exists(f.seasonFile(name)));
+        QCOMPARE(f.start->SelectSeasonPop->currentText(), name);
+        // The start screen shows the season now open, whatever it showed before.
+        QVERIFY(!f.start->seasonProblemLabel->isVisibleTo(f.start));
+        QVERIFY(f.start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"))->isEnabled());
+        QCOMPARE(f.count(QStringLiteral("Teams")), before == u"exists" ? 1 : 0);
         f.restart();
-        QCOMPARE(gPrefs->prSeason, QStringLiteral("Fall Ball"));
+        QCOMPARE(gPrefs->prSeason, name);
     }
 
     void backupDialog_data()
@@ -223,19 +290,23 @@ private Q_SLOTS:
         QTest::addColumn<QString>("detail");
         QTest::addColumn<bool>("copied");
         QTest::addColumn<bool>("compacted");
+        QTest::addColumn<bool>("held"); // another program reads the season meanwhile
 
         QTest::newRow("a backup") << "drive" << 0 << "Backup was successful"
-                                  << "" << true << false;
+                                  << "" << true << false << false;
         QTest::newRow("compaction not yet due at 14 days") << "drive" << 14 << "Backup was successful"
-                                                           << "" << true << false;
+                                                           << "" << true << false << false;
         QTest::newRow("compaction due after 14 days") << "drive" << 15 << "Backup was successful"
-                                                      << "" << true << true;
+                                                      << "" << true << true << false;
+        QTest::newRow("compaction fails: still due")
+            << "drive" << 15 << "The backup was made, but the database could not be cleaned up."
+            << "It is tried again after the next backup. database is locked" << true << false << true;
         QTest::newRow("backup drive removed") << "removed" << 0 << "Destination not found"
-                                              << "Set in the Preferences screen." << false << false;
+                                              << "Set in the Preferences screen." << false << false << false;
         QTest::newRow("no location, the coach picks one") << "ask" << 0 << "Backup was successful"
-                                                          << "" << true << false;
+                                                          << "" << true << false << false;
         QTest::newRow("no location, the coach cancels") << "none" << 0 << ""
-                                                        << "" << false << false;
+                                                        << "" << false << false << false;
     }
 
     void backupDialog()
@@ -246,9 +317,19 @@ private Q_SLOTS:
         QFETCH(QString, detail);
         QFETCH(bool, copied);
         QFETCH(bool, compacted);
+        QFETCH(bool, held);
 
         Session f;
         f.leaveFreePages();
+        // A reader in another program: the copy can go on, the compaction can't.
+        std::unique_ptr<SQLite::Database> reader;
+        std::unique_ptr<SQLite::Statement> reading;
+        if (held) {
+            reader = std::make_unique<SQLite::Database>(gData->filePath().toStdString(), SQLite::OPEN_READONLY);
+            reader->exec("BEGIN");
+            reading = std::make_unique<SQLite::Statement>(*reader, "SELECT COUNT(*) FROM Teams");
+            QVERIFY(reading->executeStep());
+        }
         const QString drive = f.chosenDrive();
         if (location == u"drive")
             gPrefs->prDataBackupLoc = createGSI(drive);
@@ -277,6 +358,8 @@ private Q_SLOTS:
         if (compacted)
             QTRY_COMPARE(dialog->statusLbl->text(), QStringLiteral("Cleaning up the database..."));
         QTRY_VERIFY_WITH_TIMEOUT(dialog->CloseBtn->isVisible(), 10000);
+        reading.reset();
+        reader.reset();
         QCOMPARE(dialog->statusLbl->text(), status);
         QCOMPARE(dialog->detailLbl->text(), detail);
         QVERIFY(dialog->CloseBtn->isVisible());
@@ -293,6 +376,16 @@ private Q_SLOTS:
             QCOMPARE(seasondata::isSoundSeasonFile(copy), true);
     }
 
+    static int backupWindows()
+    {
+        int n = 0;
+        for (QWidget *w : QApplication::topLevelWidgets())
+            n += w->objectName() == u"backUpDlog" && w->isVisible();
+        return n;
+    }
+
+    // The program's own wiring: one window per due tick, and none while
+    // one is still up.
     void timerOpensTheBackup()
     {
         Session f;
@@ -300,13 +393,20 @@ private Q_SLOTS:
         gPrefs->prBackupFreq = 5;
         for (int minute = 1; minute < 5; ++minute)
             f.app->BUTimer->Event_Action();
-        QVERIFY(!Session::window<backUpDlog>(QStringLiteral("backUpDlog")));
+        QCOMPARE(backupWindows(), 0);
         f.app->BUTimer->Event_Action();
+        QCOMPARE(backupWindows(), 1);
         QPointer<backUpDlog> dialog = Session::window<backUpDlog>(QStringLiteral("backUpDlog"));
-        QVERIFY(dialog);
         QTRY_COMPARE(dialog->statusLbl->text(), QStringLiteral("Backup was successful"));
+        for (int minute = 0; minute < 5; ++minute)
+            f.app->BUTimer->Event_Action();
+        QCOMPARE(backupWindows(), 1);
         QTRY_COMPARE(dialog->detailLbl->text(), QStringLiteral("Closing in 5 secs."));
         QTRY_VERIFY_WITH_TIMEOUT(!dialog, 8000);
+        const QString copy = f.chosenDrive() + QStringLiteral("/TLYN2_backup/") +
+                             seasondata::dateFolderName(f.fake.clock.time.date()) + u'/' +
+                             myDB::getCurDBFileName(gPrefs->prSeason);
+        QVERIFY(seasondata::isSoundSeasonFile(copy));
     }
 
     void restoreByMenu_data()
@@ -590,6 +690,64 @@ private Q_SLOTS:
         for (int i = 0; i < keys.size(); ++i)
             QCOMPARE(hitD.value(keys.at(i)), indexes.at(i));
         QVERIFY(!hitD.hasKey(QStringLiteral("CS")));
+    }
+
+    // Names typed too long are shortened alone, and the message names them;
+    // Save pressed again while it is up (a screen reader can) changes nothing.
+    void overlongNamesAreCutAlone_data()
+    {
+        QTest::addColumn<QString>("pressed"); // the Save pressed while the message is up
+        QTest::newRow("nothing pressed") << "";
+        QTest::newRow("the sheet's Save again") << "saveBtn";
+        QTest::newRow("the preference screen's Save") << "prefsavebutton";
+    }
+    void overlongNamesAreCutAlone()
+    {
+        QFETCH(QString, pressed);
+        Session f;
+        f.fake.messages.strict = true;
+        const QString stored = QStringLiteral("XBH\tExtra base hits\tRISP\tRunners in scoring position\tHSP\tHard "
+                                              "hit balls\tTOH\tTwo-out hits\tQAB\tQuality at bats");
+        gPrefs->prUDB = stored;
+        QPointer<prefScrn> screen = f.openPrefs();
+        QTest::mouseClick(screen->setUDVBtn, Qt::LeftButton);
+        QPointer<UDVStatsScrn> sheet = screen->findChild<UDVStatsScrn *>();
+        QVERIFY(sheet);
+        const QString typed(1000, u'a');
+        for (int i = 0; i < 3; ++i)
+            sheet->batAbbrev.at(i)->setText(typed);
+        int pressedOnce = 0;
+        if (!pressed.isEmpty()) {
+            f.fake.messages.whileShown = [&] {
+                auto *button = (pressed == u"saveBtn" ? static_cast<QWidget *>(sheet) : screen.data())
+                                   ->findChild<QPushButton *>(pressed);
+                QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+                    QAccessibleActionInterface::pressAction());
+                // What the real message's own event loop would do meanwhile.
+                QTest::qWait(300);
+                ++pressedOnce;
+            };
+        }
+        QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
+        QTRY_VERIFY(!sheet);
+        QCOMPARE(pressedOnce, pressed.isEmpty() ? 0 : 1);
+        QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Some of the names were shortened to fit.")});
+        QCOMPARE(f.fake.messages.shown.first().explanation,
+                 QStringLiteral("Each list of user-defined names is kept in 255 bytes of the preference file; these "
+                                "were cut: Batting stat 1 abbreviation, Batting stat 2 abbreviation, Batting stat 3 "
+                                "abbreviation."));
+        QVERIFY(gPrefs->prUDB.toUtf8().size() <= myPrefs::kPascalMax);
+        const QStringList now = gPrefs->prUDB.split(u'\t');
+        const QStringList was = stored.split(u'\t');
+        QCOMPARE(now.size(), was.size());
+        for (int i = 0; i < now.size(); ++i) {
+            if (i < 6 && i % 2 == 0)
+                QVERIFY(!now.at(i).isEmpty() && typed.startsWith(now.at(i)));
+            else
+                QCOMPARE(now.at(i), was.at(i));
+        }
+        if (screen)
+            screen->close();
     }
 
     void mailDoor_data()

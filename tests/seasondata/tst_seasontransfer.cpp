@@ -40,6 +40,11 @@ private Q_SLOTS:
             << "2027/8"
             << "A" << false << ""
             << "A season's name can't hold a slash, a backslash or a control character.";
+        QTest::newRow("a name too long to name a file") << QString(240, u'x') << "A" << false << ""
+                                                        << "The season's name is too long to name a file.";
+        QTest::newRow("into a season that exists") << "2027"
+                                                   << "AC" << true << "exists"
+                                                   << "The season 2027 exists already.";
         QTest::newRow("no teams chosen") << "2027"
                                          << "" << false << ""
                                          << "Please add teams for transferring";
@@ -88,6 +93,14 @@ private Q_SLOTS:
             gPrefs->prSeason = QStringLiteral("ghost");
         if (trouble == u"no coaches table")
             gData->exec(QStringLiteral("DROP TABLE Coaches"));
+        // A season of that name with a team of its own under one of the ids.
+        QStringList existing;
+        if (trouble == u"exists") {
+            myDB other(f.dataFolder(), name);
+            other.insert(QStringLiteral("Teams"), {{QStringLiteral("teamID"), ids.value(u'C')},
+                                                   {QStringLiteral("TeamName"), QStringLiteral("Rivals")}});
+            existing = f.dump(other, QStringLiteral("Teams")) + f.dump(other, QStringLiteral("Players"));
+        }
         const QString prevSeason = gPrefs->prSeason;
         const QString before = f.dump(*gData, QStringLiteral("Players")).join(u'\n');
 
@@ -99,7 +112,13 @@ private Q_SLOTS:
         const QStringList files = QDir(f.dataFolder()).entryList(QDir::Files);
         if (!success) {
             // Nothing made: no season file, no working file, the old season current.
-            QCOMPARE(files.filter(QStringLiteral("2027")), QStringList());
+            if (trouble == u"exists") {
+                QCOMPARE(files.filter(QStringLiteral("2027")), QStringList{myDB::getCurDBFileName(name)});
+                myDB other(f.dataFolder(), name);
+                QCOMPARE(f.dump(other, QStringLiteral("Teams")) + f.dump(other, QStringLiteral("Players")), existing);
+            } else {
+                QCOMPARE(files.filter(QStringLiteral("2027")), QStringList());
+            }
             QCOMPARE(gPrefs->prSeason, prevSeason);
             QVERIFY(!gPrefs->prefsDirty);
             return;

@@ -1,6 +1,8 @@
 #include "app/ui/MainMenuBar.h"
 
 #include "app/globals.h"
+#include "app/ui/ScreenBase.h"
+#include "app/ui/ScreenDirectory.h"
 
 #include <QAction>
 #include <QApplication>
@@ -78,10 +80,28 @@ MainMenuBar::MainMenuBar(QWidget *parent) : QMenuBar(parent)
     help->setObjectName(QStringLiteral("HelpMenu"));
     addItem(help, QStringLiteral("Help"), QStringLiteral("Tallyline Help"));
     addItem(help, QStringLiteral("Abbrev"), QStringLiteral("Abbrev Used"));
-    addItem(help, QStringLiteral("HelpUpdateCheck"), QStringLiteral("Check For Update"));
+    // A build that knows no address for the newest version has no check.
+    addItem(help, QStringLiteral("HelpUpdateCheck"), QStringLiteral("Check For Update"))
+        ->setVisible(screens::has(ScreenId::updateDlog));
     help->addSeparator();
     addItem(help, QStringLiteral("HelpPrefs"), QStringLiteral("Preferences"))->setMenuRole(QAction::PreferencesRole);
     addItem(help, QStringLiteral("HelpAbout"), QStringLiteral("About TLBaseball"))->setMenuRole(QAction::AboutRole);
+
+    // The one abbreviations window, from every screen's menu: opened over
+    // that screen, or brought forward when it is open already.
+    if (screens::has(ScreenId::HelpAbbrevScrn)) {
+        installHandler(QStringLiteral("Abbrev"), [] {
+            QWidget *w = screens::create(ScreenId::HelpAbbrevScrn);
+            if (!w)
+                return true;
+            if (auto *opened = qobject_cast<ScreenBase *>(w))
+                opened->setReturnToStart(false);
+            w->show();
+            w->raise();
+            w->activateWindow();
+            return true;
+        });
+    }
 }
 
 QAction *MainMenuBar::addItem(QMenu *menu, const QString &name, const QString &text, const QKeySequence &key)

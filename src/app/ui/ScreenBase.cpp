@@ -75,7 +75,7 @@ void ScreenBase::installHelpMenus(int topic)
         const char *item;
         ScreenId screen;
         int argument;
-    } entries[] = {{"Help", ScreenId::helpScrn2, topic}, {"Abbrev", ScreenId::HelpAbbrevScrn, -1}};
+    } entries[] = {{"Help", ScreenId::helpScrn2, topic}};
     for (const auto &e : entries) {
         if (!screens::has(e.screen))
             continue;

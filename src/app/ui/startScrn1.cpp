@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -147,6 +148,16 @@ startScrn1::startScrn1(QWidget *parent)
     setMinimumSize(680, 400);
 
     connect(SelectSeasonPop, &QComboBox::currentIndexChanged, this, &startScrn1::seasonChosen);
+    // The season on show chosen again is opened again: a file another
+    // program held, or one mended meanwhile, is read anew.
+    connect(SelectSeasonPop, &QComboBox::activated, this, [this](int row) {
+        if (m_indexJustChanged || m_fillingPopup || !gPrefs || SelectSeasonPop->itemText(row) != gPrefs->prSeason)
+            return;
+        if (App *app = App::instance(); app && app->selectSeason(gPrefs->prSeason) == App::SeasonChoice::Switched) {
+            setLogo_Name();
+            showSeasonState();
+        }
+    });
     installMenuHandlers();
 }
 
@@ -162,11 +173,8 @@ void startScrn1::installMenuHandlers()
         ScreenId target;
         bool closeStart;
     } menuTargets[] = {
-        {"FileBackup", ScreenId::backUpDlog, false},
-        {"FileRestore", ScreenId::restoreDlog, false},
-        {"HelpUpdateCheck", ScreenId::updateDlog, false},
-        {"Abbrev", ScreenId::HelpAbbrevScrn, false},
-        {"Help", ScreenId::helpScrn2, false},
+        {"FileBackup", ScreenId::backUpDlog, false},      {"FileRestore", ScreenId::restoreDlog, false},
+        {"HelpUpdateCheck", ScreenId::updateDlog, false}, {"Help", ScreenId::helpScrn2, false},
         {"HelpPrefs", ScreenId::prefScrn, true},
     };
     for (const auto &m : menuTargets) {
@@ -213,7 +221,13 @@ QPushButton *startScrn1::addTargetButton(const QString &objectName, const QStrin
             if (QWidget *sheet = screens::create(target)) {
                 sheet->setParent(this, sheet->windowFlags() | Qt::Sheet);
                 sheet->setWindowModality(Qt::WindowModal);
-                connect(sheet, &QObject::destroyed, this, [this] { setPopupList(); });
+                // The sheet may have made and opened another season: the
+                // popup, the home team and whether the season opened are read anew.
+                connect(sheet, &QObject::destroyed, this, [this] {
+                    setPopupList();
+                    setLogo_Name();
+                    showSeasonState();
+                });
                 sheet->show();
             }
         });
@@ -256,8 +270,10 @@ void startScrn1::setLogo_Name()
     if (!app)
         return;
     const auto display = app->homeTeamDisplay();
-    if (!display)
+    if (!display) {
+        teamNameLabel->clear();
         return;
+    }
     if (display->logo) {
         curLogo = *display->logo;
         LogoHolder->setPicture(curLogo);
@@ -284,6 +300,9 @@ void startScrn1::seasonChosen(int row)
     App *app = App::instance();
     if (m_fillingPopup || row < 0 || !app)
         return;
+    // The coach's pick also raises "activated", which must not open it twice.
+    m_indexJustChanged = true;
+    QTimer::singleShot(0, this, [this] { m_indexJustChanged = false; });
     if (app->selectSeason(SelectSeasonPop->itemText(row)) == App::SeasonChoice::Switched) {
         setLogo_Name();
         showSeasonState();

@@ -53,6 +53,7 @@ private:
     void showAbout();
 
     bool m_fillingPopup = false;
+    bool m_indexJustChanged = false;
     bool m_placed = false;
     QList<std::pair<QPushButton *, ScreenId>> m_targets;
 };

@@ -27,9 +27,7 @@ void installPeopleMenus(MainMenuBar *menus, const QString &printText, const std:
         const char *item;
         ScreenId screen;
         int topic;
-    } others[] = {{"Help", ScreenId::helpScrn2, helpTopic},
-                  {"Abbrev", ScreenId::HelpAbbrevScrn, 0},
-                  {"HelpPrefs", ScreenId::prefScrn, 0}};
+    } others[] = {{"Help", ScreenId::helpScrn2, helpTopic}, {"HelpPrefs", ScreenId::prefScrn, 0}};
     for (const auto &o : others) {
         const ScreenId screen = o.screen;
         if (!screens::has(screen))

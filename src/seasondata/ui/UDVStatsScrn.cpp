@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -97,7 +98,17 @@ UDVStatsScrn::UDVStatsScrn(QWidget *parent) : QDialog(parent)
     outer->addLayout(buttons);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(saveBtn, &QPushButton::clicked, this, [this] {
+        // The "shortened" message runs an event loop of its own; a second
+        // Save pressed meanwhile (a screen reader can) must not save and
+        // close the sheet under the first.
+        if (m_saving)
+            return;
+        m_saving = true;
+        const QPointer<UDVStatsScrn> self(this);
         saveValues();
+        if (!self)
+            return;
+        m_saving = false;
         accept();
     });
     setMinimumWidth(460);
@@ -119,17 +130,26 @@ bool UDVStatsScrn::saveValues()
 {
     if (!gPrefs)
         return false;
-    const JoinedUD bat = joinUD(slotsOf(batAbbrev, batDesc));
-    const JoinedUD fld = joinUD(slotsOf(fldAbbrev, fldDesc));
-    const JoinedUD pitch = joinUD(slotsOf(pitchAbbrev, pitchDesc));
+    const JoinedUD bat = joinUD(slotsOf(batAbbrev, batDesc), splitUD(gPrefs->prUDB, kBattingSlots));
+    const JoinedUD fld = joinUD(slotsOf(fldAbbrev, fldDesc), splitUD(gPrefs->prUDF, kFieldingSlots));
+    const JoinedUD pitch = joinUD(slotsOf(pitchAbbrev, pitchDesc), splitUD(gPrefs->prUDP, kPitchingSlots));
     gPrefs->prUDB = bat.text;
     gPrefs->prUDF = fld.text;
     gPrefs->prUDP = pitch.text;
     gPrefs->prefsDirty = true;
-    if (bat.shortened || fld.shortened || pitch.shortened) {
+    QStringList cut;
+    const auto name = [&](const JoinedUD &joined, const QList<QLineEdit *> &abbrevs, const QList<QLineEdit *> &descs) {
+        for (const int i : joined.cut)
+            cut.append((i % 2 ? descs : abbrevs).at(i / 2)->accessibleName());
+    };
+    name(bat, batAbbrev, batDesc);
+    name(fld, fldAbbrev, fldDesc);
+    name(pitch, pitchAbbrev, pitchDesc);
+    if (!cut.isEmpty()) {
         gShowMsgDlog(QStringLiteral("Some of the names were shortened to fit."),
                      QStringLiteral("Each list of user-defined names is kept in 255 bytes of the preference file; "
-                                    "the longest descriptions were cut."),
+                                    "these were cut: ") +
+                         cut.join(QStringLiteral(", ")) + u'.',
                      QStringLiteral("OK"));
         return false;
     }

@@ -27,4 +27,7 @@ public:
     QList<QLineEdit *> fldAbbrev, fldDesc;
     QList<QLineEdit *> pitchAbbrev, pitchDesc;
     QPushButton *saveBtn = nullptr;
+
+private:
+    bool m_saving = false;
 };

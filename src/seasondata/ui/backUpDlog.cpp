@@ -13,6 +13,7 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
@@ -82,6 +83,12 @@ backUpDlog::~backUpDlog()
 void backUpDlog::connectTimer(myTimerClass *timer)
 {
     QObject::connect(timer, &myTimerClass::backupDue, timer, [] {
+        // A backup or restore still on show is this tick's backup: a second
+        // window would copy the same season into the same file.
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (qobject_cast<backUpDlog *>(w) && w->isVisible())
+                return;
+        }
         if (QWidget *dialog = screens::create(ScreenId::backUpDlog))
             dialog->show();
     });
@@ -218,7 +225,10 @@ void backUpDlog::backupCopied()
     cleanUpTimer.start();
     m_compacting = true;
     const QString file = gData->filePath();
-    m_compaction = QThread::create([file] { seasondata::compactSeasonFile(file); });
+    m_compactionCode = 0;
+    m_compactionMessage.clear();
+    m_compaction = QThread::create(
+        [this, file] { m_compactionCode = seasondata::compactSeasonFile(file, &m_compactionMessage); });
     connect(m_compaction, &QThread::finished, this, &backUpDlog::compactionEnded);
     m_compaction->start();
 }
@@ -228,7 +238,9 @@ void backUpDlog::compactionEnded()
     m_compacting = false;
     m_compaction->deleteLater();
     m_compaction = nullptr;
-    gPrefs->reinitDBClean();
+    // A compaction that failed stays due: it is tried after the next backup.
+    if (m_compactionCode == 0)
+        gPrefs->reinitDBClean();
     if (!cleanUpTimer.isActive())
         cleanUpTimer_Action();
 }
@@ -239,6 +251,11 @@ void backUpDlog::cleanUpTimer_Action()
     if (m_compacting)
         return;
     progressBar->setRange(0, 100);
+    if (m_compactionCode != 0) {
+        finishWith(QStringLiteral("The backup was made, but the database could not be cleaned up."),
+                   QStringLiteral("It is tried again after the next backup. ") + m_compactionMessage, false);
+        return;
+    }
     finishWith(QStringLiteral("Backup was successful"), {}, true);
 }
 

@@ -74,6 +74,8 @@ private:
     std::unique_ptr<seasondata::BackupJob> m_job;
     QThread *m_checking = nullptr;
     QThread *m_compaction = nullptr;
+    int m_compactionCode = 0; // written by the compaction's thread, read after it ended
+    QString m_compactionMessage;
     QTimer m_stepTimer;
     std::function<void()> m_afterCopy;
 };

@@ -82,8 +82,11 @@ expReporterScrn::expReporterScrn(const QString &text, QWidget *parent) : QDialog
 
 void expReporterScrn::showFor(const std::exception_ptr &error)
 {
-    const QString text = reportText(TypeOfException(error),
-                                    StackCleaner::CleanStack(StackCleaner::framesOfLastThrow()));
+    QStringList where = StackCleaner::CleanStack(StackCleaner::framesOfThrow(error));
+    // Better no place than the place of an earlier error.
+    if (where.isEmpty())
+        where.append(QStringLiteral("Where the error began is not known."));
+    const QString text = reportText(TypeOfException(error), where);
     expReporterScrn report(text, QApplication::activeWindow());
     bool quit = false;
     connect(&report, &expReporterScrn::quitRequested, &report, [&quit] { quit = true; });

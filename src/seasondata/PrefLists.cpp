@@ -93,12 +93,20 @@ QList<QStringList> positionRows(const QString &prAbbrevPos, const QString &prPos
 {
     const QStringList abbrevs = prAbbrevPos.split(u',');
     const QStringList names = prPositions.split(u',');
-    if (abbrevs.size() != names.size())
-        return {{QStringLiteral("Data Error"), QString()}};
     QList<QStringList> rows;
-    for (qsizetype i = 0; i < abbrevs.size(); ++i)
-        rows.append({abbrevs.at(i), names.at(i)});
+    for (qsizetype i = 0; i < std::max(abbrevs.size(), names.size()); ++i)
+        rows.append({abbrevs.value(i), names.value(i)});
     return rows;
+}
+
+QList<int> unpairedPositionLines(const QString &prAbbrevPos, const QString &prPositions)
+{
+    const qsizetype abbrevs = prAbbrevPos.split(u',').size();
+    const qsizetype names = prPositions.split(u',').size();
+    QList<int> lines;
+    for (qsizetype i = std::min(abbrevs, names); i < std::max(abbrevs, names); ++i)
+        lines.append(int(i + 1));
+    return lines;
 }
 
 std::pair<QString, QString> joinPositions(const QList<QStringList> &rows)

@@ -23,9 +23,12 @@ QStringList backupFreqRows();
 int backupFreqRow(int minutes);
 int backupFreqValue(int row);
 
-// The position list as rows of abbreviation and long name. When the two
-// stored lists differ in length there is one row, "Data Error".
+// The position list as rows of abbreviation and long name, line by line.
+// When one stored list is longer, its extra lines get an empty other half.
 QList<QStringList> positionRows(const QString &prAbbrevPos, const QString &prPositions);
+// The lines (from 1) that only one of the two stored lists holds; none when
+// they agree.
+QList<int> unpairedPositionLines(const QString &prAbbrevPos, const QString &prPositions);
 // Both columns joined back, each cell with its commas taken out:
 // {prAbbrevPos, prPositions}.
 std::pair<QString, QString> joinPositions(const QList<QStringList> &rows);

@@ -136,8 +136,8 @@ bool BackupJob::start()
         return true;
     }
     // Two backups into one file would copy into the same working file and
-    // rename whatever stands there over the day's copy: the second waits
-    // its turn. A lock left by a program that died is taken over.
+    // rename whatever stands there over the day's copy: the second is
+    // refused. A lock left by a program that died is taken over.
     auto lock = std::make_unique<QLockFile>(workFile() + QStringLiteral(".lock"));
     lock->setStaleLockTime(0);
     if (!lock->tryLock())

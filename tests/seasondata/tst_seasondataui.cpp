@@ -518,7 +518,7 @@ private Q_SLOTS:
                                                                 << "PositionLB"
                                                                 << ""
                                                                 << "positions"
-                                                                << "Data Error|";
+                                                                << "{a}|Pitcher,,,,,,,,,,,,,,,,";
         QTest::newRow("gameTypeLB, a typed and an empty row") << ""
                                                               << "gameTypeLB"
                                                               << "Scrim,mage/"
@@ -601,6 +601,53 @@ private Q_SLOTS:
         QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
 
         QCOMPARE(::field(myPrefs(f.dataRoot()), field), expected);
+    }
+
+    // Closing the window with edited lists asks first, as every screen
+    // with unsaved changes does; lists that disagree are named line by line.
+    void listEditsAskBeforeClosing_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("saved");
+        QTest::addColumn<bool>("closed");
+        QTest::newRow("save") << int(platform::MsgAction) << true << true;
+        QTest::newRow("don't save") << int(platform::MsgAlternate) << false << true;
+        QTest::newRow("cancel") << int(platform::MsgCancel) << false << false;
+    }
+    void listEditsAskBeforeClosing()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, saved);
+        QFETCH(bool, closed);
+        Session f;
+        f.fake.messages.strict = true;
+        gPrefs->prPositions = QStringLiteral("Right-handed pitcher,Left-handed pitcher");
+        const QString types = gPrefs->prGameTypes;
+        QPointer<prefScrn> screen = f.openPrefs();
+        QCOMPARE(f.fake.messages.texts(),
+                 QStringList{QStringLiteral("The positions' abbreviations and names don't match.")});
+        QVERIFY(f.fake.messages.shown.first().explanation.startsWith(QStringLiteral(
+            "Lines 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17 have an abbreviation but no name.")));
+        QCOMPARE(screen->PositionLB->rowCount(), 17);
+        QCOMPARE(screen->PositionLB->rowCells(2), (QStringList{QStringLiteral("C"), QString()}));
+        f.fake.messages.clear();
+
+        screen->gameTypeLB->setSelectedRow(0);
+        clickHalf(screen->plusMinusGames, false);
+        f.fake.messages.answers.enqueue(std::uint8_t(answer));
+        screen->close();
+        QCOMPARE(f.fake.messages.texts(),
+                 QStringList{QStringLiteral("Would you like to save the changes to the preferences?")});
+        if (closed)
+            QTRY_VERIFY(!screen);
+        QVERIFY(!closed || !screen);
+        const QString stored = myPrefs(f.dataRoot()).prGameTypes;
+        QCOMPARE(stored, saved ? types.section(u',', 1) : types);
+        if (screen) {
+            f.fake.messages.answers.enqueue(platform::MsgAlternate);
+            screen->close();
+            QTRY_VERIFY(!screen);
+        }
     }
 
     void returnKey_data()

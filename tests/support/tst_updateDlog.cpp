@@ -138,8 +138,17 @@ private Q_SLOTS:
         connect(window->Updater, &cAutoUpdate::downloadProgress, this,
                 [&] { lastProgress = window->stProgress->text(); });
         QPointer<wAutoUpdate> guard(window);
-        QTRY_VERIFY_WITH_TIMEOUT(!guard, 10000); // closes when complete
+        // Done, it says where the file went and leads there.
+        QTRY_VERIFY_WITH_TIMEOUT(window->btnShowFolder->isVisible(), 10000);
         QCOMPARE(lastProgress, QStringLiteral("1.5 MB of 1.5 MB"));
+        QCOMPARE(QFileInfo(target).size(), 1572864);
+        QCOMPARE(window->stTitle->text(), QStringLiteral("The update was saved as \"") +
+                                              QDir::toNativeSeparators(target) + QStringLiteral("\"."));
+        QTest::mouseClick(window->btnShowFolder, Qt::LeftButton);
+        QCOMPARE(fake.files.revealed, QStringList{target});
+        QCOMPARE(window->btnCancel->text(), QStringLiteral("Close"));
+        QTest::mouseClick(window->btnCancel, Qt::LeftButton);
+        QTRY_VERIFY(!guard);
         QCOMPARE(QFileInfo(target).size(), 1572864);
     }
 

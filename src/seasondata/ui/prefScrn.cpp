@@ -5,6 +5,7 @@
 #include "app/myPrefs.h"
 #include "app/ui/Form.h"
 #include "app/ui/ScreenDirectory.h"
+#include "platform/Messages.h"
 #include "platform/Services.h"
 #include "reports/ui/qlmListBox.h"
 #include "seasondata/PrefLists.h"
@@ -237,6 +238,50 @@ void prefScrn::FillPositionLB()
     PositionLB->deleteAllRows();
     for (const QStringList &row : preflists::positionRows(gPrefs->prAbbrevPos, gPrefs->prPositions))
         PositionLB->addRow(row);
+    // Lists of different lengths are shown line by line, and the coach is
+    // told which lines lack a half, so that he can mend them.
+    const QList<int> unpaired = preflists::unpairedPositionLines(gPrefs->prAbbrevPos, gPrefs->prPositions);
+    if (unpaired.isEmpty())
+        return;
+    QStringList lines;
+    for (const int line : unpaired)
+        lines.append(QString::number(line));
+    const bool namesShort = gPrefs->prAbbrevPos.count(u',') > gPrefs->prPositions.count(u',');
+    gShowMsgDlog(QStringLiteral("The positions' abbreviations and names don't match."),
+                 (unpaired.size() == 1 ? QStringLiteral("Line ") : QStringLiteral("Lines ")) +
+                     lines.join(QStringLiteral(", ")) +
+                     (namesShort ? QStringLiteral(" have an abbreviation but no name.")
+                                 : QStringLiteral(" have a name but no abbreviation.")) +
+                     QStringLiteral(" Fill in the missing halves and save."),
+                 QStringLiteral("OK"));
+}
+
+bool prefScrn::listsChanged() const
+{
+    if (!gPrefs)
+        return false;
+    QList<QStringList> rows;
+    for (int r = 0; r < PositionLB->rowCount(); ++r)
+        rows.append(PositionLB->rowCells(r));
+    return preflists::joinPositions(rows) != std::pair(gPrefs->prAbbrevPos, gPrefs->prPositions) ||
+           preflists::joinGameTypes(column(gameTypeLB, 0)) != gPrefs->prGameTypes;
+}
+
+bool prefScrn::mayClose()
+{
+    if (!listsChanged())
+        return true;
+    switch (gShowMsgDlog(QStringLiteral("Would you like to save the changes to the preferences?"),
+                         QStringLiteral("If you do not save, changes will be lost"), QStringLiteral("Save"),
+                         QStringLiteral("Don't Save"))) {
+    case platform::MsgAction:
+        setValues();
+        return true;
+    case platform::MsgAlternate:
+        return true;
+    default:
+        return false;
+    }
 }
 
 void prefScrn::fillGameTypeLB()

@@ -60,8 +60,11 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    // Edits to the lists are asked about before the window goes.
+    bool mayClose() override;
 
 private:
+    bool listsChanged() const;
     void buildControls();
     void showBackupLocation();
     void openEmailInfo();

@@ -113,8 +113,14 @@ wAutoUpdate::wAutoUpdate(QWidget *parent) : QDialog(parent)
     layout->addWidget(pbDownload);
     stProgress = form::valueLabel(this, QStringLiteral("stProgress"), QStringLiteral("Downloaded"));
     layout->addWidget(stProgress);
+    btnShowFolder = form::button(this, QStringLiteral("btnShowFolder"), QStringLiteral("Show in &Folder"));
+    btnShowFolder->hide(); // until the file is there
     btnCancel = form::button(this, QStringLiteral("btnCancel"), QStringLiteral("Cancel"));
-    layout->addWidget(btnCancel, 0, Qt::AlignRight);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(btnShowFolder);
+    buttons->addWidget(btnCancel);
+    layout->addLayout(buttons);
     resize(380, 130);
 }
 
@@ -134,7 +140,19 @@ void wAutoUpdate::Associate(cAutoUpdate *updater)
         // The window stays so the coach can read what happened.
         stTitle->setText(QStringLiteral("Error ") + QString::number(code) + QStringLiteral(": There was an error"));
     });
-    connect(updater, &cAutoUpdate::downloadComplete, this, &QDialog::close);
+    connect(updater, &cAutoUpdate::downloadComplete, this, [this] {
+        // The window stays to say where the file went, with a way to it.
+        const QString where = QDir::toNativeSeparators(Updater->SaveItem);
+        stTitle->setText(QStringLiteral("The update was saved as \"") + where + QStringLiteral("\"."));
+        stTitle->setAccessibleName(stTitle->text());
+        stTitle->setWordWrap(true);
+        btnCancel->setText(QStringLiteral("Close"));
+        btnCancel->setAccessibleName(QStringLiteral("Close"));
+        btnShowFolder->show();
+        btnShowFolder->setFocus();
+    });
+    connect(btnShowFolder, &QPushButton::clicked, this,
+            [this] { platform::files().revealInFileBrowser(Updater->SaveItem); });
     connect(btnCancel, &QPushButton::clicked, this, [this] {
         Updater->cancel();
         close();

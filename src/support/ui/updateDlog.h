@@ -46,5 +46,6 @@ public:
     QProgressBar *pbDownload = nullptr;
     QLabel *stTitle = nullptr;
     QLabel *stProgress = nullptr;
-    QPushButton *btnCancel = nullptr;
+    QPushButton *btnCancel = nullptr;     // "Close" once the file is there
+    QPushButton *btnShowFolder = nullptr; // shown once the file is there
 };

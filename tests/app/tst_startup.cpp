@@ -33,6 +33,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <stdexcept>
+#include <thread>
 #include <vector>
 
 #include <fcntl.h>
@@ -406,6 +408,16 @@ private Q_SLOTS:
         QVERIFY2(lines.filter(QStringLiteral(" Thrower.event")).isEmpty(), qPrintable(lines.join(u'\n')));
         QVERIFY2(lines.filter(QStringLiteral("notify")).filter(QStringLiteral("Tallyline")).isEmpty(),
                  qPrintable(lines.join(u'\n')));
+        // An error thrown on another thread has no place known here.
+        std::exception_ptr elsewhere;
+        std::thread([&elsewhere] {
+            try {
+                throw std::out_of_range("elsewhere");
+            } catch (...) {
+                elsewhere = std::current_exception();
+            }
+        }).join();
+        QCOMPARE(StackCleaner::framesOfThrow(elsewhere), QStringList());
     }
 
     // A data folder where no lock can be made is named as such: no other

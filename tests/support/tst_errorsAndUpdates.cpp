@@ -6,8 +6,6 @@
 #include <QtTest>
 
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace probe {
 struct Roster
@@ -19,16 +17,6 @@ void Roster::trade(QString &team, int games)
 {
     if (games > 0)
         throw std::out_of_range("no such player");
-}
-// Throws from inside the C++ library, never from this program's own code.
-__attribute__((noinline)) int pick(const std::string &how, int slot)
-{
-    static volatile int sink = 0;
-    if (how == "vector::at")
-        sink = std::vector<int>(3).at(size_t(slot));
-    else
-        sink = std::stoi(how);
-    return sink;
 }
 } // namespace probe
 
@@ -106,41 +94,6 @@ private Q_SLOTS:
         // The routine that threw comes first, named as the report names it.
         QVERIFY2(!lines.isEmpty() && lines.first() == u"Sub Roster.trade( byref string, int32 )",
                  qPrintable(lines.join(u'\n')));
-    }
-
-    // A throw inside the library is traced too; an error whose throw was
-    // not noted names no place rather than the last one that was.
-    void whereALibraryErrorWasThrown_data()
-    {
-        QTest::addColumn<QString>("how");
-        QTest::addColumn<QString>("kind");
-        QTest::newRow("vector::at") << "vector::at"
-                                    << "OutOfBoundsException";
-        QTest::newRow("stoi") << "no number"
-                              << "TypeMismatchException";
-    }
-    void whereALibraryErrorWasThrown()
-    {
-        QFETCH(QString, how);
-        QFETCH(QString, kind);
-        probe::Roster roster;
-        QString team = QStringLiteral("Hawks");
-        try {
-            roster.trade(team, 3);
-        } catch (...) {
-        }
-        std::exception_ptr error;
-        try {
-            probe::pick(how.toStdString(), 5);
-        } catch (...) {
-            error = std::current_exception();
-        }
-        QCOMPARE(TypeOfException(error), kind);
-        const QStringList lines = StackCleaner::CleanStack(StackCleaner::framesOfThrow(error));
-        QVERIFY2(lines.filter(QStringLiteral("pick(")).size() == 1, qPrintable(lines.join(u'\n')));
-        QVERIFY2(lines.filter(QStringLiteral("Roster.trade")).isEmpty(), qPrintable(lines.join(u'\n')));
-        // An error made without a throw has no place to name.
-        QCOMPARE(StackCleaner::framesOfThrow(std::make_exception_ptr(std::out_of_range("x"))), QStringList());
     }
 
     void exceptionKinds()

@@ -282,6 +282,30 @@ private Q_SLOTS:
         QCOMPARE(gPrefs->prSeason, name);
     }
 
+    // The season on show chosen again in the popup is read again: a file
+    // mended meanwhile opens, and the screens that write open with it.
+    void sameSeasonChosenAgainIsReadAgain()
+    {
+        screens::registerScreen(ScreenId::teamScrn, [] { return new QWidget; });
+        Session f;
+        const QString broken = f.seasonFile(QStringLiteral("Broken"));
+        QVERIFY(QFile::copy(f.seasonFile(gPrefs->prSeason), broken + QStringLiteral(".good")));
+        QFile junk(broken);
+        QVERIFY(junk.open(QIODevice::WriteOnly));
+        junk.write(QByteArray("SQLite format 3") + QByteArray(4096, '\x5a'));
+        junk.close();
+        f.start->setPopupList();
+        const int row = f.start->SelectSeasonPop->findText(QStringLiteral("Broken"));
+        f.start->SelectSeasonPop->setCurrentIndex(row);
+        QVERIFY(f.start->seasonProblemLabel->isVisibleTo(f.start));
+        QVERIFY(QFile::remove(broken));
+        QVERIFY(QFile::rename(broken + QStringLiteral(".good"), broken));
+        QTest::qWait(1);
+        Q_EMIT f.start->SelectSeasonPop->activated(row);
+        QVERIFY(!f.start->seasonProblemLabel->isVisibleTo(f.start));
+        QVERIFY(f.start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"))->isEnabled());
+    }
+
     void backupDialog_data()
     {
         QTest::addColumn<QString>("location"); // "drive", "removed", "none", "ask"

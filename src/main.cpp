@@ -27,9 +27,6 @@ int main(int argc, char *argv[])
     backUpDlog::connectTimer(app.BUTimer);
     // The mail password lives in the desktop's secret store, not in the file.
     people::MailSettings::moveOldPassword(*app.prefs());
-    backUpDlog::connectTimer(app.BUTimer);
-    // The mail password lives in the desktop's secret store, not in the file.
-    people::MailSettings::moveOldPassword(*app.prefs());
 
     auto *splash = new splashScrn;
     splash->show();

@@ -8,11 +8,13 @@
 #include <SQLiteCpp/Database.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #ifdef Q_OS_WIN
@@ -139,6 +141,29 @@ bool BackupJob::step(int pages)
 {
     if (!m_backup)
         return false;
+    if (m_intoLive)
+        return restoreStep(pages);
+    return copyStep(pages);
+}
+
+bool BackupJob::restoreStep(int pages)
+{
+    // Pages written into the live season may make SQLite sync its journal
+    // before its cache spills, so a batch that takes a moment on a copy can
+    // hold the window much longer here: the batch goes in small slices and
+    // stops early once it has taken its share of the window's time.
+    constexpr int kSlice = 16;
+    constexpr qint64 kBudgetNs = 20'000'000;
+    QElapsedTimer spent;
+    spent.start();
+    bool more = true;
+    for (int done = 0; more && done < pages && spent.nsecsElapsed() < kBudgetNs; done += kSlice)
+        more = copyStep(std::min(kSlice, pages - done));
+    return more;
+}
+
+bool BackupJob::copyStep(int pages)
+{
     const int rc = sqlite3_backup_step(m_backup, pages);
     if (rc == SQLITE_OK || rc == SQLITE_BUSY || rc == SQLITE_LOCKED)
         return true; // more to copy, or try again on the next step
@@ -169,6 +194,10 @@ bool BackupJob::endCopy()
     if (m_intoLive) {
         closeWork();
         m_done = true;
+        // A backup made before the lookups had their indexes gets them, as
+        // the season would when opened; they change no stored value.
+        for (const QString &statement : schema::indexStatements())
+            sqlite3_exec(m_source, statement.toUtf8().constData(), nullptr, nullptr, nullptr);
     }
     return true;
 }

@@ -43,7 +43,8 @@ public:
 
     // Opens the working file. False (see errorCode) when it can't.
     bool start();
-    // Copies up to `pages` pages; true while pages remain.
+    // Copies up to `pages` pages; true while pages remain. A restore stops
+    // a batch early rather than hold the caller's thread past about 20 ms.
     bool step(int pages = 256);
     // 0 to 1.
     double progress() const;
@@ -64,6 +65,8 @@ public:
 private:
     bool fail(int code, const QString &message);
     void closeWork();
+    bool copyStep(int pages);
+    bool restoreStep(int pages);
 
     sqlite3 *m_source;
     QString m_target;

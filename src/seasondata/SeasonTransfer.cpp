@@ -126,7 +126,7 @@ bool SeasonTransfer::doTransfer(const QString &name, const QStringList &teamIDs,
     try {
         SQLite::Transaction transaction(*db);
         if (!existed) {
-            for (const QString &statement : schema::createStatements())
+            for (const QString &statement : schema::createStatements() + schema::indexStatements())
                 db->exec(statement.toStdString());
         }
         // Into a season that exists already only the rows whose ids are

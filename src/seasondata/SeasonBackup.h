@@ -67,6 +67,7 @@ private:
     void closeWork();
     bool copyStep(int pages);
     bool restoreStep(int pages);
+    void flushSeasonFile();
 
     sqlite3 *m_source;
     QString m_target;
@@ -74,6 +75,7 @@ private:
     sqlite3 *m_dest = nullptr; // the connection this job opened on its file
     sqlite3_backup *m_backup = nullptr;
     bool m_done = false;
+    int m_syncedPages = 0; // restoring: pages copied at the last sync of the season file
     int m_errorCode = 0;
     QString m_errorMessage;
 };

@@ -30,7 +30,7 @@ namespace {
 
 constexpr int kPlayers = 3000;
 constexpr int kLineup = 25;
-constexpr int kRounds = 15;
+constexpr int kRounds = 31;
 
 std::string columnsList(const auto &columns, const char *suffix)
 {

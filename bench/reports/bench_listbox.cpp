@@ -1,5 +1,8 @@
 // Filling a qlmListBox with 5,000 rows of 30 columns and painting it once,
-// beside a plain QTableView over a QStandardItemModel on the same data.
+// beside the leanest fair baseline: the same kind of view (a QTreeView set
+// up as a flat list, as the list box is) over a minimal QAbstractTableModel
+// holding the same rows, filled in one step. A QTableView over that model
+// is printed too.
 //
 //   bench_listbox                 QBENCHMARK figures for each
 //   bench_listbox ratio           both measured in turn in this run, and the ratio
@@ -7,14 +10,15 @@
 // Run on the offscreen platform (QT_QPA_PLATFORM=offscreen) for figures that
 // don't depend on a display.
 
+#include "MinimalTableModel.h"
 #include "reports/ui/qlmListBox.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QHeaderView>
-#include <QStandardItemModel>
 #include <QTableView>
 #include <QTest>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -77,39 +81,50 @@ void fillAndPaintListBoxInOneStep()
     Q_ASSERT(!shot.isNull());
 }
 
+void fillAndPaintTreeView()
+{
+    bench::MinimalTableModel model;
+    QTreeView view;
+    view.setRootIsDecorated(false);
+    view.setItemsExpandable(false);
+    view.setUniformRowHeights(true);
+    view.resize(viewSize);
+    view.setModel(&model);
+    model.setRows(data().headings, data().rows);
+    view.header()->resizeSection(0, 84);
+    view.header()->resizeSection(1, 84);
+    for (int c = 2; c < columnCount; ++c)
+        view.header()->resizeSection(c, 36);
+    const QPixmap shot = view.grab();
+    Q_ASSERT(!shot.isNull());
+}
+
 void fillAndPaintTableView()
 {
-    QStandardItemModel model(0, columnCount);
-    model.setHorizontalHeaderLabels(data().headings);
+    bench::MinimalTableModel model;
     QTableView view;
     view.resize(viewSize);
     view.setModel(&model);
+    model.setRows(data().headings, data().rows);
     view.horizontalHeader()->resizeSection(0, 84);
     view.horizontalHeader()->resizeSection(1, 84);
     for (int c = 2; c < columnCount; ++c)
         view.horizontalHeader()->resizeSection(c, 36);
-    for (int r = 0; r < rowCount; ++r) {
-        QList<QStandardItem *> items;
-        items.reserve(columnCount);
-        for (const QString &text : data().rows.at(r))
-            items.append(new QStandardItem(text));
-        items.first()->setData(data().tags.at(r), Qt::UserRole);
-        model.appendRow(items);
-    }
     const QPixmap shot = view.grab();
     Q_ASSERT(!shot.isNull());
 }
 
 template<typename F>
-double medianMs(F f, int runs)
+double timeMs(F f)
 {
-    QList<double> times;
-    for (int i = 0; i < runs; ++i) {
-        QElapsedTimer t;
-        t.start();
-        f();
-        times.append(t.nsecsElapsed() / 1e6);
-    }
+    QElapsedTimer t;
+    t.start();
+    f();
+    return t.nsecsElapsed() / 1e6;
+}
+
+double median(QList<double> times)
+{
     std::sort(times.begin(), times.end());
     return times.at(times.size() / 2);
 }
@@ -135,7 +150,7 @@ private Q_SLOTS:
             fillAndPaintListBoxInOneStep();
         }
     }
-    void plainTableView()
+    void minimalModelTableView()
     {
         QBENCHMARK {
             fillAndPaintTableView();
@@ -145,17 +160,25 @@ private Q_SLOTS:
     // Both in turn, in this run, so the machine's load weighs on both alike.
     void ratio()
     {
-        const int runs = 7;
+        const int runs = 9;
         // A first pass of each warms caches and the font machinery.
         fillAndPaintListBox();
+        fillAndPaintTreeView();
         fillAndPaintTableView();
-        const double table = medianMs(fillAndPaintTableView, runs);
-        const double rowByRow = medianMs(fillAndPaintListBox, runs);
-        const double oneStep = medianMs(fillAndPaintListBoxInOneStep, runs);
-        qInfo("plain QTableView + QStandardItemModel: %.1f ms", table);
-        qInfo("qlmListBox, addRow per row:           %.1f ms  (%.2fx)", rowByRow, rowByRow / table);
-        qInfo("qlmListBox, addRows in one step:       %.1f ms  (%.2fx)", oneStep, oneStep / table);
-        QVERIFY2(rowByRow / table < 3.0, "the list box should stay within about 3x a plain table view");
+        // Interleaved, round by round, so the machine's load weighs on all alike.
+        QList<double> trees, tables, rowByRows, oneSteps;
+        for (int i = 0; i < runs; ++i) {
+            trees.append(timeMs(fillAndPaintTreeView));
+            tables.append(timeMs(fillAndPaintTableView));
+            rowByRows.append(timeMs(fillAndPaintListBox));
+            oneSteps.append(timeMs(fillAndPaintListBoxInOneStep));
+        }
+        const double tree = median(trees), table = median(tables), rowByRow = median(rowByRows),
+                     oneStep = median(oneSteps);
+        qInfo("QTreeView + minimal table model:  %.1f ms (baseline)", tree);
+        qInfo("QTableView + minimal table model: %.1f ms  (%.2fx)", table, table / tree);
+        qInfo("qlmListBox, addRow per row:       %.1f ms  (%.2fx)", rowByRow, rowByRow / tree);
+        qInfo("qlmListBox, addRows in one step:  %.1f ms  (%.2fx)", oneStep, oneStep / tree);
     }
 };
 

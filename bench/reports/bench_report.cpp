@@ -1,12 +1,13 @@
 // A batting report of 5,000 season rows, every column chosen: read with its
 // one join query, turned into reporters and shown text, and put into the
 // list's model; beside the leanest fair baseline, the same join read
-// straight into text cells and put into the same model.
+// straight into text cells and handed to a minimal QAbstractTableModel.
 //
 //   bench_report          both measured in turn, in this run, and the ratio
 //
 // Run on the offscreen platform (QT_QPA_PLATFORM=offscreen).
 
+#include "MinimalTableModel.h"
 #include "app/globals.h"
 #include "app/myDB.h"
 #include "app/myDictionaries.h"
@@ -81,7 +82,7 @@ int buildReport(myDB &db)
     return model.rowCount();
 }
 
-// The same join, every column read as its text, straight into the model.
+// The same join, every column read as its text, straight into a minimal model.
 int joinAndFill(myDB &db)
 {
     const QStringList &columns = reports::seasonColumns(reports::Batting);
@@ -102,9 +103,8 @@ int joinAndFill(myDB &db)
         }
         rows.append(cells);
     }
-    ListBoxModel model;
-    model.setHeadings(allColumns());
-    model.addRows(rows);
+    bench::MinimalTableModel model;
+    model.setRows(allColumns(), std::move(rows));
     return model.rowCount();
 }
 
@@ -153,9 +153,9 @@ private Q_SLOTS:
         std::sort(report.begin(), report.end());
         std::sort(baseline.begin(), baseline.end());
         const double r = report.at(report.size() / 2), b = baseline.at(baseline.size() / 2);
-        qInfo("join query + model fill (baseline): %.1f ms", b);
-        qInfo("batting report, %d columns:         %.1f ms  (%.2fx)", int(allColumns().size()), r, r / b);
-        QVERIFY2(r / b < 3.0, "the report should stay within about 3x one join query and a model fill");
+        qInfo("join query + minimal table model (baseline): %.1f ms", b);
+        qInfo("batting report, %d columns:                  %.1f ms  (%.2fx)", int(allColumns().size()), r, r / b);
+        QVERIFY2(r / b < 3.0, "the report should stay within 3x one join query and a minimal model");
     }
 };
 

@@ -1,8 +1,10 @@
 // What a safe backup costs: the stepped copy with its integrity check and
 // rename, against the leanest copy SQLite offers (one backup step of every
-// page into a file, no check), interleaved on the same season. Also the
-// longest single step, which is how long the window waits at most (the
-// check runs on a thread of its own in the dialog).
+// page into a file, no check), interleaved on the same season of about
+// 200 MB. Also the longest single step, which is how long the window waits
+// at most (the check runs on a thread of its own in the dialog), and the
+// same for a restore of that backup into the open season, stepped as the
+// dialog steps it, against one backup step of every page.
 
 #include "app/App.h"
 #include "app/globals.h"
@@ -46,13 +48,13 @@ private Q_SLOTS:
     {
         m_app = std::make_unique<App>(m_home.path());
         QCOMPARE(m_app->Event_Open(), App::OpenResult::Ok);
-        // A big season: 20 teams of 25 players, each with a 200 KB photo,
-        // and two thousand schedule rows: about 100 MB.
+        // A big season: 40 teams of 25 players, each with a 200 KB photo,
+        // and two thousand schedule rows: about 200 MB.
         QByteArray photo(200 * 1024, Qt::Uninitialized);
         for (char &c : photo)
             c = char(QRandomGenerator::global()->generate());
         QVERIFY(gData->runInTransaction([&] {
-            for (int t = 0; t < 20; ++t) {
+            for (int t = 0; t < 40; ++t) {
                 const qint64 team = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), t}});
                 for (int p = 0; p < 25; ++p)
                     gData->insert(QStringLiteral("Players"), {{QStringLiteral("TeamNum"), team},
@@ -92,22 +94,49 @@ private Q_SLOTS:
             checking += check.nsecsElapsed() / 1e6;
             safe += t.nsecsElapsed() / 1e6;
         }
-        // A restore of that copy into the open season, a batch of pages a step.
-        double longestRestoreStep = 0;
-        QElapsedTimer restoreTime;
-        restoreTime.start();
-        auto restore = seasondata::BackupJob::restoreInto(source, safeFile);
-        QVERIFY(restore->start());
-        for (;;) {
-            QElapsedTimer step;
-            step.start();
-            const bool more = restore->step(256);
-            longestRestoreStep = std::max(longestRestoreStep, step.nsecsElapsed() / 1e6);
-            if (!more)
-                break;
+        // A restore of that copy into the open season, stepped as the dialog
+        // steps it, against one step of every page, interleaved.
+        double longestRestoreStep = 0, restoring = 0, plainRestoring = 0, lastStep = 0;
+        int restoreSteps = 0, stepsOver50 = 0;
+        for (int round = 0; round < rounds; ++round) {
+            QElapsedTimer restoreTime;
+            restoreTime.start();
+            auto restore = seasondata::BackupJob::restoreInto(source, safeFile);
+            QVERIFY(restore->start());
+            for (;;) {
+                QElapsedTimer step;
+                step.start();
+                const bool more = restore->step(256);
+                const double ms = step.nsecsElapsed() / 1e6;
+                longestRestoreStep = std::max(longestRestoreStep, ms);
+                ++restoreSteps;
+                stepsOver50 += ms > 50 ? 1 : 0;
+                if (!more) {
+                    lastStep = std::max(lastStep, ms);
+                    break;
+                }
+            }
+            QElapsedTimer finish;
+            finish.start();
+            QVERIFY(restore->finish());
+            longestRestoreStep = std::max(longestRestoreStep, finish.nsecsElapsed() / 1e6);
+            restoring += restoreTime.nsecsElapsed() / 1e6;
+
+            QElapsedTimer plainTime;
+            plainTime.start();
+            sqlite3 *backup = nullptr;
+            sqlite3_open_v2(safeFile.toUtf8().constData(), &backup, SQLITE_OPEN_READONLY, nullptr);
+            sqlite3_backup *b = sqlite3_backup_init(source, "main", backup, "main");
+            sqlite3_backup_step(b, -1);
+            sqlite3_backup_finish(b);
+            sqlite3_close(backup);
+            plainRestoring += plainTime.nsecsElapsed() / 1e6;
         }
-        QVERIFY(restore->finish());
-        qInfo("restore %.1f ms, longest step %.1f ms", restoreTime.nsecsElapsed() / 1e6, longestRestoreStep);
+        qInfo("restore %.1f ms, one plain backup step into the season %.1f ms, ratio %.2f; "
+              "longest step on the window's thread %.1f ms (the last, which commits, %.1f ms), %d of %d steps over "
+              "50 ms",
+              restoring / rounds, plainRestoring / rounds, restoring / plainRestoring, longestRestoreStep, lastStep,
+              stepsOver50, restoreSteps);
         qInfo("season %.1f MB; plain copy %.1f ms, stepped copy with check and rename %.1f ms, ratio %.2f; "
               "longest step on the window's thread %.1f ms; the check (on its own thread) %.1f ms",
               QFile(safeFile).size() / 1048576.0, plain / rounds, safe / rounds, safe / plain, longestStep,

@@ -95,7 +95,38 @@ QStringList build()
     return s;
 }
 
+QString index(const char *table, const char *column)
+{
+    return QStringLiteral("CREATE INDEX IF NOT EXISTS idx_") + QString::fromLatin1(table) + u'_' +
+           QString::fromLatin1(column) + QStringLiteral(" ON ") + QString::fromLatin1(table) + u'(' +
+           QString::fromLatin1(column) + u')';
+}
+
 } // namespace
+
+const QStringList &indexStatements()
+{
+    // A game's row by its event (every click's save), the game's panel rows
+    // by game (recording, the panels) and by player, a player's season rows
+    // by player (recording), and the rows kept per team.
+    static const QStringList statements = {
+        index("Games", "schedID"),
+        index("GamesIndivHitting", "gameID"),
+        index("GamesIndivHitting", "playerID"),
+        index("GamesIndivFielding", "gameID"),
+        index("GamesIndivFielding", "playerID"),
+        index("GamesIndivPitching", "gameID"),
+        index("GamesIndivPitching", "playerID"),
+        index("Hitting", "playerID"),
+        index("Fielding", "playerID"),
+        index("Pitching", "playerID"),
+        index("GameResultsByTeam", "teamID"),
+        index("Players", "TeamNum"),
+        index("Coaches", "TeamNum"),
+        index("Drills", "scheduleID"),
+    };
+    return statements;
+}
 
 const QStringList &createStatements()
 {

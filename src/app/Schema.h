@@ -8,5 +8,9 @@ namespace schema {
 const QStringList &createStatements();
 // The table names, in creation order.
 const QStringList &tableNames();
+// The indexes on the columns rows are looked up by ("CREATE INDEX IF NOT
+// EXISTS"): made with a new season's tables and added to an older file when
+// it is opened. An index holds no value of its own; the rows stay as stored.
+const QStringList &indexStatements();
 
 } // namespace schema

@@ -16,8 +16,8 @@ QStringList gStateList;
 QStringList gCountryList;
 QString gActivities;
 std::array<QString, 10> gDrills;
-QList<QImage> gFormPics;
 QStringList gFormNames;
+QStringList gFormFiles;
 QString gPrinterSettings;
 bool gIsAutoFillMode = false;
 const QColor TLThemeColorLight = QColor::fromRgb(0xCDE3C5);
@@ -194,6 +194,8 @@ QString gResourceFolder()
 
 void loadFormPics()
 {
+    gFormNames.clear();
+    gFormFiles.clear();
     const QString resources = gResourceFolder();
     if (resources.isEmpty())
         return;
@@ -202,11 +204,13 @@ void loadFormPics()
         return;
     const QFileInfoList entries = extras.entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo &entry : entries) {
+        // Three full pages decoded are some 20 MB and most of a start's
+        // time, for a window few sessions open: a file counts as a form when
+        // its header names a picture format.
         QImageReader reader(entry.absoluteFilePath());
-        const QImage picture = reader.read();
-        if (picture.isNull())
+        if (!reader.canRead())
             continue;
-        gFormPics.append(picture);
+        gFormFiles.append(entry.absoluteFilePath());
         gFormNames.append(entry.fileName());
     }
 }

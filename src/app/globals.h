@@ -28,8 +28,10 @@ extern QStringList gStateList;
 extern QStringList gCountryList;
 extern QString gActivities;
 extern std::array<QString, 10> gDrills;
-extern QList<QImage> gFormPics;
+// The blank forms found at open: each file's name and path. Their pictures
+// are decoded by the forms window when it shows them, not at start.
 extern QStringList gFormNames;
+extern QStringList gFormFiles;
 // The last confirmed page set-up in PrinterSetup's text form; empty until
 // the user confirmed a page set-up dialog. Kept for the session only.
 extern QString gPrinterSettings;
@@ -77,4 +79,5 @@ int limitValueRange(int value, int minimum, int maximum);
 
 // The program's resource folder: "Resources" beside the executable's folder.
 QString gResourceFolder();
+// Lists the forms in the resource folder; only each file's header is read.
 void loadFormPics();

@@ -154,14 +154,29 @@ bool myDB::connectToDB(const QString &file)
     // leave) is a new season: it gets its tables.
     if (tlynData->execAndGet("SELECT COUNT(*) FROM sqlite_master").getInt() == 0)
         return createSchema(file);
+    addIndexes();
     return true;
+}
+
+void myDB::addIndexes()
+{
+    // A season made before the indexes existed gets them now. They only
+    // speed up lookups, so a file that can't take them (a full disk) is
+    // still opened and works as before.
+    try {
+        SQLite::Transaction transaction(*tlynData);
+        for (const QString &statement : schema::indexStatements())
+            tlynData->exec(utf8(statement));
+        transaction.commit();
+    } catch (const SQLite::Exception &) {
+    }
 }
 
 bool myDB::createSchema(const QString &file)
 {
     try {
         SQLite::Transaction transaction(*tlynData, SQLite::TransactionBehavior::IMMEDIATE);
-        for (const QString &statement : schema::createStatements())
+        for (const QString &statement : schema::createStatements() + schema::indexStatements())
             tlynData->exec(utf8(statement));
         transaction.commit();
     } catch (const SQLite::Exception &) {

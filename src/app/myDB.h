@@ -108,6 +108,7 @@ private:
     bool connectToDB(const QString &file);
     bool createDBFile(const QString &file);
     bool createSchema(const QString &file);
+    void addIndexes();
     static void creationFailed(const QString &file);
     void notOpened(const QString &message, const QString &explanation);
     void configureConnection();

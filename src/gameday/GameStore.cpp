@@ -144,6 +144,15 @@ bool GameStore::exists(const QString &schedID) const
     return m_db.scalar(QStringLiteral("SELECT COUNT(*) FROM Games WHERE schedID = ?"), {schedID}).toInt() > 0;
 }
 
+std::optional<bool> GameStore::storedRecorded(const QString &schedID) const
+{
+    const QList<Record> rows = m_db.select(
+        QStringLiteral("SELECT recorded FROM Games WHERE schedID = ? ORDER BY gameID LIMIT 1"), {schedID});
+    if (rows.isEmpty())
+        return std::nullopt;
+    return rows.first().integer(QStringLiteral("recorded")) != 0;
+}
+
 bool GameStore::create(const GameRecord &record)
 {
     Fields f{{QStringLiteral("schedID"), record.schedID}};

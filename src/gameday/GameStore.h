@@ -56,6 +56,9 @@ public:
     // The game's row, when it has one.
     std::optional<GameRecord> load(const QString &schedID) const;
     bool exists(const QString &schedID) const;
+    // The stored "recorded" flag alone, without reading the strings; empty
+    // when the event has no row.
+    std::optional<bool> storedRecorded(const QString &schedID) const;
     // Inserts the row of a new game (benches and headings; the other team
     // strings are written as given).
     bool create(const GameRecord &record);

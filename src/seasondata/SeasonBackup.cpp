@@ -8,12 +8,14 @@
 #include <SQLiteCpp/Database.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #ifdef Q_OS_WIN
@@ -162,6 +164,49 @@ bool BackupJob::step(int pages)
 {
     if (!m_backup)
         return false;
+    if (m_intoLive)
+        return restoreStep(pages);
+    return copyStep(pages);
+}
+
+bool BackupJob::restoreStep(int pages)
+{
+    // Pages written into the live season may make SQLite sync its journal
+    // when its cache spills, so a batch that takes a moment on a copy can
+    // hold the window much longer here: the batch goes in small slices and
+    // stops early once it has taken its share of the window's time.
+    constexpr int kSlice = 16;
+    constexpr qint64 kBudgetNs = 20'000'000;
+    QElapsedTimer spent;
+    spent.start();
+    bool more = true;
+    for (int done = 0; more && done < pages && spent.nsecsElapsed() < kBudgetNs; done += kSlice) {
+        more = copyStep(std::min(kSlice, pages - done));
+        if (more)
+            flushSeasonFile();
+    }
+    return more;
+}
+
+void BackupJob::flushSeasonFile()
+{
+    // The commit at the end syncs the season file, and with it every page
+    // the system still holds unwritten: for a big season that one sync
+    // would hold the window for a long moment. Synced every few megabytes
+    // instead, the pages reach the disk along the way and the commit's
+    // sync has little left to do.
+    constexpr int kPagesBetweenSyncs = 1024;
+    const int copied = sqlite3_backup_pagecount(m_backup) - sqlite3_backup_remaining(m_backup);
+    if (copied - m_syncedPages < kPagesBetweenSyncs)
+        return;
+    m_syncedPages = copied;
+    sqlite3_file *file = nullptr;
+    if (sqlite3_file_control(m_source, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK && file && file->pMethods)
+        file->pMethods->xSync(file, SQLITE_SYNC_NORMAL);
+}
+
+bool BackupJob::copyStep(int pages)
+{
     const int rc = sqlite3_backup_step(m_backup, pages);
     if (rc == SQLITE_OK || rc == SQLITE_BUSY || rc == SQLITE_LOCKED)
         return true; // more to copy, or try again on the next step
@@ -194,6 +239,10 @@ bool BackupJob::endCopy()
     if (m_intoLive) {
         closeWork();
         m_done = true;
+        // A backup made before the lookups had their indexes gets them, as
+        // the season would when opened; they change no stored value.
+        for (const QString &statement : schema::indexStatements())
+            sqlite3_exec(m_source, statement.toUtf8().constData(), nullptr, nullptr, nullptr);
     }
     return true;
 }

@@ -46,7 +46,8 @@ public:
     // another backup into the same file is running (SQLITE_BUSY): one
     // backup at a time per file, in this program or another.
     bool start();
-    // Copies up to `pages` pages; true while pages remain.
+    // Copies up to `pages` pages; true while pages remain. A restore stops
+    // a batch early rather than hold the caller's thread past about 20 ms.
     bool step(int pages = 256);
     // 0 to 1.
     double progress() const;
@@ -70,6 +71,9 @@ public:
 private:
     bool fail(int code, const QString &message);
     void closeWork();
+    bool copyStep(int pages);
+    bool restoreStep(int pages);
+    void flushSeasonFile();
 
     sqlite3 *m_source;
     QString m_target;
@@ -79,6 +83,7 @@ private:
     std::unique_ptr<QLockFile> m_lock; // held on the working name while it is ours
     int m_sourcePages = 0;             // the source's size when the copy ended
     bool m_done = false;
+    int m_syncedPages = 0; // restoring: pages copied at the last sync of the season file
     int m_errorCode = 0;
     QString m_errorMessage;
 };

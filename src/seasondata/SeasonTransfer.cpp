@@ -147,7 +147,7 @@ bool SeasonTransfer::doTransfer(const QString &name, const QStringList &teamIDs,
 
     try {
         SQLite::Transaction transaction(*db, SQLite::TransactionBehavior::IMMEDIATE);
-        for (const QString &statement : schema::createStatements())
+        for (const QString &statement : schema::createStatements() + schema::indexStatements())
             db->exec(statement.toStdString());
         for (const QString &id : teamIDs) {
             const qint64 team = id.toLongLong();

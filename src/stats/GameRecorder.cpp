@@ -151,14 +151,15 @@ GameRecorder::Result GameRecorder::record(const QString &schedID, int runsA, int
 
 GameRecorder::Result GameRecorder::record(const gameday::GameRecord &game, int runsA, int runsB)
 {
-    const std::optional<gameday::GameRecord> stored = gameday::GameStore(m_db).load(game.schedID);
-    if (!stored) {
+    // The stored flag decides, not the caller's copy: a game is added to
+    // the season once. The caller's copy holds the strings, so only the flag
+    // is read.
+    const std::optional<bool> recorded = gameday::GameStore(m_db).storedRecorded(game.schedID);
+    if (!recorded) {
         showMissing();
         return Result::NoGame;
     }
-    // The stored flag decides, not the caller's copy: a game is added to
-    // the season once.
-    if (stored->recorded)
+    if (*recorded)
         return Result::AlreadyRecorded;
     Result result = Result::Failed;
     try {

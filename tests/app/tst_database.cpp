@@ -369,6 +369,72 @@ private Q_SLOTS:
         QCOMPARE(db.scalar(QStringLiteral("SELECT TeamName FROM Teams")).toString(), QStringLiteral("Hawks"));
     }
 
+    // A season written before the indexes existed gets them when it is
+    // opened, with every stored value as it was, and the lookups use them.
+    void olderSeasonGetsIndexes()
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir dir;
+        const QString path = QDir(dir.path()).filePath(myDB::getCurDBFileName(QStringLiteral("2019")));
+        const auto dump = [&] {
+            SQLite::Database raw(path.toStdString());
+            QStringList rows;
+            for (const QString &table : schema::tableNames()) {
+                SQLite::Statement all(raw, "SELECT * FROM " + table.toStdString() + " ORDER BY rowid");
+                while (all.executeStep()) {
+                    QStringList values{table};
+                    for (int c = 0; c < all.getColumnCount(); ++c)
+                        values << QString::number(all.getColumn(c).getType()) +
+                                      QString::fromUtf8(
+                                          QByteArray(static_cast<const char *>(all.getColumn(c).getBlob()),
+                                                     all.getColumn(c).getBytes()));
+                    rows << values.join(u'|');
+                }
+            }
+            return rows;
+        };
+        {
+            SQLite::Database old(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+            for (const QString &statement : schema::createStatements())
+                old.exec(statement.toStdString());
+            old.exec("INSERT INTO Games (schedID, TeamAPlayers, recorded) VALUES ('12', '1\tP\tAl', 0), (7, "
+                     "'x', 1)");
+            old.exec("INSERT INTO GamesIndivPitching (gameID, playerID, stats, totKs) VALUES ('12', 3, '4.2', 6)");
+            old.exec("INSERT INTO Hitting (playerID, AB, B1) VALUES (3, 40, 12)");
+            old.exec("INSERT INTO Players (TeamNum, Last, PlayerPic) VALUES (1, 'O''Hara', x'00ff10')");
+        }
+        const QStringList before = dump();
+        QCOMPARE(before.size(), 5);
+
+        {
+            myDB db(dir.path(), QStringLiteral("2019"));
+            QVERIFY(db.isConnected());
+            QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'index' AND name LIKE "
+                                              "'idx_%'"))
+                         .toInt(),
+                     int(schema::indexStatements().size()));
+            // The values bound as the program binds them: ids of game rows as text.
+            const QList<std::pair<QString, QString>> lookups = {
+                {QStringLiteral("SELECT * FROM Games WHERE schedID = ?"), QStringLiteral("idx_Games_schedID")},
+                {QStringLiteral("SELECT * FROM GamesIndivPitching WHERE gameID = ?"),
+                 QStringLiteral("idx_GamesIndivPitching_gameID")},
+                {QStringLiteral("SELECT * FROM GamesIndivHitting WHERE playerID = ?"),
+                 QStringLiteral("idx_GamesIndivHitting_playerID")},
+                {QStringLiteral("SELECT * FROM Hitting WHERE playerID IN (?)"), QStringLiteral("idx_Hitting_playerID")},
+            };
+            for (const auto &[sql, index] : lookups) {
+                const QList<Record> plan = db.select(QStringLiteral("EXPLAIN QUERY PLAN ") + sql,
+                                                     {QStringLiteral("12")});
+                QVERIFY2(!plan.isEmpty() && plan.first().text(QStringLiteral("detail")).contains(index),
+                         qPrintable(sql));
+            }
+            QCOMPARE(db.select(QStringLiteral("SELECT TeamAPlayers FROM Games WHERE schedID = ?"), {7}).size(), 1);
+        }
+        myDB again(dir.path(), QStringLiteral("2019")); // opening again changes nothing either
+        QVERIFY(again.isConnected());
+        QCOMPARE(dump(), before);
+    }
+
     void cleanUpCompacts()
     {
         fakes::FakePlatform fake;

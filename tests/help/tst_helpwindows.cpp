@@ -44,12 +44,12 @@ struct Session
     {
         app.Event_Open();
         // Each test sets the forms it needs.
-        gFormPics.clear();
+        gFormFiles.clear();
         gFormNames.clear();
     }
     ~Session()
     {
-        gFormPics.clear();
+        gFormFiles.clear();
         gFormNames.clear();
     }
 };
@@ -247,12 +247,13 @@ private Q_SLOTS:
         QFETCH(QSize, shown);
         QFETCH(QSizeF, page);
         Session s;
-        gFormPics = {form};
+        QVERIFY(!form.isNull());
+        gFormFiles = {s.home.filePath(QStringLiteral("Form.png"))};
         gFormNames = {QStringLiteral("Form.png")};
+        QVERIFY(form.save(gFormFiles.first()));
         s.fake.printing.copies = copies;
         formsScrn screen;
         QCOMPARE(screen.formsList->cell(0, 0), QStringLiteral("Form.png"));
-        QVERIFY(!form.isNull());
         if (shown.isValid())
             QCOMPARE(screen.displayCnv->size(), shown);
         QTest::mouseClick(screen.printBtn, Qt::LeftButton);
@@ -262,6 +263,19 @@ private Q_SLOTS:
         const QSizeF size = pdfPageSize(pdf);
         QVERIFY2(qAbs(size.width() - page.width()) < 1 && qAbs(size.height() - page.height()) < 1,
                  qPrintable(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height())));
+    }
+
+    // The forms are listed at open and each picture is read when shown.
+    void formsFoundAtOpen()
+    {
+        Session s;
+        loadFormPics();
+        formsScrn screen;
+        QCOMPARE(screen.formsList->rowCount(), 3);
+        QCOMPARE(screen.formsList->cell(0, 0), QStringLiteral("Line-up Card.png"));
+        for (int row = 0; row < 3; ++row)
+            QVERIFY(!screen.picture(row).isNull());
+        QVERIFY(screen.printBtn->isEnabled());
     }
 
     void formsWithoutFolder()

@@ -451,6 +451,8 @@ private Q_SLOTS:
         Session f;
         f.addTeam(QStringLiteral("Lincoln"), QStringLiteral("Lions"));
         const QString backup = f.home.filePath(QStringLiteral("tlData_old.sqlite"));
+        // A backup from before the indexes: a restore adds them back.
+        QVERIFY(gData->exec(QStringLiteral("DROP INDEX idx_Games_schedID")));
         seasondata::BackupJob job(gData->tlynData->getHandle(), backup);
         QVERIFY(job.runToEnd());
         if (!sound)
@@ -473,6 +475,9 @@ private Q_SLOTS:
             QTRY_COMPARE(dialog->statusLbl->text(), status);
         const bool restored = status == u"The season was restored.";
         QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), restored ? backedUp : later);
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE name = 'idx_Games_schedID'"))
+                     .toInt(),
+                 restored ? 1 : 0);
         // The season as it stood is kept first, and only when it is replaced.
         const QStringList kept = QDir(f.dataFolder()).entryList({QStringLiteral("*.kept")}, QDir::Files);
         QCOMPARE(kept.size(), restored ? 1 : 0);

@@ -9,6 +9,7 @@
 #include "support/ui/qlmLabel.h"
 
 #include <QHBoxLayout>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -29,27 +30,29 @@ QSizeF pointSize(const QImage &picture)
 class FormCanvas : public QWidget
 {
 public:
-    FormCanvas(const int &which, QWidget *parent) : QWidget(parent), m_which(which) {}
+    FormCanvas(formsScrn *screen, QWidget *parent) : QWidget(parent), m_screen(screen) {}
 
     void refresh()
     {
-        if (m_which >= 0 && m_which < gFormPics.size())
-            setFixedSize((pointSize(gFormPics.at(m_which)) * 0.8).toSize());
+        const QImage &shown = m_screen->picture(m_screen->whichP);
+        if (!shown.isNull())
+            setFixedSize((pointSize(shown) * 0.8).toSize());
         update();
     }
 
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        if (m_which < 0 || m_which >= gFormPics.size() || gFormPics.at(m_which).isNull())
+        const QImage &shown = m_screen->picture(m_screen->whichP);
+        if (shown.isNull())
             return;
         QPainter p(this);
         p.setRenderHint(QPainter::SmoothPixmapTransform);
-        p.drawImage(rect(), gFormPics.at(m_which));
+        p.drawImage(rect(), shown);
     }
 
 private:
-    const int &m_which;
+    formsScrn *m_screen;
 };
 
 } // namespace
@@ -77,7 +80,7 @@ formsScrn::formsScrn(QWidget *parent) : ScreenBase(ScreenId::formsScrn, QStringL
     left->addLayout(buttons);
     outer->addLayout(left);
 
-    auto *canvas = new FormCanvas(whichP, central);
+    auto *canvas = new FormCanvas(this, central);
     displayCnv = form::named(canvas, QStringLiteral("displayCnv"), QStringLiteral("The chosen form"));
     auto *scroller = form::named(new QScrollArea(central), QStringLiteral("formScroller"),
                                  QStringLiteral("Form picture"));
@@ -87,6 +90,8 @@ formsScrn::formsScrn(QWidget *parent) : ScreenBase(ScreenId::formsScrn, QStringL
     setCentralWidget(central);
     resize(900, 640);
 
+    m_pictures.resize(gFormFiles.size());
+    m_decoded.resize(gFormFiles.size());
     if (gFormNames.isEmpty()) {
         formsList->addRow({QStringLiteral("tlynForms folder not available")});
         printBtn->setEnabled(false);
@@ -113,12 +118,24 @@ formsScrn::formsScrn(QWidget *parent) : ScreenBase(ScreenId::formsScrn, QStringL
     menus()->installPrinterSetup();
 }
 
+const QImage &formsScrn::picture(int which)
+{
+    static const QImage none;
+    if (which < 0 || which >= m_pictures.size())
+        return none;
+    if (!m_decoded.at(which)) {
+        m_decoded[which] = true;
+        m_pictures[which] = QImageReader(gFormFiles.at(which)).read();
+    }
+    return m_pictures.at(which);
+}
+
 void formsScrn::printForm()
 {
     // Nothing to print while no form was found, even from the menu.
-    if (whichP < 0 || whichP >= gFormPics.size() || gFormPics.at(whichP).isNull())
+    const QImage &picture = this->picture(whichP);
+    if (picture.isNull())
         return;
-    const QImage picture = gFormPics.at(whichP);
     // A fresh set-up each time, turned to fit the picture: a page is 612
     // points wide standing up.
     platform::PrinterSetup setup;

@@ -2,6 +2,9 @@
 
 #include "app/ui/ScreenBase.h"
 
+#include <QImage>
+#include <QList>
+
 class QPushButton;
 class qlmLabel;
 class qlmListBox;
@@ -9,7 +12,8 @@ class myInfoBtn;
 
 // The blank forms a coach prints for the field: the pictures found in the
 // forms folder at start, one shown at a time, printed at their own size on
-// a page turned to fit.
+// a page turned to fit. A picture is decoded when it is first shown or
+// printed and let go with the window.
 class formsScrn : public ScreenBase
 {
     Q_OBJECT
@@ -18,6 +22,9 @@ public:
     explicit formsScrn(QWidget *parent = nullptr);
 
     void printForm();
+    // The chosen form's picture, decoded at the first call; null when there
+    // is none or its file can't be read.
+    const QImage &picture(int which);
 
     int whichP = 0;
     qlmListBox *formsList = nullptr;
@@ -29,4 +36,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QList<QImage> m_pictures;
+    QList<bool> m_decoded;
 };

@@ -24,6 +24,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -129,6 +130,14 @@ class TestGameDayScrn : public QObject
     }
     // The cell editor open in the RBI and SB list.
     QWidget *statEditor() const { return m_scr->batterStatLB->indexWidget(m_scr->batterStatLB->currentIndex()); }
+    template<class T>
+    T *ctl(const char *name) const
+    {
+        T *found = m_scr->findChild<T *>(QString::fromLatin1(name));
+        if (!found)
+            qFatal("no control %s", name);
+        return found;
+    }
     QStringList board(int team) const
     {
         QStringList out;
@@ -161,7 +170,7 @@ private Q_SLOTS:
     {
         qRegisterMetaType<AutoFillData>();
         screens::registerScreen(ScreenId::gameDayScrn,
-                                [](const QVariant &id) { return new gameDayScrn(id.toString()); });
+                                [](const QVariant &id) { return gameDayScrn::openFor(id.toString()); });
     }
 
     void playAGame()
@@ -256,16 +265,20 @@ private Q_SLOTS:
         QVERIFY(!m_scr->myBatCtr->isVisible());
         QVERIFY(!m_scr->UDBatStatsBtn->isChecked());
         m_scr->fldStatsBtn->click();
+        m_scr->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_scr));
+        m_scr->myFldCtr->dataFld(5)->setFocus();
         m_scr->myFldCtr->dataFld(5)->setText(QString());
         QTest::keyClicks(m_scr->myFldCtr->dataFld(5), QStringLiteral("2x"));
         QCOMPARE(season.fake.beeper.beeps, 1);
+        m_scr->myFldCtr->dataFld(6)->setFocus();
+        QCOMPARE(m_scr->errsFld[0]->text(), QStringLiteral("2")); // at once, the panel still open
         m_scr->fldStatsBtn->click();
-        QCOMPARE(m_scr->errsFld[0]->text(), QStringLiteral("2"));
 
         m_scr->Names_PosLB->setSelectedRow(10);
         QVERIFY(m_scr->pitchStatsBtn->isEnabled());
         m_scr->pitchStatsBtn->click();
-        QVERIFY(m_scr->scoreCardLB->grid().disableCellClick);
+        QVERIFY(m_scr->scoreCardLB->grid().clickDisabled());
         QLineEdit *ip = m_scr->myPitchCtr->dataFld(0);
         ip->setText(QString());
         QTest::keyClicks(ip, QStringLiteral("6.3"));
@@ -361,17 +374,133 @@ private Q_SLOTS:
             addByPos({"C", "B1", "B2"});
             inning(0, {"0:GO", "1:FO", "2:KS"});
         }
-        if (recorded)
-            m_scr->game().setRecorded();
         QVERIFY(m_scr->close());
+        if (recorded) // as recording marks it
+            gData->exec(QStringLiteral("UPDATE Games SET recorded = 1 WHERE schedID = ?"), {season.schedID()});
         openFromSchedule(season);
         QCOMPARE(m_scr->finalizeBtn->isVisible(), button);
         QCOMPARE(m_scr->dataRecordedLabel->isVisible(), label);
+        // A recorded game is shown read-only, and says so.
+        QCOMPARE(m_scr->InstrFld->text().startsWith(QStringLiteral("This game is recorded")), recorded);
+        QCOMPARE(m_scr->findChild<QPushButton *>(QStringLiteral("removeBtn"))->isEnabled(), false);
+        QCOMPARE(m_scr->findChild<QComboBox *>(QStringLiteral("gameTypePop"))->isEnabled(), !recorded);
+        if (recorded) {
+            m_scr->Names_PosLB->setSelectedRow(0);
+            QVERIFY(!m_scr->findChild<QPushButton *>(QStringLiteral("UDBatStatsBtn"))->isEnabled());
+            m_codes.enqueue(QStringLiteral("HR"));
+            m_scr->scoreCardLB->setCurrentCell(0, 1);
+            QTest::keyClick(m_scr->scoreCardLB, Qt::Key_Return);
+            QCOMPARE(m_scr->scoreCardLB->grid().cellText(0, 1), QString());
+        }
         QCOMPARE(GameStore(*gData).load(season.schedID())->recorded, recorded);
         m_scr->close();
     }
 
-    // A panel writes its row only when something was changed in it.
+    // "Enter Game Data" on a game already open brings that window forward:
+    // two windows would each write their own copy of the card.
+    void oneWindowPerGame()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        gameDayScrn *first = m_scr;
+        auto *schedule = new scheduleScrn;
+        schedule->show();
+        schedule->findChild<qlmListBox *>(QStringLiteral("ScheduleListbox"))->setSelectedRow(0);
+        schedule->findChild<QPushButton *>(QStringLiteral("enterDataBtn"))->click();
+        int windows = 0;
+        for (QWidget *w : QApplication::topLevelWidgets())
+            windows += qobject_cast<gameDayScrn *>(w) && w->isVisible() ? 1 : 0;
+        QCOMPARE(windows, 1);
+        QCOMPARE(shown<gameDayScrn>(), first);
+        // The team buttons name their teams.
+        auto *teamA = ctl<QRadioButton>("TeamBtn_0");
+        QCOMPARE(teamA->text(), QStringLiteral("O'Brien's Nine"));
+        QVERIFY(teamA->accessibleName().contains(QStringLiteral("O'Brien's Nine")));
+        QVERIFY(ctl<QRadioButton>("TeamBtn_1")->accessibleName().contains(QStringLiteral("Bears")));
+        schedule->close();
+        m_scr->close();
+    }
+
+    // The panels' buttons follow the lineup row shown selected, across a
+    // change of team too.
+    void panelButtonsFollowTheSelection()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        addByPos({"C", "RHP"});
+        auto *lineup = ctl<BBPlayersLB>("Names_PosLB");
+        auto *fielding = ctl<QPushButton>("fldStatsBtn");
+        auto *pitching = ctl<QPushButton>("pitchStatsBtn");
+        lineup->setSelectedRow(1);
+        QVERIFY(fielding->isEnabled() && pitching->isEnabled());
+        lineup->setSelectedRow(0);
+        QVERIFY(fielding->isEnabled() && !pitching->isEnabled());
+        QVERIFY(!pitching->toolTip().isEmpty()); // says why not
+        for (const int team : {1, 0}) {
+            ctl<QRadioButton>(team == 1 ? "TeamBtn_1" : "TeamBtn_0")->click();
+            QCOMPARE(fielding->isEnabled(), lineup->selectedRow() >= 0);
+        }
+        lineup->setSelectedRow(1);
+        QVERIFY(pitching->isEnabled());
+        m_scr->close();
+    }
+
+    // RBI and SB: one click opens a cell, and a digit typed on the current
+    // cell goes into it.
+    void batterStatsOneClick()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        addByPos({"C", "B1"});
+        auto *stats = ctl<qlmListBox>("batterStatLB");
+        const QRect cell = stats->visualRect(stats->model()->index(1, 0));
+        QTest::mouseClick(stats->viewport(), Qt::LeftButton, {}, cell.center());
+        QVERIFY(stats->isEditingCell());
+        QTest::keyClick(statEditor(), Qt::Key_Escape);
+        QVERIFY(!stats->isEditingCell());
+        QTest::keyClick(stats, Qt::Key_3);
+        QVERIFY(stats->isEditingCell());
+        QTest::keyClick(statEditor(), Qt::Key_Return);
+        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(1).rbi,
+                 QStringLiteral("3"));
+        m_scr->close();
+    }
+
+    // Auto-fill says what to click, and Escape or a change of team leaves
+    // it: the pitcher's team and his panel come back, nothing filled.
+    void autoFillWayOut_data()
+    {
+        QTest::addColumn<QString>("leave");
+        QTest::newRow("Escape") << "escape";
+        QTest::newRow("a team button") << "team";
+    }
+    void autoFillWayOut()
+    {
+        QFETCH(QString, leave);
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        addByPos({"RHP"});
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(0);
+        ctl<QPushButton>("pitchStatsBtn")->click();
+        continueAutoFill();
+        m_scr->myPitchCtr->autoFillButton()->click();
+        QCOMPARE(m_scr->game().curSelTeam(), 1);
+        auto *instruction = ctl<QLabel>("InstrFld");
+        QVERIFY(instruction->text().contains(QStringLiteral("first batter")));
+        if (leave == u"escape")
+            QTest::keyClick(ctl<BBScoringLB>("scoreCardLB"), Qt::Key_Escape);
+        else
+            ctl<QRadioButton>("TeamBtn_0")->click();
+        QCOMPARE(m_scr->game().curSelTeam(), 0);
+        QVERIFY(!m_scr->game().autoFillRunning());
+        QVERIFY(!gIsAutoFillMode);
+        QVERIFY(!instruction->text().contains(QStringLiteral("Auto-fill")));
+        QCOMPARE(m_scr->myPitchCtr->isVisible(), leave == u"escape");
+        m_scr->close();
+    }
+
+    // A panel writes its row only when something was changed in it, as
+    // each field is left (and each button clicked), before it closes.
     void panelsWriteWhatWasTyped_data()
     {
         QTest::addColumn<QString>("panel");
@@ -403,6 +532,9 @@ private Q_SLOTS:
                           : panel == u"fldStatsBtn" ? static_cast<StatPanel *>(m_scr->myFldCtr)
                                                     : static_cast<StatPanel *>(m_scr->myPitchCtr);
         QVERIFY(open->isVisible());
+        m_scr->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_scr));
+        open->dataFld(1)->setFocus();
         if (typed == u"Win") {
             m_scr->myPitchCtr->gameBtn(0)->click();
         } else {
@@ -413,14 +545,18 @@ private Q_SLOTS:
                     QTest::keyClick(open->dataFld(1), c.toLatin1());
             }
         }
-        QTest::keyClick(open->dataFld(0), Qt::Key_Escape);
-        QVERIFY(!open->isVisible());
+        open->dataFld(0)->setFocus();
         const stats::Panel kind = panel == u"UDBatStatsBtn" ? stats::Panel::Batting
                                   : panel == u"fldStatsBtn" ? stats::Panel::Fielding
                                                             : stats::Panel::Pitching;
         const QString player = m_scr->game().lineup().at(0).playerID;
-        const std::optional<QString> row = stats::GameStatStore(*gData).stats(kind, season.schedID(), player);
-        QCOMPARE(row.value_or(QString()), stored);
+        auto storedRow = [&] {
+            return stats::GameStatStore(*gData).stats(kind, season.schedID(), player).value_or(QString());
+        };
+        QCOMPARE(storedRow(), stored); // the panel still open
+        QTest::keyClick(open->dataFld(0), Qt::Key_Escape);
+        QVERIFY(!open->isVisible());
+        QCOMPARE(storedRow(), stored);
         if (kind == stats::Panel::Pitching)
             QCOMPARE(stats::GameStatStore(*gData).pitching(season.schedID(), player)->gameResult, 1);
         m_scr->close();

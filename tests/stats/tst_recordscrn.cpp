@@ -166,6 +166,58 @@ private Q_SLOTS:
         scr->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+
+    // The score recorded is the cards', worked out anew when the coach
+    // records: a walk-off run after "Cancel" to "Is this game over?" left
+    // the board behind, and still wins. The check window shows the score.
+    void walkOffIsAWin()
+    {
+        gamedaytest::Season s(1); // the Bears bat first, the home team last
+        gPrefs->prInnings = QStringLiteral("1 Innings");
+        auto *scr = new gameDayScrn(s.schedID());
+        scr->show();
+        gameday::GameDay &game = scr->game();
+        QTRY_COMPARE(game.curSelTeam(), 0);
+        playTeam(game, {"C", "B1", "B2", "B3"}, {{0, 0, "HR"}, {1, 0, "GO"}, {2, 0, "KS"}, {3, 0, "FO"}});
+        scr->findChild<QRadioButton *>(QStringLiteral("TeamBtn_1"))->click();
+        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        for (const QString &pos : {"C", "B1"}) {
+            for (int i = 0; i < game.roster().size(); ++i) {
+                if (game.roster().at(i).pos == pos) {
+                    game.addPlayerToLineup(i);
+                    break;
+                }
+            }
+        }
+        game.card().applyChoice(0, 0, QStringLiteral("HR"));
+        game.card().applyChoice(1, 0, QStringLiteral("HR"));
+        QCOMPARE(s.fake.messages.texts().count(QStringLiteral("Is this game over?")), 2);
+
+        QString marks;
+        QString score;
+        auto *poll = new QTimer;
+        poll->setInterval(5);
+        QObject::connect(poll, &QTimer::timeout, poll, [poll, &score] {
+            for (QWidget *w : QApplication::topLevelWidgets()) {
+                auto *check = qobject_cast<finalCheckScrn *>(w);
+                if (!check || !check->isVisible())
+                    continue;
+                score = check->findChild<QLabel *>(QStringLiteral("scoreLabel"))->text();
+                poll->stop();
+                poll->deleteLater();
+            }
+        });
+        poll->start();
+        answerChecks(QStringLiteral("recordBtn"), marks);
+        scr->findChild<QPushButton *>(QStringLiteral("finalizeBtn"))->click();
+        QCOMPARE(score, QStringLiteral("Bears 1, O'Brien's Nine 2"));
+        QCOMPARE(Season::record(QString::number(s.homeID)), QStringLiteral("1-0-0"));
+        QCOMPARE(Season::record(QString::number(s.bearsID)), QStringLiteral("0-1-0"));
+        QCOMPARE(scr->findChild<QLineEdit *>(QStringLiteral("runsFld_1"))->text(), QStringLiteral("2"));
+        scr->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 };
 
 QTEST_MAIN(TestRecordScrn)

@@ -4,6 +4,7 @@
 // label) or leaves everything as it was, as a database failure does.
 
 #include "RecordTestSupport.h"
+#include "fakes/TestKit.h"
 #include "gameday/GameDayTestSupport.h"
 #include "gameday/ui/BBPlayersLB.h"
 #include "gameday/ui/gameDayScrn.h"
@@ -130,36 +131,36 @@ private Q_SLOTS:
                  {{0, 0, "HR"}, {1, 0, "GO"}, {2, 0, "KS"}, {3, 0, "FO"}, {0, 1, "B2"}, {0, 1, "xLOB"}});
         game.setBatterStat(0, 0, "1");
         game.setBatterStat(1, 1, "1");
-        scr->TeamBtn[0]->click();
+        testkit::child<QRadioButton>(scr, "TeamBtn_0")->click();
         playTeam(game, {"C", "B1"}, {{0, 0, "B1"}, {0, 0, "xRUN"}, {1, 0, "HR"}});
         game.setBatterStat(1, 0, "1");
         stats::GameStatStore(*gData).savePitching(s.schedID(), "16", bears,
                                                   {2, true, false, false, 20, 30, "5.1\t12\t4"});
         // The catcher's fielding panel open with a figure typed; a change of
         // team saves and closes it, else recording does.
-        scr->Names_PosLB->setSelectedRow(0);
-        scr->fldStatsBtn->click();
-        scr->myFldCtr->dataFld(0)->selectAll();
-        QTest::keyClicks(scr->myFldCtr->dataFld(0), "9");
+        testkit::child<BBPlayersLB>(scr, "Names_PosLB")->setSelectedRow(0);
+        testkit::child<QPushButton>(scr, "fldStatsBtn")->click();
+        testkit::child<FieldingCtr>(scr, "myFldCtr")->dataFld(0)->selectAll();
+        QTest::keyClicks(testkit::child<FieldingCtr>(scr, "myFldCtr")->dataFld(0), "9");
         if (view == 1)
-            scr->TeamBtn[1]->click();
-        QVERIFY(scr->finalizeBtn->isVisible());
+            testkit::child<QRadioButton>(scr, "TeamBtn_1")->click();
+        QVERIFY(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible());
         if (answer == u"fail")
             recordtest::failAtWrite(3);
 
         QString marks;
         answerChecks(answer == u"fail" ? QStringLiteral("recordBtn") : answer, marks);
-        scr->finalizeBtn->setFocus();
-        QTest::keyClick(scr->finalizeBtn, Qt::Key_Space);
+        testkit::child<QPushButton>(scr, "finalizeBtn")->setFocus();
+        QTest::keyClick(testkit::child<QPushButton>(scr, "finalizeBtn"), Qt::Key_Space);
 
         // RBI 1 against 2 runs for the home team, whose first inning has no
         // outs; every at bat has its result; both panels saved.
         QCOMPARE(marks, QStringLiteral("0011"));
-        QVERIFY(!scr->myFldCtr->isVisible());
+        QVERIFY(!testkit::child<FieldingCtr>(scr, "myFldCtr")->isVisible());
         QCOMPARE(seasonDump(home, bears, s.schedID()), season);
         const bool done = season.endsWith("recorded");
-        QCOMPARE(scr->finalizeBtn->isVisible(), !done);
-        QCOMPARE(scr->dataRecordedLabel->isVisible(), done);
+        QCOMPARE(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible(), !done);
+        QCOMPARE(testkit::child<QLabel>(scr, "dataRecordedLabel")->isVisible(), done);
         QCOMPARE(s.fake.messages.texts().contains("The game data has been successfully recorded."), done);
         if (answer == u"fail")
             QVERIFY(s.fake.messages.texts().last().startsWith("Database Error"));

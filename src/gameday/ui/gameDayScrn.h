@@ -43,7 +43,13 @@ public:
     bool isOpen() const { return m_opened; }
     void printLineup();
 
-    // Controls, by the names the program gives them.
+protected:
+    bool mayClose() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    // Controls, each with the name the program gives it as its objectName
+    // (tests find them by it).
     BBScoringLB *scoreCardLB = nullptr;
     BBPlayersLB *Names_PosLB = nullptr;
     qlmListBox *rosterList = nullptr;
@@ -77,11 +83,6 @@ public:
     QPushButton *closeBtn = nullptr;
     QTimer switchTeamTimer;
 
-protected:
-    bool mayClose() override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
     QLayout *buildTop(QWidget *central);
     QLayout *buildBench(QWidget *central);
     QWidget *buildGridArea(QWidget *central);

@@ -224,8 +224,14 @@ bool GameDay::isThereAPitcher() const
 
 void GameDay::setRecorded()
 {
+    // From now on the game is the season's: it is shown read-only, as it
+    // would be opened again.
     m_rec.recorded = true;
+    m_lock = Lock::Recorded;
+    m_dirty = false;
+    applyClickLock();
     Q_EMIT finalizeVisibleChanged(false);
+    Q_EMIT teamShown();
 }
 
 void GameDay::setGameType(const QString &type)

@@ -82,7 +82,8 @@ public:
     // "Record Game Data" shows from the first three-out inning of a game
     // not yet recorded, and at once when such a game is opened again.
     bool finalizeVisible() const { return m_finalizeVisible && !m_rec.recorded; }
-    // Marks the game recorded (after the season totals were written).
+    // Marks the game recorded (after the season totals were written); it
+    // is read-only from then on.
     void setRecorded();
 
     QString gameType() const { return m_rec.gameType; }

@@ -13,6 +13,7 @@
 #include "stats/ui/finalCheckScrn.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -161,6 +162,7 @@ private Q_SLOTS:
         const bool done = season.endsWith("recorded");
         QCOMPARE(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible(), !done);
         QCOMPARE(testkit::child<QLabel>(scr, "dataRecordedLabel")->isVisible(), done);
+        QCOMPARE(testkit::child<QComboBox>(scr, "gameTypePop")->isEnabled(), !done); // read-only once recorded
         QCOMPARE(s.fake.messages.texts().contains("The game data has been successfully recorded."), done);
         if (answer == u"fail")
             QVERIFY(s.fake.messages.texts().last().startsWith("Database Error"));

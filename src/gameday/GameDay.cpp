@@ -173,8 +173,8 @@ void GameDay::fillScoreCard()
         return;
     }
     // A card with more lines than lineup rows is refused whole: no colours
-    // without their at bats.
-    if (m_card.setMyData(s.actions))
+    // without their at bats. The game said so once when it opened.
+    if (splitLines(s.actions).size() <= m_lineup.size() && m_card.setMyData(s.actions))
         m_card.setMyBkgArray(s.outcomes);
     else
         m_card.initCellBkg(kBkgCols - 1);

@@ -404,7 +404,8 @@ private Q_SLOTS:
         GameDay game(*gData, card);
         QVERIFY(game.open(season.schedID()));
         QCOMPARE(game.isReadOnly(), readOnly);
-        QCOMPARE(season.fake.messages.texts().contains("There is an error in the saved data."), readOnly);
+        QCOMPARE(season.fake.messages.texts(),
+                 readOnly ? QStringList{"There is an error in the saved data."} : QStringList{});
         QCOMPARE(card.cellText(0, 0), firstCell);
         // A click, a change and a team switch: a read-only card stays as stored.
         popover.script({"KS"});

@@ -423,6 +423,7 @@ private Q_SLOTS:
         QCOMPARE(teamA->text(), QStringLiteral("O'Brien's Nine"));
         QVERIFY(teamA->accessibleName().contains(QStringLiteral("O'Brien's Nine")));
         QVERIFY(ctl<QRadioButton>("TeamBtn_1")->accessibleName().contains(QStringLiteral("Bears")));
+        QCOMPARE(ctl<QLineEdit>("runsFld_1")->accessibleName(), QStringLiteral("Bears runs"));
         schedule->close();
         m_scr->close();
     }

@@ -364,10 +364,17 @@ void gameDayScrn::openGame(const QString &schedID)
     dateFld->setText(EventDates::shortDate(event.date));
     fieldFld->setText(event.location);
     for (int t = 0; t < 2; ++t) {
+        // The board speaks of the teams by name, not as "Team A" and "Team B".
         const QString name = m_game->teamInfo(t).name;
         TeamBtn[size_t(t)]->setText(name);
         TeamBtn[size_t(t)]->setAccessibleName(
             (t == 0 ? tr("Show the card of %1 (batting first)") : tr("Show the card of %1 (batting last)")).arg(name));
+        for (int i = 0; i < 10; ++i)
+            inningFlds[size_t(t)][size_t(i)]->setAccessibleName(tr("%1 inning %2").arg(name).arg(i + 1));
+        runsFld[size_t(t)]->setAccessibleName(tr("%1 runs").arg(name));
+        hitsFld[size_t(t)]->setAccessibleName(tr("%1 hits").arg(name));
+        errsFld[size_t(t)]->setAccessibleName(tr("%1 errors").arg(name));
+        LOBFld[size_t(t)]->setAccessibleName(tr("%1 left on base").arg(name));
     }
     showFinalize();
     switchTeamTimer.start();

@@ -33,7 +33,7 @@ void registerScreens()
     screens::registerScreen(ScreenId::reportIntroScrn, [] { return new reportIntroScrn; });
     screens::registerScreen(ScreenId::standingsScrn, [] { return new standingsScrn; });
     screens::registerScreen(ScreenId::gameDayScrn,
-                            [](const QVariant &eventID) { return new gameDayScrn(eventID.toString()); });
+                            [](const QVariant &eventID) { return gameDayScrn::openFor(eventID.toString()); });
     // Only a build that knows where the newest version is told can check.
     if (!cAutoUpdate::builtInDocumentUrl().isEmpty())
         screens::registerScreen(ScreenId::updateDlog, [] { return new updateDlog; });

@@ -109,13 +109,10 @@ private Q_SLOTS:
         for (int c = 0; c < grid.columnCount(); ++c)
             grid.setCellText(c % grid.rowCount(), c, QString()); // a gap in every inning
         QBENCHMARK {
-            grid.autoRowStart = 1;
-            grid.autoColStart = 0;
-            grid.autoRowEnd = 20;
-            grid.autoColEnd = grid.columnCount() - 1;
+            grid.setAutoSpan(1, 0, 20, grid.columnCount() - 1);
             grid.af_calcPitchingData();
         }
-        QVERIFY(grid.autoFillData[1] > 0);
+        QVERIFY(grid.autoFillFigures()[1] > 0);
     }
 };
 

@@ -146,7 +146,7 @@ App::SeasonChoice App::selectSeason(const QString &text)
     }
     // The coach's choice is the season of the next start too.
     m_prefs->prSeason = text;
-    m_prefs->prefsDirty = true;
+    m_prefs->keepChoice();
     reopenSeason();
     return SeasonChoice::Switched;
 }

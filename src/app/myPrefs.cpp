@@ -337,6 +337,12 @@ void myPrefs::writePrefs()
         platform::messages().msgBox(QStringLiteral("There was a file error while writing the Prefs File."));
 }
 
+void myPrefs::keepChoice()
+{
+    prefsDirty = true;
+    writePrefs();
+}
+
 bool myPrefs::isDBCleanDue() const
 {
     return secondsNow() > prLastDBClean + kDBCleanInterval;
@@ -358,7 +364,7 @@ QString myPrefs::getUserBUFolder()
     if (chosen.isEmpty())
         return {};
     prDataBackupLoc = createGSI(chosen);
-    prefsDirty = true;
+    keepChoice();
     QDir folder(chosen);
     if (!folder.exists(QStringLiteral("TLYN2_backup")))
         folder.mkdir(QStringLiteral("TLYN2_backup"));

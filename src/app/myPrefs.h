@@ -30,6 +30,10 @@ public:
     bool checkDataFolders();
     void readPrefs();
     void writePrefs();
+    // A choice the coach made (the home team, the season, the backup
+    // folder): marked for the write at quit and written now, so a crash
+    // doesn't lose it.
+    void keepChoice();
     bool isDBCleanDue() const;
     void reinitDBClean();
     QString getUserBUFolder();

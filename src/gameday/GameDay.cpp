@@ -19,6 +19,12 @@ GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent) : QObject(parent), 
     connect(&m_card, &ScoreGrid::columnAdded, this, &GameDay::onColumnAdded);
     connect(&m_card, &ScoreGrid::doCalcs, this, &GameDay::onDoCalcs);
     connect(&m_card, &ScoreGrid::askIsWalkoff, this, &GameDay::onWalkoff);
+    // Any change of the card on show outside loading and auto-fill is a
+    // change to be written.
+    connect(&m_card, &ScoreGrid::changed, this, [this] {
+        if (!m_loading && !m_autoFill)
+            m_dirty = true;
+    });
     connect(&m_card, &ScoreGrid::cellEdited, this, [this] {
         if (!m_autoFill)
             commitClick();
@@ -26,23 +32,25 @@ GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent) : QObject(parent), 
     connect(&m_card, &ScoreGrid::autoFillDataReturn, this, [this](const AutoFillData &figures) {
         const AutoFillData data = figures; // the grid's own array, cleared below
         switchTeams();
-        m_autoFill = false;
         m_card.reinitAutoVars();
-        m_card.setClickDisabled(true); // the pitching panel is open again
+        setAutoFill(false);
+        m_coverOpen = true; // the pitching panel is open again
+        applyClickLock();
         Q_EMIT autoFillReturned(data);
     });
-    connect(&m_card, &ScoreGrid::autoFillFailed, this, [this] {
-        m_card.reinitAutoVars();
-        m_autoFill = false;
-        switchTeams();
-        m_card.setClickDisabled(true);
-        Q_EMIT autoFillAbandoned();
-    });
+    connect(&m_card, &ScoreGrid::autoFillFailed, this, &GameDay::cancelAutoFill);
+    connect(&m_card, &ScoreGrid::autoMarkTaken, this, &GameDay::instructionChanged);
 }
 
 bool GameDay::open(const QString &schedID)
 {
     const QString home = gPrefs ? gPrefs->prHomeTeam : QString();
+    if (home.isEmpty()) {
+        // Without the home team the game would start with an empty bench.
+        gShowMsgDlog(QStringLiteral("Please designate a 'Home Team'"),
+                     QStringLiteral("Choose it in the Teams screen, then open the game again."), kOK);
+        return false;
+    }
     const std::optional<GameEvent> event = m_store.event(schedID, home);
     if (!event) {
         gShowMsgDlog(QStringLiteral("There was an error recovering the game data."),
@@ -53,20 +61,55 @@ bool GameDay::open(const QString &schedID)
     for (int t = 0; t < 2; ++t)
         m_info[size_t(t)] = m_store.teamInfo(m_event.teamIDs[size_t(t)]);
 
+    m_lock = Lock::None;
     if (std::optional<GameRecord> stored = m_store.load(schedID)) {
         m_rec = *stored;
         m_rec.teamIDs = m_event.teamIDs;
         m_finalizeVisible = !m_rec.recorded;
+        if (m_rec.recorded)
+            m_lock = Lock::Recorded;
+        else if (!readsWhole(m_rec.teams[0]) || !readsWhole(m_rec.teams[1]))
+            m_lock = Lock::Damaged;
     } else {
         m_rec = GameRecord{};
         m_rec.schedID = schedID;
         m_rec.teamIDs = m_event.teamIDs;
         loadNewGame();
     }
-    m_card.initCellBkg(int(m_rec.teams[0].headings.split(kFieldSep).size()) - 1);
+    m_card.initCellBkg(kBkgCols - 1);
     m_cur = 1;
+    m_dirty = false;
     displayCurrentTeam(true);
+    if (m_lock == Lock::Damaged)
+        gShowMsgDlog(QStringLiteral("There is an error in the saved data."),
+                     QStringLiteral("The game opens read-only; its stored data is left as it was."), kOK);
+    applyClickLock();
     return true;
+}
+
+QString GameDay::lockNotice() const
+{
+    switch (m_lock) {
+    case Lock::Recorded:
+        return QStringLiteral("This game is recorded: its totals are in the season. It is shown read-only.");
+    case Lock::Damaged:
+        return QStringLiteral("This game's saved data could not be read whole. It is shown read-only and left "
+                              "as it was stored.");
+    case Lock::None:
+        break;
+    }
+    return {};
+}
+
+void GameDay::setCoverOpen(bool open)
+{
+    m_coverOpen = open;
+    applyClickLock();
+}
+
+void GameDay::applyClickLock()
+{
+    m_card.setClickDisabled(m_coverOpen || isReadOnly());
 }
 
 void GameDay::loadNewGame()
@@ -90,6 +133,8 @@ void GameDay::displayCurrentTeam(bool updateBoard)
     const TeamStrings &s = m_rec.teams[size_t(m_cur)];
     m_roster = readBench(s.bench);
     QStringList headings = s.headings.isEmpty() ? QStringList() : s.headings.split(kFieldSep);
+    if (headings.size() > kMaxStoredColumns)
+        headings.resize(kMaxStoredColumns); // a damaged card, shown as far as a card goes
     for (int c = int(headings.size()); c < kDefaultColumns; ++c)
         headings.append(QString::number(c + 1));
     m_card.setColumnHeadings(headings);
@@ -101,6 +146,7 @@ void GameDay::displayCurrentTeam(bool updateBoard)
     fillScoreCard();
     m_batStats = readBatStats(s.batStats);
     m_card.setSelectedRow(-1);
+    m_selRow = -1;
     m_loading = false;
     if (updateBoard && m_card.rowCount() > 0) {
         updateRunsHits();
@@ -121,14 +167,17 @@ void GameDay::fillScoreCard()
         m_card.setRowSlot(r, numericValue(m_lineup.at(r).order));
     }
     if (isRunEntry(s.actions)) {
+        // No cell of this team was played: the other team's colours go.
+        m_card.initCellBkg(kBkgCols - 1);
         fillRHEData(s.actions);
         return;
     }
     // A card with more lines than lineup rows is refused whole: no colours
-    // without their at bats.
-    m_card.setMyData(s.actions);
-    if (splitLines(s.actions).size() <= m_lineup.size())
+    // without their at bats. The game said so once when it opened.
+    if (splitLines(s.actions).size() <= m_lineup.size() && m_card.setMyData(s.actions))
         m_card.setMyBkgArray(s.outcomes);
+    else
+        m_card.initCellBkg(kBkgCols - 1);
 }
 
 void GameDay::showTeam(int team)
@@ -136,8 +185,10 @@ void GameDay::showTeam(int team)
     team &= 1;
     if (team == m_cur)
         return;
-    saveCurState();
-    saveDataToDB();
+    cancelAutoFill();
+    if (team == m_cur)
+        return;
+    saveIfDirty();
     setEnterRHE(false);
     m_cur = team;
     displayCurrentTeam(false);
@@ -151,6 +202,12 @@ void GameDay::switchTeams()
 
 QString GameDay::instruction() const
 {
+    if (m_autoFill)
+        return m_card.autoClickCount() == 0
+                   ? QStringLiteral("Auto-fill: click the first batter this pitcher faced (Escape cancels).")
+                   : QStringLiteral("Auto-fill: click the last batter this pitcher faced (Escape cancels).");
+    if (isReadOnly())
+        return lockNotice();
     if (m_card.rowCount() == 0)
         return QStringLiteral("Select a player from the roster and click 'Add' to create your lineup.");
     return QStringLiteral("Click the cell beside a player under the correct inning to set that at bat.");
@@ -167,8 +224,14 @@ bool GameDay::isThereAPitcher() const
 
 void GameDay::setRecorded()
 {
+    // From now on the game is the season's: it is shown read-only, as it
+    // would be opened again.
     m_rec.recorded = true;
+    m_lock = Lock::Recorded;
+    m_dirty = false;
+    applyClickLock();
     Q_EMIT finalizeVisibleChanged(false);
+    Q_EMIT teamShown();
 }
 
 void GameDay::setGameType(const QString &type)
@@ -242,21 +305,31 @@ bool GameDay::removeFromLineup(int row)
     // A player no longer in the season leaves the lineup all the same.
     if (std::optional<BenchLine> p = m_store.player(m_lineup.at(row).playerID))
         m_roster.append(*p);
+    const QString order = m_lineup.at(row).order;
     m_lineup.removeAt(row);
     m_card.removeRow(row);
     if (row < m_batStats.size())
         m_batStats.removeAt(row);
-    redoOrderNos();
+    closeOrderGap(order);
     commitClick();
     Q_EMIT lineupChanged();
     return true;
 }
 
-void GameDay::redoOrderNos()
+void GameDay::closeOrderGap(const QString &removedOrder)
 {
+    // A slot another row still holds (a player and his substitute) stays;
+    // a slot left empty closes, and the slots below move up one.
+    const bool stillHeld = std::any_of(m_lineup.cbegin(), m_lineup.cend(),
+                                       [&removedOrder](const LineupLine &l) { return l.order == removedOrder; });
+    const int gone = numericValue(removedOrder);
     for (int i = 0; i < m_lineup.size(); ++i) {
-        m_lineup[i].order = QString::number(i + 1);
-        m_card.setRowSlot(i, i + 1);
+        int order = numericValue(m_lineup.at(i).order);
+        if (!stillHeld && order > gone) {
+            --order;
+            m_lineup[i].order = QString::number(order);
+        }
+        m_card.setRowSlot(i, order);
     }
 }
 
@@ -373,16 +446,74 @@ void GameDay::updateRunsHits()
     m_board.runs[size_t(m_cur)] = QString::number(m_card.countTotalRuns());
     m_board.hits[size_t(m_cur)] = QString::number(m_card.countTotalHits());
     m_board.lob[size_t(m_cur)] = QString::number(m_card.countTotalLOBs());
-    // The home half not needed: decided on the runs as they stand now.
-    const int last = regulationInnings() - 1;
-    if (last >= 0 && last < 10) {
-        auto &a = m_board.innings[0];
-        auto &b = m_board.innings[1];
-        if (!a[size_t(last)].isEmpty() && (b[size_t(last)].isEmpty() || b[size_t(last)] == u"--") &&
-            m_board.runs[1].toInt() > m_board.runs[0].toInt())
-            b[size_t(last)] = QStringLiteral("X");
-    }
+    markHomeHalf(m_board);
     Q_EMIT boardChanged();
+}
+
+void GameDay::markHomeHalf(Scoreboard &board)
+{
+    // "X": the home team (team B) leads once the visitors' last scheduled
+    // inning is played, so its half isn't needed. A tie, or the visitors'
+    // inning not yet played ("--"), shows none.
+    const int last = regulationInnings() - 1;
+    if (last < 0 || last >= 10)
+        return;
+    const QString &visitors = board.innings[0][size_t(last)];
+    QString &home = board.innings[1][size_t(last)];
+    bool played = false;
+    visitors.trimmed().toInt(&played);
+    const bool notNeeded = played && board.runs[1].toInt() > board.runs[0].toInt();
+    if (notNeeded && (home.isEmpty() || home == u"--"))
+        home = QStringLiteral("X");
+    else if (!notNeeded && home == u"X")
+        home = QStringLiteral("--");
+}
+
+void GameDay::refreshBoard()
+{
+    if (!m_loading && !isReadOnly())
+        saveCurState();
+    for (int t = 0; t < 2; ++t) {
+        const TeamStrings &s = m_rec.teams[size_t(t)];
+        if (isRunEntry(s.actions)) {
+            const RunEntry e = readRunEntry(s.actions);
+            m_board.innings[size_t(t)] = e.innings;
+            m_board.runs[size_t(t)] = QString::number(e.runs());
+            m_board.hits[size_t(t)] = e.hits;
+            m_board.lob[size_t(t)] = e.lob;
+            continue;
+        }
+        ScoreGrid stored;
+        if (t != m_cur && !loadStoredGrid(stored, s))
+            continue;
+        const ScoreGrid &card = t == m_cur ? m_card : stored;
+        const std::array<int, 10> runs = card.countRunsByInning();
+        for (size_t i = 0; i < 10; ++i)
+            m_board.innings[size_t(t)][i] = runs[i] == -1 ? QStringLiteral("--") : QString::number(runs[i]);
+        m_board.runs[size_t(t)] = QString::number(card.countTotalRuns());
+        m_board.hits[size_t(t)] = QString::number(card.countTotalHits());
+        m_board.lob[size_t(t)] = QString::number(card.countTotalLOBs());
+    }
+    markHomeHalf(m_board);
+    Q_EMIT boardChanged();
+}
+
+bool GameDay::loadStoredGrid(ScoreGrid &grid, const TeamStrings &team)
+{
+    QStringList headings = team.headings.isEmpty() ? QStringList() : team.headings.split(kFieldSep);
+    if (headings.size() > kMaxStoredColumns)
+        return false;
+    for (int c = int(headings.size()); c < kDefaultColumns; ++c)
+        headings.append(QString::number(c + 1));
+    grid.setColumnHeadings(headings);
+    const qsizetype rows = readPlayers(team.players).size();
+    if (splitLines(team.actions).size() > rows)
+        return false;
+    for (qsizetype r = 0; r < rows; ++r)
+        grid.addRow();
+    grid.setMyData(team.actions);
+    grid.setMyBkgArray(team.outcomes);
+    return true;
 }
 
 void GameDay::calcRunsByInning()
@@ -405,6 +536,14 @@ bool GameDay::setEnterRHE(bool on)
     if (on && !m_card.isColumnEmpty(0)) {
         gShowMsgDlog(QStringLiteral("You cannot directly enter runs if you have entered hitting data."),
                      QStringLiteral("Entered data will determine the runs-per-inning."), kOK);
+        on = false;
+    } else if (on && !m_lineup.isEmpty()) {
+        // The card of a team with a lineup is stored as its cells: typed
+        // boxes would not be kept.
+        gShowMsgDlog(QStringLiteral("You cannot directly enter runs for a team with a lineup."),
+                     QStringLiteral("Enter the at bats, or remove the lineup to type the line score."), kOK);
+        on = false;
+    } else if (on && isReadOnly()) {
         on = false;
     }
     if (m_enterRHE != on) {
@@ -434,6 +573,7 @@ void GameDay::setBoardBox(int box, const QString &text)
     } else {
         return;
     }
+    markHomeHalf(m_board);
     Q_EMIT boardChanged();
     commitClick();
 }
@@ -485,14 +625,27 @@ GameStore::SaveResult GameDay::saveDataToDB()
 
 bool GameDay::commitClick()
 {
-    if (m_loading || m_rec.schedID.isEmpty())
+    if (m_loading || m_rec.schedID.isEmpty() || isReadOnly())
         return false;
+    m_dirty = true;
     saveCurState();
     const GameStore::SaveResult result = m_store.saveTeam(m_rec, m_cur);
     if (result == GameStore::SaveResult::Missing)
         gShowMsgDlog(QStringLiteral("TallylineBB was unable to find the data for this game."),
                      QStringLiteral("Please reload this game from the Schedule."), kOK);
-    return result == GameStore::SaveResult::Saved;
+    m_dirty = result != GameStore::SaveResult::Saved;
+    return !m_dirty;
+}
+
+bool GameDay::saveIfDirty()
+{
+    // Every change was written as it was made; only one whose write
+    // failed is tried again. A card opened read-only is never written.
+    if (!m_dirty || isReadOnly() || m_rec.schedID.isEmpty())
+        return true;
+    saveCurState();
+    m_dirty = saveDataToDB() != GameStore::SaveResult::Saved;
+    return !m_dirty;
 }
 
 // --- Events of the grid ---------------------------------------------------------------------
@@ -517,17 +670,65 @@ void GameDay::onWalkoff()
         updateRunsHits();
 }
 
+void GameDay::selectRow(int row)
+{
+    m_selRow = row >= 0 && row < m_lineup.size() ? row : -1;
+    Q_EMIT selectionChanged(m_selRow);
+}
+
+QString GameDay::selectedPlayerID() const
+{
+    return m_selRow >= 0 ? m_lineup.at(m_selRow).playerID : QString();
+}
+
+QString GameDay::panelRefusal(Panel panel) const
+{
+    if (isReadOnly())
+        return lockNotice();
+    if (m_autoFill)
+        return QStringLiteral("Finish or cancel the pitching auto-fill first.");
+    if (m_selRow < 0)
+        return QStringLiteral("Select a player in the lineup.");
+    if (panel == Panel::Pitching && !isPitcherPos(m_lineup.at(m_selRow).pos))
+        return QStringLiteral("Pitching stats are kept for a pitcher (RHP or LHP).");
+    return {};
+}
+
 // --- Auto-fill --------------------------------------------------------------------------------
+
+void GameDay::setAutoFill(bool on)
+{
+    // The one place the auto-fill state changes; the global flag the grid
+    // reads follows it.
+    m_autoFill = on;
+    m_card.setAutoFillMode(on);
+    gIsAutoFillMode = on;
+    Q_EMIT instructionChanged();
+}
 
 void GameDay::startAutoFill()
 {
+    if (m_autoFill || isReadOnly())
+        return;
     saveCurState();
-    m_autoFill = true;
+    m_autoFill = true; // the switch below doesn't write
     switchTeams();
-    gIsAutoFillMode = true;
     m_card.reinitAutoVars();
-    gIsAutoFillMode = true;
-    m_card.setClickDisabled(false);
+    setAutoFill(true);
+    m_coverOpen = false;
+    applyClickLock();
+}
+
+void GameDay::cancelAutoFill()
+{
+    if (!m_autoFill)
+        return;
+    m_card.reinitAutoVars();
+    setAutoFill(false);
+    switchTeams();
+    m_coverOpen = true; // the pitching panel is open again
+    applyClickLock();
+    Q_EMIT autoFillAbandoned();
 }
 
 } // namespace gameday

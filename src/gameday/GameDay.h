@@ -42,8 +42,21 @@ public:
 
     // Reads the event and the game's row, or makes the row of a new game
     // with both benches and the game type; then shows team B. False, with
-    // the message shown, when the event can't be found.
+    // the message shown, when no home team is chosen or the event can't be
+    // found. A recorded game, or one whose strings don't read whole, opens
+    // read-only.
     bool open(const QString &schedID);
+
+    // --- Read-only games ------------------------------------------------------
+
+    enum class Lock { None, Recorded, Damaged };
+    Lock lock() const { return m_lock; }
+    bool isReadOnly() const { return m_lock != Lock::None; }
+    // The line the screen shows for a read-only game; empty otherwise.
+    QString lockNotice() const;
+    // A statistics panel (or the auto-fill window) covers the grid: clicks
+    // on it are ignored, as on a read-only game.
+    void setCoverOpen(bool open);
 
     const QString &schedID() const { return m_rec.schedID; }
     const GameEvent &event() const { return m_event; }
@@ -69,11 +82,21 @@ public:
     // "Record Game Data" shows from the first three-out inning of a game
     // not yet recorded, and at once when such a game is opened again.
     bool finalizeVisible() const { return m_finalizeVisible && !m_rec.recorded; }
-    // Marks the game recorded (after the season totals were written).
+    // Marks the game recorded (after the season totals were written); it
+    // is read-only from then on.
     void setRecorded();
 
     QString gameType() const { return m_rec.gameType; }
     void setGameType(const QString &type);
+
+    // --- The selected lineup row and the statistics panels ----------------------
+
+    enum class Panel { Batting, Fielding, Pitching };
+    void selectRow(int row);
+    int selectedRow() const { return m_selRow; }
+    QString selectedPlayerID() const;
+    // Why a panel may not open for the selected row; empty when it may.
+    QString panelRefusal(Panel panel) const;
 
     // --- Lineup --------------------------------------------------------------
 
@@ -103,6 +126,13 @@ public:
     // --- Scoreboard and run entry ----------------------------------------------
 
     const Scoreboard &board() const { return m_board; }
+    // Works out both teams' lines anew from their cards (or typed boxes):
+    // the board the final check shows and the score that is recorded.
+    void refreshBoard();
+    // Puts or takes away the "X" of the home half not needed.
+    static void markHomeHalf(Scoreboard &board);
+    // Loads a stored card into a bare grid; false when it doesn't read whole.
+    static bool loadStoredGrid(ScoreGrid &grid, const TeamStrings &team);
     void updateRunsHits();
     void recalcErrs();
     // Errors of a team in this game, from its fielding rows; set by the
@@ -127,6 +157,9 @@ public:
 
     // Brings the team on show into the stored strings.
     void saveCurState();
+    // On a team switch and on closing: writes the team on show when a
+    // change of it has not reached the file yet. Nothing else writes.
+    bool saveIfDirty();
     GameStore::SaveResult saveDataToDB();
     // The write after each of the coach's changes: the team on show, in
     // one transaction. False when it did not reach the file.
@@ -136,6 +169,9 @@ public:
 
     // The opposing team's card comes on show, armed for two marks.
     void startAutoFill();
+    // Escape, a team switch or closing: the pitcher's team comes back and
+    // the pitching panel opens again, with nothing filled.
+    void cancelAutoFill();
     bool autoFillRunning() const { return m_autoFill; }
 
 Q_SIGNALS:
@@ -146,6 +182,8 @@ Q_SIGNALS:
     void enterRHEChanged(bool on);
     void autoFillReturned(const gameday::AutoFillData &data);
     void autoFillAbandoned();
+    void selectionChanged(int row);
+    void instructionChanged();
 
 private:
     void loadNewGame();
@@ -155,7 +193,9 @@ private:
     void fillRHEData(const QString &actions);
     QString getRHEData(int team) const;
     void setFinalizeVisible(bool on);
-    void redoOrderNos();
+    void closeOrderGap(const QString &removedOrder);
+    void applyClickLock();
+    void setAutoFill(bool on);
     void onColumnAdded(const QString &headings);
     void onDoCalcs();
     void onWalkoff();
@@ -176,6 +216,10 @@ private:
     bool m_finalizeVisible = false;
     bool m_autoFill = false;
     bool m_loading = false;
+    bool m_dirty = false;
+    bool m_coverOpen = false;
+    Lock m_lock = Lock::None;
+    int m_selRow = -1;
 };
 
 } // namespace gameday

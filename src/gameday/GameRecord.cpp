@@ -50,7 +50,17 @@ QStringList splitLines(const QString &text)
 {
     if (text.isEmpty())
         return {};
-    return text.split(kLineSep);
+    QStringList lines;
+    if (text.contains(u'\n')) {
+        QString normal = text;
+        normal.replace(QStringLiteral("\r\n"), QString(kLineSep)).replace(u'\n', kLineSep);
+        lines = normal.split(kLineSep);
+    } else {
+        lines = text.split(kLineSep);
+    }
+    while (!lines.isEmpty() && lines.constLast().isEmpty())
+        lines.removeLast();
+    return lines;
 }
 
 QList<BenchLine> readBench(const QString &text)
@@ -142,6 +152,23 @@ QString newGameHeadings()
     for (int i = 1; i <= 20; ++i)
         h.append(QString::number(i));
     return h.join(kFieldSep);
+}
+
+bool readsWhole(const TeamStrings &team)
+{
+    if (team.headings.count(kFieldSep) >= kMaxStoredColumns)
+        return false;
+    auto allRead = [](const QString &text, qsizetype read) {
+        qsizetype lines = 0;
+        for (const QString &line : splitLines(text))
+            lines += line.isEmpty() ? 0 : 1;
+        return lines == read;
+    };
+    const QList<LineupLine> lineup = readPlayers(team.players);
+    if (!allRead(team.bench, readBench(team.bench).size()) || !allRead(team.players, lineup.size()) ||
+        !allRead(team.batStats, readBatStats(team.batStats).size()))
+        return false;
+    return isRunEntry(team.actions) || splitLines(team.actions).size() <= lineup.size();
 }
 
 } // namespace gameday

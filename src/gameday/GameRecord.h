@@ -21,7 +21,9 @@ inline constexpr QChar kLineSep = u'\r';
 // A value made safe for a field: tab, carriage return and line feed become blanks.
 QString cleanField(const QString &value);
 
-// Splits a stored string into lines (an empty string has none).
+// Splits a stored string into lines (an empty string has none). A line
+// feed or CR LF ends a line as a carriage return does, and line ends at the
+// end of the text make no empty lines.
 QStringList splitLines(const QString &text);
 
 // --- Bench (roster) lines: number, name, position, playerID -----------------
@@ -109,5 +111,14 @@ struct GameRecord
 
 // The headings of a new game: "1" to "20".
 QString newGameHeadings();
+
+// The most columns a stored card may head; a card with more is damaged.
+inline constexpr int kMaxStoredColumns = 64;
+
+// Whether a team's strings read whole: every bench, lineup and batter
+// statistics line has its fields, the cell texts have no more lines than
+// the lineup, and the headings are few enough for a card. A card that
+// doesn't is shown but never written back.
+bool readsWhole(const TeamStrings &team);
 
 } // namespace gameday

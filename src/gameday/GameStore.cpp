@@ -31,15 +31,17 @@ TeamStrings teamFrom(const Record &r, int team)
     return {r.text(c[0]), r.text(c[1]), r.text(c[2]), r.text(c[3]), r.text(c[4]), r.text(c[5])};
 }
 
-// The columns written on every save besides the team strings.
+// The columns written on every save of the card besides the team strings.
+// `recorded` is not among them: only recording (and its correction) sets
+// it, so a window holding an older copy of the game can't take it back.
 QStringList commonColumns()
 {
-    return {QStringLiteral("Teams"), QStringLiteral("gameType"), QStringLiteral("recorded")};
+    return {QStringLiteral("Teams"), QStringLiteral("gameType")};
 }
 
 QVariantList commonValues(const GameRecord &g)
 {
-    return {g.teamsField(), g.gameType, g.recorded ? 1 : 0};
+    return {g.teamsField(), g.gameType};
 }
 
 QString updateSql(const QStringList &columns)
@@ -155,7 +157,7 @@ std::optional<bool> GameStore::storedRecorded(const QString &schedID) const
 
 bool GameStore::create(const GameRecord &record)
 {
-    Fields f{{QStringLiteral("schedID"), record.schedID}};
+    Fields f{{QStringLiteral("schedID"), record.schedID}, {QStringLiteral("recorded"), record.recorded ? 1 : 0}};
     const QStringList common = commonColumns();
     const QVariantList commonV = commonValues(record);
     for (int i = 0; i < common.size(); ++i)
@@ -194,8 +196,9 @@ GameStore::SaveResult GameStore::saveTeam(const GameRecord &record, int team)
 
 bool GameStore::writeWithin(myDB &db, const GameRecord &record)
 {
-    return runUpdate(db, commonColumns() + teamColumns(0) + teamColumns(1),
-                     commonValues(record) + teamValues(record.teams[0]) + teamValues(record.teams[1]),
+    return runUpdate(db, commonColumns() + QStringList{QStringLiteral("recorded")} + teamColumns(0) + teamColumns(1),
+                     commonValues(record) + QVariantList{record.recorded ? 1 : 0} + teamValues(record.teams[0]) +
+                         teamValues(record.teams[1]),
                      record.schedID) > 0;
 }
 

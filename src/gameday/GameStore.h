@@ -64,13 +64,14 @@ public:
     bool create(const GameRecord &record);
 
     enum class SaveResult { Saved, Missing, Failed };
-    // Writes Teams, both teams' strings, the game type and `recorded`.
+    // Writes Teams, both teams' strings and the game type; never
+    // `recorded`, which only recording writes.
     SaveResult save(const GameRecord &record);
-    // Writes one team's six strings with Teams, the game type and
-    // `recorded`: the write after each of the coach's clicks.
+    // Writes one team's six strings with Teams and the game type: the
+    // write after each of the coach's clicks.
     SaveResult saveTeam(const GameRecord &record, int team);
 
-    // The statements of save(), for a caller that wraps them in a larger
+    // The statements of save() and `recorded`, for a caller that wraps them in a larger
     // transaction of its own: they throw on a database error, so the
     // caller's runInTransaction rolls everything back. False when the game
     // has no row.

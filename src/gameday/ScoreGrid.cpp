@@ -1,4 +1,5 @@
 #include "gameday/ScoreGrid.h"
+#include "gameday/GameRecord.h"
 
 #include "app/globals.h"
 #include "app/myDictionaries.h"
@@ -41,26 +42,26 @@ ScoreGrid::ScoreGrid(QObject *parent) : QObject(parent)
 {
     initDict();
     setColumnCount(kDefaultColumns);
-    defInnings = regulationInnings();
+    m_defInnings = regulationInnings();
 }
 
 void ScoreGrid::initDict()
 {
-    actionDict.clear();
+    m_actionDict.clear();
     const QString none = bkg(kBkgNone);
     const QString out = bkg(kBkgOut);
     for (const char *code : {"B1", "B2", "B3", "BB", "IBB", "HBP", "ROE", "FC", "CI"})
-        actionDict.insert(QString::fromLatin1(code), none);
+        m_actionDict.insert(QString::fromLatin1(code), none);
     for (const char *code : {"SAC", "FO", "GO", "KS", "KL", "HDP", "xCS", "xPOB", "xFrcO", "xOUT"})
-        actionDict.insert(QString::fromLatin1(code), out);
-    actionDict.insert(QStringLiteral("HR"), bkg(kBkgRun));
-    actionDict.insert(QStringLiteral("xRUN"), bkg(kBkgRun));
-    actionDict.insert(QStringLiteral("xLOB"), bkg(kBkgLeft));
+        m_actionDict.insert(QString::fromLatin1(code), out);
+    m_actionDict.insert(QStringLiteral("HR"), bkg(kBkgRun));
+    m_actionDict.insert(QStringLiteral("xRUN"), bkg(kBkgRun));
+    m_actionDict.insert(QStringLiteral("xLOB"), bkg(kBkgLeft));
 }
 
 void ScoreGrid::setDefInnings(int n)
 {
-    defInnings = qMax(0, n);
+    m_defInnings = qMax(0, n);
 }
 
 // --- Rows, columns and cells --------------------------------------------------
@@ -69,7 +70,7 @@ void ScoreGrid::deleteAllRows()
 {
     m_texts.clear();
     m_slots.clear();
-    selRow = -1;
+    m_selRow = -1;
     Q_EMIT changed();
 }
 
@@ -163,18 +164,18 @@ void ScoreGrid::blankBkgRow(int row)
 
 void ScoreGrid::cellClicked(int row, int col, bool optionDown)
 {
-    if (disableCellClick || !inRows(row) || !inColumns(col))
+    if (m_disableCellClick || !inRows(row) || !inColumns(col))
         return;
 
-    if (gIsAutoFillMode) {
-        ++autoClickCt;
-        if (autoClickCt == 1) {
-            autoRowStart = row;
-            autoColStart = col;
+    if (m_autoFillMode) {
+        ++m_autoClickCt;
+        if (m_autoClickCt == 1) {
+            m_autoRowStart = row;
+            m_autoColStart = col;
             Q_EMIT autoMarkTaken(row, col);
-        } else if (autoClickCt == 2) {
-            autoRowEnd = row;
-            autoColEnd = col;
+        } else if (m_autoClickCt == 2) {
+            m_autoRowEnd = row;
+            m_autoColEnd = col;
             Q_EMIT autoMarkTaken(row, col);
             af_calcPitchingData();
         } else {
@@ -191,7 +192,7 @@ void ScoreGrid::cellClicked(int row, int col, bool optionDown)
         return;
     }
 
-    selRow = -1;
+    m_selRow = -1;
 
     // Option-click: the one-click "left on base", whatever the cell showed.
     if (!cellText(row, col).isEmpty() && optionDown) {
@@ -245,8 +246,8 @@ void ScoreGrid::applyChoice(int row, int col, const QString &choice)
     }
 
     bool walkoff = false;
-    if (actionDict.contains(choice)) {
-        setCellBkg(row, col, actionDict.value(choice));
+    if (m_actionDict.contains(choice)) {
+        setCellBkg(row, col, m_actionDict.value(choice));
         // Asked by inning, not by column: doubled innings before it don't
         // bring the question forward.
         walkoff = numericValue(heading(col)) >= regulationInnings() && cellBkg(row, col) == kBkgRun;
@@ -283,7 +284,7 @@ void ScoreGrid::setInactiveCells(int row, bool allCols)
 {
     // Through column 19 whatever the column count: the extra-inning columns
     // of a new game.
-    for (int c = allCols ? 0 : defInnings; c < kStoredBkgCols; ++c)
+    for (int c = allCols ? 0 : m_defInnings; c < kStoredBkgCols; ++c)
         setCellBkg(row, c, bkg(kBkgDisabled));
     Q_EMIT changed();
 }
@@ -360,7 +361,7 @@ void ScoreGrid::disableWholeCol(int col)
 
 void ScoreGrid::enableWholeRow(int row)
 {
-    for (int c = 0; c < qMin(defInnings, columnCount()); ++c) {
+    for (int c = 0; c < qMin(m_defInnings, columnCount()); ++c) {
         setCellText(row, c, {});
         setCellBkg(row, c, bkg(kBkgNone));
     }
@@ -395,7 +396,7 @@ bool ScoreGrid::canInsertColumn(int col) const
 int ScoreGrid::spareTrailingColumn(int doubledCol) const
 {
     const int last = columnCount() - 1;
-    if (last <= doubledCol || last < defInnings)
+    if (last <= doubledCol || last < m_defInnings)
         return -1;
     for (int r = 0; r < rowCount(); ++r) {
         const QString b = cellBkg(r, last);
@@ -455,7 +456,7 @@ QString ScoreGrid::insertColumn(int col, int width)
         if (col + 1 < kBkgCols)
             b[col + 1] = cellBkg(r, col) == kBkgDisabled ? bkg(kBkgDisabled) : QString();
     }
-    ++defInnings;
+    ++m_defInnings;
     Q_EMIT changed();
     return getColHeadings();
 }
@@ -464,12 +465,12 @@ void ScoreGrid::insertReplacementRow(int row, int orderNum)
 {
     if (!inRows(row))
         return;
-    selRow = row;
+    m_selRow = row;
     QStringList blank;
     blank.resize(columnCount());
-    m_texts.insert(selRow + 1, blank);
-    m_slots[selRow] = orderNum;
-    m_slots.insert(selRow + 1, orderNum);
+    m_texts.insert(m_selRow + 1, blank);
+    m_slots[m_selRow] = orderNum;
+    m_slots.insert(m_selRow + 1, orderNum);
     moveDownOutcomes();
 
     int firstOpen = 0;
@@ -477,17 +478,17 @@ void ScoreGrid::insertReplacementRow(int row, int orderNum)
         ++firstOpen;
     // The substitute can't have batted in a finished inning, and the
     // player he replaces bats no more.
-    disableSpecificCells(selRow + 1, 0, firstOpen - 1);
-    setInactiveCells(selRow + 1, false);
-    disableSpecificCells(selRow, firstOpen, columnCount() - 1);
+    disableSpecificCells(m_selRow + 1, 0, firstOpen - 1);
+    setInactiveCells(m_selRow + 1, false);
+    disableSpecificCells(m_selRow, firstOpen, columnCount() - 1);
     if (orderNum > lineupSlots())
-        setInactiveCells(selRow + 1, true); // a non-batting entry
+        setInactiveCells(m_selRow + 1, true); // a non-batting entry
     Q_EMIT changed();
 }
 
 void ScoreGrid::moveDownOutcomes()
 {
-    const int first = selRow + 1;
+    const int first = m_selRow + 1;
     if (first < 0 || first >= kBkgRows)
         return;
     for (int r = kBkgRows - 1; r >= first + 1; --r)
@@ -498,7 +499,7 @@ void ScoreGrid::moveDownOutcomes()
 
 void ScoreGrid::moveUpOutcomes(int row)
 {
-    selRow = row;
+    m_selRow = row;
     if (row < 0 || row >= kBkgRows)
         return;
     for (int r = row; r < kBkgRows - 1; ++r)
@@ -668,13 +669,13 @@ QString ScoreGrid::getMyData() const
     return lines.join(kCR);
 }
 
-void ScoreGrid::setMyData(const QString &data)
+bool ScoreGrid::setMyData(const QString &data)
 {
-    const QStringList lines = data.isEmpty() ? QStringList() : data.split(kCR);
+    const QStringList lines = splitLines(data);
     if (lines.size() > rowCount()) {
         gShowMsgDlog(QStringLiteral("There is an error in the saved data."),
                      QStringLiteral("Please re-create the game data."), QStringLiteral("OK"));
-        return;
+        return false;
     }
     for (QStringList &texts : m_texts)
         texts.fill(QString());
@@ -686,6 +687,7 @@ void ScoreGrid::setMyData(const QString &data)
             m_texts[r][c] = fields.at(c);
     }
     Q_EMIT changed();
+    return true;
 }
 
 QString ScoreGrid::getMyBkgArray() const
@@ -716,7 +718,7 @@ void ScoreGrid::setMyBkgArray(const QString &data)
 {
     for (auto &row : xCellBkg)
         row.fill(QString());
-    const QStringList lines = data.isEmpty() ? QStringList() : data.split(kCR);
+    const QStringList lines = splitLines(data);
     for (int r = 0; r < qMin(int(lines.size()), kBkgRows); ++r) {
         const QStringList fields = lines.at(r).split(kTab);
         for (int c = 0; c < qMin(int(fields.size()), kStoredBkgCols); ++c) {
@@ -733,11 +735,18 @@ void ScoreGrid::setMyBkgArray(const QString &data)
 
 // --- Pitching auto-fill -------------------------------------------------------------
 
+void ScoreGrid::setAutoSpan(int rowStart, int colStart, int rowEnd, int colEnd)
+{
+    m_autoRowStart = rowStart;
+    m_autoColStart = colStart;
+    m_autoRowEnd = rowEnd;
+    m_autoColEnd = colEnd;
+}
+
 void ScoreGrid::reinitAutoVars()
 {
-    autoClickCt = 0;
-    gIsAutoFillMode = false;
-    autoFillData.fill(0);
+    m_autoClickCt = 0;
+    m_autoFillData.fill(0);
     Q_EMIT changed();
 }
 
@@ -745,40 +754,40 @@ void ScoreGrid::visitForAutoFill(int row, int col)
 {
     const QString text = cellText(row, col);
     if (cellBkg(row, col) == kBkgOut)
-        ++autoFillData[0];
+        ++m_autoFillData[0];
     if (!text.isEmpty())
-        ++autoFillData[1];
+        ++m_autoFillData[1];
     if (isHitCode(text))
-        ++autoFillData[2];
+        ++m_autoFillData[2];
     if (text == u"HR")
-        ++autoFillData[3];
+        ++m_autoFillData[3];
     if (text == u"BB")
-        ++autoFillData[4];
+        ++m_autoFillData[4];
     if (text == u"IBB")
-        ++autoFillData[5];
+        ++m_autoFillData[5];
     if (text == u"KS" || text == u"KL")
-        ++autoFillData[6];
+        ++m_autoFillData[6];
     if (text == u"HBP")
-        ++autoFillData[7];
+        ++m_autoFillData[7];
 }
 
 void ScoreGrid::af_calcPitchingData()
 {
-    autoFillData.fill(0);
+    m_autoFillData.fill(0);
     auto fail = [this] {
         gShowMsgDlog(QStringLiteral("An error occurred while retrieving the pitcher's data"),
                      QStringLiteral("Please fill in the data manually."), QStringLiteral("OK"));
         Q_EMIT autoFillFailed();
     };
-    if (!inRows(autoRowStart) || !inRows(autoRowEnd) || !inColumns(autoColStart) || !inColumns(autoColEnd)) {
+    if (!inRows(m_autoRowStart) || !inRows(m_autoRowEnd) || !inColumns(m_autoColStart) || !inColumns(m_autoColEnd)) {
         fail();
         return;
     }
     // Marks given last at bat first: the coach means the same span, so the
     // earlier column is taken as the start.
-    if (autoColEnd < autoColStart) {
-        std::swap(autoColStart, autoColEnd);
-        std::swap(autoRowStart, autoRowEnd);
+    if (m_autoColEnd < m_autoColStart) {
+        std::swap(m_autoColStart, m_autoColEnd);
+        std::swap(m_autoRowStart, m_autoRowEnd);
     }
 
     // Each column's plate appearances run once round the order, from the
@@ -787,12 +796,12 @@ void ScoreGrid::af_calcPitchingData()
     // between the two marks.
     int row = 0;
     int end = 0;
-    for (int col = autoColStart; col <= autoColEnd; ++col) {
+    for (int col = m_autoColStart; col <= m_autoColEnd; ++col) {
         const int rotation = orderStart(col);
-        if (col == autoColStart) {
-            row = autoRowStart;
-            if (autoColStart == autoColEnd) {
-                end = nextRow(autoRowEnd);
+        if (col == m_autoColStart) {
+            row = m_autoRowStart;
+            if (m_autoColStart == m_autoColEnd) {
+                end = nextRow(m_autoRowEnd);
             } else {
                 end = af_findFirstColRowEnd(col, row);
                 if (end == row && !isOpenCell(row, col)) // no open row: the column went round
@@ -800,7 +809,7 @@ void ScoreGrid::af_calcPitchingData()
             }
         } else {
             row = rotation;
-            end = col == autoColEnd ? nextRow(autoRowEnd) : rotation;
+            end = col == m_autoColEnd ? nextRow(m_autoRowEnd) : rotation;
         }
         // The batting order runs on from inning to inning, hence the wrap
         // to row 0.
@@ -809,7 +818,7 @@ void ScoreGrid::af_calcPitchingData()
             row = nextRow(row);
         } while (row != end);
     }
-    Q_EMIT autoFillDataReturn(autoFillData);
+    Q_EMIT autoFillDataReturn(m_autoFillData);
 }
 
 int ScoreGrid::orderStart(int col) const

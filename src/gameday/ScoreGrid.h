@@ -71,27 +71,29 @@ public:
 
     // --- Properties of the design -----------------------------------------
 
-    // Code to background code, as a click applies it. Filled by initDict.
-    QHash<QString, QString> actionDict;
-    // Row on which a replacement is being inserted or removed; -1 when none.
-    int selRow = -1;
-    // Number of live columns; columns from here to 19 start disabled.
-    int defInnings = 9;
-    // Pitching auto-fill: clicks taken, the two marks and the result.
-    int autoClickCt = 0;
-    int autoRowStart = 0;
-    int autoColStart = 0;
-    int autoRowEnd = 0;
-    int autoColEnd = 0;
-    AutoFillData autoFillData{};
-    // When true every click is ignored (a statistics panel covers the grid).
-    bool disableCellClick = false;
-
     void initDict();
-    void setSelectedRow(int row) { selRow = row; }
-    int getSelRow() const { return selRow; }
+    // Row on which a replacement is being inserted or removed; -1 when none.
+    void setSelectedRow(int row) { m_selRow = row; }
+    int getSelRow() const { return m_selRow; }
+    // Number of live columns; columns from here to 19 start disabled.
     void setDefInnings(int n);
-    void setClickDisabled(bool disabled) { disableCellClick = disabled; }
+    int defInnings() const { return m_defInnings; }
+    // When set every click is ignored (a statistics panel covers the grid,
+    // or the game is read-only).
+    void setClickDisabled(bool disabled) { m_disableCellClick = disabled; }
+    bool clickDisabled() const { return m_disableCellClick; }
+    // Pitching auto-fill: while on, clicks are the two marks. The game
+    // screen's controller turns it on and off (and mirrors it in
+    // gIsAutoFillMode); reinitAutoVars clears the marks, not the mode.
+    void setAutoFillMode(bool on) { m_autoFillMode = on; }
+    bool autoFillMode() const { return m_autoFillMode; }
+    int autoClickCount() const { return m_autoClickCt; }
+    // The two marks as (row, column).
+    std::pair<int, int> autoStart() const { return {m_autoRowStart, m_autoColStart}; }
+    std::pair<int, int> autoEnd() const { return {m_autoRowEnd, m_autoColEnd}; }
+    // Sets both marks without clicks (a benchmark walks a given span).
+    void setAutoSpan(int rowStart, int colStart, int rowEnd, int colEnd);
+    const AutoFillData &autoFillFigures() const { return m_autoFillData; }
 
     // --- Clicks -------------------------------------------------------------
 
@@ -152,7 +154,9 @@ public:
     // --- Stored text forms --------------------------------------------------
 
     QString getMyData() const;
-    void setMyData(const QString &data);
+    // False, with the message shown and the grid as it was, when the texts
+    // have more lines than the grid has rows.
+    bool setMyData(const QString &data);
     QString getMyBkgArray() const;
     void setMyBkgArray(const QString &data);
     QString getColHeadings() const { return m_headings.join(u'\t'); }
@@ -201,6 +205,18 @@ private:
     // The first column of the row's closing run of disabled cells.
     int closedFrom(int row) const;
 
+    // Code to background code, as a click applies it. Filled by initDict.
+    QHash<QString, QString> m_actionDict;
+    int m_selRow = -1;
+    int m_defInnings = 9;
+    bool m_autoFillMode = false;
+    int m_autoClickCt = 0;
+    int m_autoRowStart = 0;
+    int m_autoColStart = 0;
+    int m_autoRowEnd = 0;
+    int m_autoColEnd = 0;
+    AutoFillData m_autoFillData{};
+    bool m_disableCellClick = false;
     QStringList m_headings;
     QList<int> m_widths;
     QList<QStringList> m_texts; // one list per lineup row, one text per column

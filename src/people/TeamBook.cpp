@@ -48,7 +48,7 @@ void TeamBook::becomeHome(const QString &teamID, bool askFirst)
         askChgHomeTeam(teamID);
     } else {
         m_prefs.prHomeTeam = teamID;
-        m_prefs.prefsDirty = true;
+        m_prefs.keepChoice();
     }
 }
 
@@ -60,9 +60,8 @@ bool TeamBook::askChgHomeTeam(const QString &teamID)
         QStringLiteral("Change"));
     if (answer != platform::MsgAction)
         return false;
-    // The preference file takes it up at quit.
     m_prefs.prHomeTeam = teamID;
-    m_prefs.prefsDirty = true;
+    m_prefs.keepChoice();
     return true;
 }
 
@@ -83,7 +82,7 @@ bool TeamBook::deleteTeam(const QString &teamID)
         return false;
     if (m_prefs.prHomeTeam == teamID) {
         m_prefs.prHomeTeam.clear();
-        m_prefs.prefsDirty = true;
+        m_prefs.keepChoice();
     }
     return true;
 }

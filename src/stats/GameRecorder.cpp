@@ -5,6 +5,7 @@
 #include "gameday/GameStore.h"
 #include "gameday/GridCodes.h"
 #include "gameday/ScoreGrid.h"
+#include "platform/Messages.h"
 #include "stats/GameResultClass.h"
 #include "stats/SeasonFold.h"
 
@@ -37,6 +38,15 @@ void showBadInnings(const QString &who, const QString &innings)
                  QStringLiteral("Enter thirds of an inning as .1 or .2 (") + who + QStringLiteral(": ") + innings +
                      QStringLiteral("), then click 'Record' again."),
                  QStringLiteral("OK"));
+}
+
+bool askCarryThirds(const QString &who, const QString &total)
+{
+    return gShowMsgDlog(QStringLiteral("The season's innings pitched of ") + who + QStringLiteral(" read ") + total +
+                            QStringLiteral(", which is not a count of thirds."),
+                        QStringLiteral("Click 'Carry' to count each three thirds as a whole inning (.3 becomes the "
+                                       "next inning) and record the game, or 'Cancel' to leave the season as it is."),
+                        QStringLiteral("Carry")) == platform::MsgAction;
 }
 
 } // namespace
@@ -211,30 +221,38 @@ GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game
     bool refused = false;
     QString refusedPlayer;
     QString refusedTotal;
-    const bool written = m_db.runInTransaction([&] {
-        SQLite::Database &db = *m_db.tlynData;
-        SeasonFold fold(db, playerIDs, {idValue(game.teamIDs[0]), idValue(game.teamIDs[1])});
-        for (int t = 0; t < 2; ++t) {
-            const qint64 teamID = idValue(game.teamIDs[t]);
-            for (const PlayerAdditions &p : additions[t].players) {
-                if (!fold.add(p, teamID, gameID)) {
-                    // A season total with a thirds digit above 2 can't be
-                    // added to; nothing has been written yet.
-                    refused = true;
-                    refusedPlayer = p.name;
-                    const qint64 total = fold.pitching(idValue(p.playerID))->figures[kPitchIP];
-                    refusedTotal = QString::number(total / 10) + u'.' + QString::number(total % 10);
-                    return;
+    auto write = [&](bool carryThirds) {
+        refused = false;
+        return m_db.runInTransaction([&] {
+            SQLite::Database &db = *m_db.tlynData;
+            SeasonFold fold(db, playerIDs, {idValue(game.teamIDs[0]), idValue(game.teamIDs[1])});
+            for (int t = 0; t < 2; ++t) {
+                const qint64 teamID = idValue(game.teamIDs[t]);
+                for (const PlayerAdditions &p : additions[t].players) {
+                    if (!fold.add(p, teamID, gameID, carryThirds)) {
+                        // A season total with a thirds digit above 2 can't be
+                        // added to; nothing has been written yet.
+                        refused = true;
+                        refusedPlayer = p.name;
+                        const qint64 total = fold.pitching(idValue(p.playerID))->figures[kPitchIP];
+                        refusedTotal = QString::number(total / 10) + u'.' + QString::number(total % 10);
+                        return;
+                    }
                 }
             }
-        }
-        fold.addResult(outcome);
-        fold.write(db);
-        gameday::GameStore::writeWithin(m_db, recorded);
-    });
+            fold.addResult(outcome);
+            fold.write(db);
+            gameday::GameStore::writeWithin(m_db, recorded);
+        });
+    };
+    bool written = write(false);
     if (refused) {
-        showBadInnings(refusedPlayer, refusedTotal);
-        return Result::BadInnings;
+        // The coach can't mend a season total from the game screen: he is
+        // told whose total it is and may let its thirds carry, in the same
+        // transaction as the recording.
+        if (!askCarryThirds(refusedPlayer, refusedTotal))
+            return Result::BadInnings;
+        written = write(true);
     }
     // A database failure has been shown by the transaction.
     return written ? Result::Recorded : Result::Failed;

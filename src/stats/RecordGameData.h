@@ -3,7 +3,7 @@
 // The "Record Game Data" action of the game screen, apart from its windows:
 // the team on show goes into the game's strings, the four checks are worked
 // out and shown, and on the coach's word the game is recorded with the
-// runs the scoreboard shows. The screen closes an open statistics panel
+// runs of the board worked out anew from both cards just before. The screen closes an open statistics panel
 // (which saves it) before it calls this, and shows the check window in
 // `askToRecord`.
 

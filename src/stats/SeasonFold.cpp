@@ -148,13 +148,17 @@ SeasonFold::SeasonFold(SQLite::Database &db, const QList<qint64> &playerIDs, con
     }
 }
 
-bool SeasonFold::add(const PlayerAdditions &player, qint64 teamID, qint64 gameID)
+bool SeasonFold::add(const PlayerAdditions &player, qint64 teamID, qint64 gameID, bool carryThirds)
 {
     const qint64 id = idValue(player.playerID);
     std::optional<qint64> innings;
     if (player.pitching) {
         const auto it = m_pitching.constFind(id);
-        const qint64 before = it == m_pitching.cend() ? 0 : it->figures[kPitchIP];
+        qint64 before = it == m_pitching.cend() ? 0 : it->figures[kPitchIP];
+        if (carryThirds && before > 0 && !isInningsCode(before)) {
+            const qint64 outs = (before / 10) * 3 + before % 10;
+            before = (outs / 3) * 10 + outs % 3;
+        }
         innings = getInningsPitchedVal(before, (*player.pitching)[kPitchIP]);
         if (!innings)
             return false;

@@ -50,8 +50,9 @@ public:
 
     // Adds one lineup row's game. False, with nothing changed, when the
     // player's stored innings total has a thirds digit above 2: such a
-    // total can't be summed, and recording stops before any write.
-    bool add(const PlayerAdditions &player, qint64 teamID, qint64 gameID);
+    // total can't be summed, and recording stops before any write, unless
+    // `carryThirds` lets the total's thirds carry first (4.3 is 5.0).
+    bool add(const PlayerAdditions &player, qint64 teamID, qint64 gameID, bool carryThirds = false);
     void addResult(const GameResultClass &result);
 
     // Writes every row that changed: an update by its recID, or an insert.

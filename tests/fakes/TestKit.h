@@ -86,6 +86,17 @@ void whenShown(std::function<void(T *)> work)
         [work](QWidget *w) { work(static_cast<T *>(w)); });
 }
 
+// The control named `name` inside `window`, as a test finds it (by the
+// objectName the program gives it); fails the run when there is none.
+template<class T>
+T *child(const QWidget *window, const char *name)
+{
+    T *found = window->findChild<T *>(QString::fromLatin1(name));
+    if (!found)
+        qFatal("no control named %s", name);
+    return found;
+}
+
 // Moves the keyboard focus into `field` and types `text`, as the coach does.
 void typeInto(QWidget *field, const QString &text);
 // Chooses a popup's row by its text, as a click in the open list does.

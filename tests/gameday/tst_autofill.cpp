@@ -78,9 +78,9 @@ private Q_SLOTS:
         QSignalSpy failed(&grid, &ScoreGrid::autoFillFailed);
         QSignalSpy marks(&grid, &ScoreGrid::autoMarkTaken);
 
-        gIsAutoFillMode = true;
+        grid.setAutoFillMode(true);
         grid.cellClicked(first.y(), first.x(), false);
-        QCOMPARE(grid.autoClickCt, 1);
+        QCOMPARE(grid.autoClickCount(), 1);
         QCOMPARE(done.count(), 0);
         grid.cellClicked(last.y(), last.x(), false);
 
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(done.count(), 1);
         QCOMPARE(failed.count(), 0);
         QCOMPARE(figures(done.at(0).at(0).value<AutoFillData>()), expected);
-        QCOMPARE(figures(grid.autoFillData), expected);
+        QCOMPARE(figures(grid.autoFillFigures()), expected);
         QVERIFY(popover.showAll.isEmpty()); // marks never open the popover
         QVERIFY(env.fake.messages.shown.isEmpty());
     }
@@ -98,26 +98,25 @@ private Q_SLOTS:
         GridEnv env;
         ScoreGrid grid;
         loadCard(grid);
-        gIsAutoFillMode = true;
+        grid.setAutoFillMode(true);
         grid.setClickDisabled(true);
         grid.cellClicked(0, 0, false);
-        QCOMPARE(grid.autoClickCt, 0); // a covered grid takes no marks either
+        QCOMPARE(grid.autoClickCount(), 0); // a covered grid takes no marks either
 
         grid.setClickDisabled(false);
         grid.cellClicked(2, 0, false);
-        QCOMPARE(std::make_pair(grid.autoRowStart, grid.autoColStart), std::make_pair(2, 0));
+        QCOMPARE(grid.autoStart(), std::make_pair(2, 0));
         grid.cellClicked(4, 0, false);
-        QCOMPARE(std::make_pair(grid.autoRowEnd, grid.autoColEnd), std::make_pair(4, 0));
+        QCOMPARE(grid.autoEnd(), std::make_pair(4, 0));
         QCOMPARE(env.fake.beeper.beeps, 0);
         grid.cellClicked(5, 0, false);
-        QCOMPARE(grid.autoClickCt, 3);
+        QCOMPARE(grid.autoClickCount(), 3);
         QCOMPARE(env.fake.beeper.beeps, 1);
-        QCOMPARE(figures(grid.autoFillData), QStringLiteral("2,3,1,1,0,0,0,0"));
+        QCOMPARE(figures(grid.autoFillFigures()), QStringLiteral("2,3,1,1,0,0,0,0"));
 
         grid.reinitAutoVars();
-        QCOMPARE(grid.autoClickCt, 0);
-        QVERIFY(!gIsAutoFillMode);
-        QCOMPARE(figures(grid.autoFillData), QStringLiteral("0,0,0,0,0,0,0,0"));
+        QCOMPARE(grid.autoClickCount(), 0);
+        QCOMPARE(figures(grid.autoFillFigures()), QStringLiteral("0,0,0,0,0,0,0,0"));
     }
 };
 

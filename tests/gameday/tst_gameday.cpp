@@ -65,14 +65,27 @@ private Q_SLOTS:
         QVERIFY(!game.finalizeVisible());
     }
 
-    void missingEventIsReported()
+    // Nothing to score: no Games row is made.
+    void openRefusals_data()
     {
+        QTest::addColumn<bool>("homeTeam");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("no such event") << true << "There was an error recovering the game data.";
+        QTest::newRow("no home team chosen") << false << "Please designate a 'Home Team'";
+    }
+    void openRefusals()
+    {
+        QFETCH(bool, homeTeam);
+        QFETCH(QString, message);
         Season season;
+        if (!homeTeam)
+            gPrefs->prHomeTeam.clear();
+        const QString id = homeTeam ? QStringLiteral("9999") : season.schedID();
         ScoreGrid card;
         GameDay game(*gData, card);
-        QVERIFY(!game.open(QStringLiteral("9999")));
-        QCOMPARE(season.fake.messages.texts(), QStringList{"There was an error recovering the game data."});
-        QVERIFY(!GameStore(*gData).exists(QStringLiteral("9999")));
+        QVERIFY(!game.open(id));
+        QCOMPARE(season.fake.messages.texts(), QStringList{message});
+        QVERIFY(!GameStore(*gData).exists(id));
     }
 
     void lineupLimits_data()
@@ -157,6 +170,105 @@ private Q_SLOTS:
         QVERIFY(game.removeFromLineup(4));
         QCOMPARE(game.roster().last().name, QStringLiteral("Bo5 Smith"));
         QCOMPARE(card.rowCount(), 4);
+        // The substitute keeps the slot he shares, and with it his closed cells.
+        QStringList orders;
+        for (const LineupLine &l : game.lineup())
+            orders.append(l.order);
+        QCOMPARE(orders, (QStringList{"1", "2", "2", "3"}));
+        QVERIFY(card.isReplacedRow(1));
+    }
+
+    // A team kept by run entry shows no cell of the other team's card: its
+    // first lineup plays on clean cells and stores only its own colours.
+    void runEntryTeamTakesNoColours()
+    {
+        Season season;
+        ScoreGrid card;
+        ScriptedPopover popover;
+        popover.install(card);
+        GameDay game(*gData, card);
+        QVERIFY(game.open(season.schedID()));
+        game.showTeam(0);
+        QVERIFY(game.setEnterRHE(true));
+        game.setBoardBox(0, QStringLiteral("2"));
+        game.showTeam(1);
+        addByPos(game, {"C", "B1", "B2", "B3"});
+        for (const auto &[row, code] : QList<std::pair<int, QString>>{{0, "HR"}, {1, "GO"}, {2, "FO"}, {3, "KL"}}) {
+            popover.script({code});
+            card.cellClicked(row, 0, false);
+        }
+        game.showTeam(0);
+        QCOMPARE(gridtest::bkgRow(card, 0, 2) + gridtest::bkgRow(card, 1, 2), QStringLiteral("----"));
+        addByPos(game, {"C", "B1", "B2"});
+        QVERIFY(!game.setEnterRHE(true)); // a team with a lineup keeps its cells, not typed boxes
+        season.fake.messages.clear();
+        popover.script({"GO"});
+        card.cellClicked(0, 0, false);
+        QCOMPARE(season.fake.messages.texts(), QStringList{});
+        QCOMPARE(card.cellText(0, 0), QStringLiteral("GO"));
+        const GameRecord stored = GameStore(*gData).load(season.schedID()).value();
+        QVERIFY(!stored.teams[0].outcomes.contains(u'G'));
+    }
+
+    // The "X" of the home half not needed (team B bats last; nine innings).
+    void homeHalfNotNeeded_data()
+    {
+        QTest::addColumn<QString>("visitorsNinth");
+        QTest::addColumn<QString>("homeNinth");
+        QTest::addColumn<int>("runsA");
+        QTest::addColumn<int>("runsB");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("visitors' ninth not played") << "--"
+                                                    << "--" << 1 << 3 << "--";
+        QTest::newRow("home team leads after it") << "0"
+                                                  << "--" << 1 << 3 << "X";
+        QTest::newRow("a tie shows none") << "0"
+                                          << "--" << 2 << 2 << "--";
+        QTest::newRow("visitors lead") << "2"
+                                       << "" << 4 << 3 << "";
+        QTest::newRow("an X that no longer holds goes") << "2"
+                                                        << "X" << 4 << 3 << "--";
+    }
+    void homeHalfNotNeeded()
+    {
+        QFETCH(QString, visitorsNinth);
+        QFETCH(QString, homeNinth);
+        QFETCH(int, runsA);
+        QFETCH(int, runsB);
+        Season season;
+        Scoreboard board;
+        board.innings[0][8] = visitorsNinth;
+        board.innings[1][8] = homeNinth;
+        board.runs = {QString::number(runsA), QString::number(runsB)};
+        GameDay::markHomeHalf(board);
+        QTEST(board.innings[1][8], "shown");
+    }
+
+    // The stored recorded flag is the recording's alone: a window that
+    // opened the game before it was recorded can't take it back, and the
+    // game opens read-only afterwards.
+    void recordedFlagIsRecordingsAlone()
+    {
+        Season season;
+        ScoreGrid card;
+        GameDay stale(*gData, card);
+        QVERIFY(stale.open(season.schedID()));
+        GameRecord g = GameStore(*gData).load(season.schedID()).value();
+        g.recorded = true;
+        QVERIFY(gData->runInTransaction([&] { GameStore::writeWithin(*gData, g); }));
+        stale.setGameType(QStringLiteral("PreSeason"));
+        stale.showTeam(0);
+        QVERIFY(stale.saveIfDirty());
+        QVERIFY(GameStore(*gData).load(season.schedID())->recorded);
+
+        ScoreGrid other;
+        GameDay reopened(*gData, other);
+        QVERIFY(reopened.open(season.schedID()));
+        QCOMPARE(reopened.lock(), GameDay::Lock::Recorded);
+        QVERIFY(reopened.instruction().startsWith(QStringLiteral("This game is recorded")));
+        QVERIFY(!reopened.panelRefusal(GameDay::Panel::Batting).isEmpty());
+        reopened.setGameType(QStringLiteral("Division"));
+        QCOMPARE(GameStore(*gData).load(season.schedID())->gameType, QStringLiteral("PreSeason"));
     }
 
     // Each click of an inning reaches the Games row before the next one:
@@ -238,20 +350,41 @@ private Q_SLOTS:
         QVERIFY(isRunEntry(reopened.record().teams[0].actions));
     }
 
-    void damagedCardShowsNothing_data()
+    // A card that doesn't read whole opens read-only and is never written
+    // back; line ends of either kind, and one at the end, read as lines.
+    void damagedCardIsNotWrittenBack_data()
     {
+        QTest::addColumn<QString>("players");
         QTest::addColumn<QString>("actions");
-        QTest::addColumn<QStringList>("messages");
-        QTest::addColumn<int>("rows");
-        QTest::newRow("more action lines than rows")
-            << "B1\rGO\rKS" << QStringList{"There is an error in the saved data."} << 2;
-        QTest::newRow("binary junk") << QString::fromLatin1("\x01\xff\t\t\x02", 5) << QStringList{} << 2;
+        QTest::addColumn<QString>("headings");
+        QTest::addColumn<bool>("readOnly");
+        QTest::addColumn<QString>("firstCell");
+        const QString two = QStringLiteral("1\tC\tBo O'Neil\t13\r2\tSS\tBo Smith\t17");
+        QTest::newRow("a trailing carriage return") << two << "B1\t\rGO\t\r"
+                                                    << "" << false << "B1";
+        QTest::newRow("line feeds") << QString(two).replace(u'\r', u'\n') << "B1\t\nGO\t\n"
+                                    << "" << false << "B1";
+        QTest::newRow("CR LF") << two << "B1\t\r\nGO"
+                               << "" << false << "B1";
+        QTest::newRow("binary junk") << two << QString::fromLatin1("\x01\xff\t\t\x02", 5) << "" << false
+                                     << QString::fromLatin1("\x01\xff", 2);
+        QTest::newRow("more action lines than rows") << two << "B1\rGO\rKS"
+                                                     << "" << true << "";
+        QTest::newRow("a damaged lineup line") << two + "\rjunk line"
+                                               << "B1"
+                                               << "" << true << "B1";
+        QTest::newRow("100,000 headings") << two << "B1" << QString("1\t").repeated(100000) << true << "B1";
+        QTest::newRow("every text column empty") << ""
+                                                 << ""
+                                                 << "" << false << "";
     }
-    void damagedCardShowsNothing()
+    void damagedCardIsNotWrittenBack()
     {
+        QFETCH(QString, players);
         QFETCH(QString, actions);
-        QFETCH(QStringList, messages);
-        QFETCH(int, rows);
+        QFETCH(QString, headings);
+        QFETCH(bool, readOnly);
+        QFETCH(QString, firstCell);
         Season season;
         GameStore store(*gData);
         {
@@ -260,20 +393,30 @@ private Q_SLOTS:
             QVERIFY(game.open(season.schedID()));
         }
         GameRecord g = store.load(season.schedID()).value();
-        g.teams[1].players = QStringLiteral("1\tC\tBo O'Neil\t13\r2\tSS\tBo Smith\t17\rjunk line");
-        g.teams[1].actions = actions;
-        g.teams[1].outcomes = QStringLiteral("G\tR\t\rR\t");
+        g.teams[1] = TeamStrings{headings, QString(), players, actions, QStringLiteral("G\tR\t\rR\t"), QString()};
+        if (players.isEmpty())
+            g.teams = {};
         QCOMPARE(store.save(g), GameStore::SaveResult::Saved);
 
         ScoreGrid card;
+        ScriptedPopover popover;
+        popover.install(card);
         GameDay game(*gData, card);
         QVERIFY(game.open(season.schedID()));
-        QCOMPARE(season.fake.messages.texts(), messages);
-        QCOMPARE(card.rowCount(), rows);
-        if (!messages.isEmpty()) { // nothing of the damaged card is shown
-            QCOMPARE(gridtest::bkgRow(card, 0, 2) + card.cellText(0, 0), QStringLiteral("--"));
-            QCOMPARE(season.fake.messages.shown.at(0).explanation, QStringLiteral("Please re-create the game data."));
-        }
+        QCOMPARE(game.isReadOnly(), readOnly);
+        QCOMPARE(season.fake.messages.texts(),
+                 readOnly ? QStringList{"There is an error in the saved data."} : QStringList{});
+        QCOMPARE(card.cellText(0, 0), firstCell);
+        // A click, a change and a team switch: a read-only card stays as stored.
+        popover.script({"KS"});
+        card.cellClicked(1, 1, false);
+        game.showTeam(0);
+        QVERIFY(game.saveIfDirty());
+        const GameRecord after = store.load(season.schedID()).value();
+        if (readOnly || players.isEmpty())
+            QCOMPARE(after, g);
+        else
+            QCOMPARE(splitLines(after.teams[1].actions).at(1).section(u'\t', 1, 1), QStringLiteral("KS"));
     }
 };
 

@@ -24,6 +24,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -110,8 +111,8 @@ class TestGameDayScrn : public QObject
     {
         for (const QString &code : codes.split(u'>', Qt::SkipEmptyParts)) {
             m_codes.enqueue(code);
-            m_scr->scoreCardLB->setCurrentCell(row, col);
-            QTest::keyClick(m_scr->scoreCardLB, Qt::Key_Return);
+            ctl<BBScoringLB>("scoreCardLB")->setCurrentCell(row, col);
+            QTest::keyClick(ctl<BBScoringLB>("scoreCardLB"), Qt::Key_Return);
         }
     }
     void inning(int col, const QStringList &plays)
@@ -122,20 +123,32 @@ class TestGameDayScrn : public QObject
     void addByPos(const QStringList &positions)
     {
         for (const QString &pos : positions) {
-            m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, pos));
-            m_scr->addBtn->setFocus();
-            QTest::keyClick(m_scr->addBtn, Qt::Key_Space);
+            ctl<qlmListBox>("rosterList")->setSelectedRow(rowOfPos(ctl<qlmListBox>("rosterList"), pos));
+            ctl<QPushButton>("addBtn")->setFocus();
+            QTest::keyClick(ctl<QPushButton>("addBtn"), Qt::Key_Space);
         }
     }
     // The cell editor open in the RBI and SB list.
-    QWidget *statEditor() const { return m_scr->batterStatLB->indexWidget(m_scr->batterStatLB->currentIndex()); }
+    QWidget *statEditor() const
+    {
+        return ctl<qlmListBox>("batterStatLB")->indexWidget(ctl<qlmListBox>("batterStatLB")->currentIndex());
+    }
+    template<class T>
+    T *ctl(const char *name) const
+    {
+        T *found = m_scr->findChild<T *>(QString::fromLatin1(name));
+        if (!found)
+            qFatal("no control %s", name);
+        return found;
+    }
     QStringList board(int team) const
     {
         QStringList out;
-        for (QLineEdit *box : m_scr->inningFlds[size_t(team)])
-            out.append(box->text());
-        out << m_scr->runsFld[size_t(team)]->text() << m_scr->hitsFld[size_t(team)]->text()
-            << m_scr->errsFld[size_t(team)]->text() << m_scr->LOBFld[size_t(team)]->text();
+        const QString side = team == 0 ? QStringLiteral("A") : QStringLiteral("B");
+        for (int i = 0; i < 10; ++i)
+            out.append(m_scr->findChild<QLineEdit *>(QStringLiteral("team%1Innings_%2").arg(side).arg(i))->text());
+        for (const char *box : {"runsFld_%1", "hitsFld_%1", "errsFld_%1", "LOBFld_%1"})
+            out << m_scr->findChild<QLineEdit *>(QString::fromLatin1(box).arg(team))->text();
         return out;
     }
     void openFromSchedule(gamedaytest::Season &season)
@@ -150,8 +163,9 @@ class TestGameDayScrn : public QObject
         m_scr = shown<gameDayScrn>();
         QVERIFY(m_scr);
         QCOMPARE(m_scr->game().schedID(), season.schedID());
-        m_scr->scoreCardLB->grid().setPopoverRequest(
-            [this](int, int, bool) { return m_codes.isEmpty() ? QString() : m_codes.dequeue(); });
+        ctl<BBScoringLB>("scoreCardLB")->grid().setPopoverRequest([this](int, int, bool) {
+            return m_codes.isEmpty() ? QString() : m_codes.dequeue();
+        });
         QTRY_COMPARE(m_scr->game().curSelTeam(), 0); // the switch timer brings team A on show
         schedule->close();
     }
@@ -161,7 +175,7 @@ private Q_SLOTS:
     {
         qRegisterMetaType<AutoFillData>();
         screens::registerScreen(ScreenId::gameDayScrn,
-                                [](const QVariant &id) { return new gameDayScrn(id.toString()); });
+                                [](const QVariant &id) { return gameDayScrn::openFor(id.toString()); });
     }
 
     void playAGame()
@@ -170,71 +184,72 @@ private Q_SLOTS:
         gPrefs->prInnings = QStringLiteral("3 Innings");
         auto &msgs = season.fake.messages;
         openFromSchedule(season);
-        QCOMPARE(m_scr->InstrFld->text(),
+        QCOMPARE(ctl<QLabel>("InstrFld")->text(),
                  QStringLiteral("Select a player from the roster and click 'Add' to create your lineup."));
-        QVERIFY(!m_scr->finalizeBtn->isVisible());
+        QVERIFY(!ctl<QPushButton>("finalizeBtn")->isVisible());
 
         // Team A (the home team): nine batters, a tenth who only pitches, a refused eleventh.
         const QStringList nine = {"C", "B1", "B2", "B3", "SS", "LF", "CF", "RF", "DH"};
         addByPos(nine + QStringList{"RHP", "LHP"});
-        QCOMPARE(m_scr->Names_PosLB->rowCount(), 10);
+        QCOMPARE(ctl<BBPlayersLB>("Names_PosLB")->rowCount(), 10);
         QCOMPARE(msgs.texts(), (QStringList{"Add a non-batting Pitcher to your lineup.",
                                             "You have reached max players as defined in Preferences."}));
         // From the keyboard: Alt+Down moves the catcher to second, F2 types his position.
-        m_scr->Names_PosLB->setSelectedRow(0);
-        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_Down, Qt::AltModifier);
-        QCOMPARE(m_scr->Names_PosLB->rowCells(1), (QStringList{"2", "C", "Ann1 O'Neil"}));
-        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_F2);
-        QWidget *posEditor = m_scr->Names_PosLB->indexWidget(m_scr->Names_PosLB->currentIndex());
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(0);
+        QTest::keyClick(ctl<BBPlayersLB>("Names_PosLB"), Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(ctl<BBPlayersLB>("Names_PosLB")->rowCells(1), (QStringList{"2", "C", "Ann1 O'Neil"}));
+        QTest::keyClick(ctl<BBPlayersLB>("Names_PosLB"), Qt::Key_F2);
+        QWidget *posEditor =
+            ctl<BBPlayersLB>("Names_PosLB")->indexWidget(ctl<BBPlayersLB>("Names_PosLB")->currentIndex());
         QVERIFY(posEditor);
         QTest::keyClicks(posEditor, QStringLiteral("dh"));
         QTest::keyClick(posEditor, Qt::Key_Return);
         QTRY_COMPARE(readPlayers(GameStore(*gData).load(season.schedID())->teams[0].players).at(1).pos,
                      QStringLiteral("DH"));
-        QTest::keyClick(m_scr->Names_PosLB, Qt::Key_Up, Qt::AltModifier);
-        QCOMPARE(m_scr->Names_PosLB->cell(0, 2), QStringLiteral("Ann1 O'Neil"));
+        QTest::keyClick(ctl<BBPlayersLB>("Names_PosLB"), Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(ctl<BBPlayersLB>("Names_PosLB")->cell(0, 2), QStringLiteral("Ann1 O'Neil"));
         // Team B: four batters and their pitcher.
-        m_scr->TeamBtn[1]->click();
+        ctl<QRadioButton>("TeamBtn_1")->click();
         QCOMPARE(m_scr->game().curSelTeam(), 1);
         addByPos({"C", "B1", "B2", "RHP"});
         // A player taken off the bench comes back through the list of the team's players.
-        m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, "P"));
-        Q_EMIT m_scr->PlusMinusPlayers->MinusPressed();
+        ctl<qlmListBox>("rosterList")->setSelectedRow(rowOfPos(ctl<qlmListBox>("rosterList"), "P"));
+        Q_EMIT ctl<PlusMinusContainer>("PlusMinusPlayers")->MinusPressed();
         QCOMPARE(msgs.texts().last(),
                  QStringLiteral("Are you sure you wish to remove Bo12 Smith from the list of available players?"));
-        QCOMPARE(m_scr->rosterList->rowCount(), 7);
+        QCOMPARE(ctl<qlmListBox>("rosterList")->rowCount(), 7);
         whenShown<AddPlayersToGameScrn>([](AddPlayersToGameScrn *w) {
             for (int r = 0; r < w->PlayerList->rowCount(); ++r)
                 w->PlayerList->setCellCheck(r, 0, true);
             w->findChild<QPushButton *>(QStringLiteral("doneBtn"))->click();
         });
-        Q_EMIT m_scr->PlusMinusPlayers->PlusPressed();
-        QCOMPARE(m_scr->rosterList->rowCount(), 8); // only the one on neither list
-        QCOMPARE(m_scr->rosterList->cell(7, 1), QStringLiteral("Bo12 Smith"));
+        Q_EMIT ctl<PlusMinusContainer>("PlusMinusPlayers")->PlusPressed();
+        QCOMPARE(ctl<qlmListBox>("rosterList")->rowCount(), 8); // only the one on neither list
+        QCOMPARE(ctl<qlmListBox>("rosterList")->cell(7, 1), QStringLiteral("Bo12 Smith"));
 
         // Team B bats in the second half, but its card is on show: the
         // first inning doubles (four batters, two outs when the order comes round).
         inning(0, {"0:B1>xRUN", "1:BB>xOUT", "2:HR", "3:GO"});
-        QCOMPARE(m_scr->scoreCardLB->grid().heading(1), QStringLiteral("1a"));
+        QCOMPARE(ctl<BBScoringLB>("scoreCardLB")->grid().heading(1), QStringLiteral("1a"));
         inning(1, {"0:KS"});
         inning(2, {"1:B2>xLOB", "2:KL", "3:GO", "0:FO"});
-        QVERIFY(m_scr->finalizeBtn->isVisible());
-        QVERIFY(m_scr->finalizeBtn->isEnabled());
+        QVERIFY(ctl<QPushButton>("finalizeBtn")->isVisible());
+        QVERIFY(ctl<QPushButton>("finalizeBtn")->isEnabled());
 
         // Team A: three innings with a substitution after the first.
-        m_scr->TeamBtn[0]->click();
+        ctl<QRadioButton>("TeamBtn_0")->click();
         inning(0, {"0:B1>xLOB", "1:GO", "2:KS", "3:FO"});
-        m_scr->rosterList->setSelectedRow(rowOfPos(m_scr->rosterList, "P"));
-        m_scr->Names_PosLB->setSelectedRow(1);
-        m_scr->replaceBtn->click();
-        QCOMPARE(m_scr->Names_PosLB->cell(2, 2), QStringLiteral(" ->Ann12 Smith"));
-        QCOMPARE(m_scr->Names_PosLB->cell(2, 0), QStringLiteral("2"));
+        ctl<qlmListBox>("rosterList")->setSelectedRow(rowOfPos(ctl<qlmListBox>("rosterList"), "P"));
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(1);
+        ctl<QPushButton>("replaceBtn")->click();
+        QCOMPARE(ctl<BBPlayersLB>("Names_PosLB")->cell(2, 2), QStringLiteral(" ->Ann12 Smith"));
+        QCOMPARE(ctl<BBPlayersLB>("Names_PosLB")->cell(2, 0), QStringLiteral("2"));
         inning(1, {"5:HR", "6:GO", "7:KL", "8:FO"});
         inning(2, {"9:B3>xRUN", "0:BB>xLOB", "2:GO", "3:KS", "4:GO"});
         QCOMPARE(board(0).mid(0, 4), (QStringList{"0", "1", "1", "--"}));
 
         // RBI and SB from the keyboard: "+" steps, Return goes down, Tab across.
-        m_scr->batterStatLB->editCell(4, 0);
+        ctl<qlmListBox>("batterStatLB")->editCell(4, 0);
         QTest::keyClick(statEditor(), Qt::Key_Plus);
         QTest::keyClick(statEditor(), Qt::Key_Return);
         QTest::keyClick(statEditor(), Qt::Key_Tab);
@@ -248,52 +263,56 @@ private Q_SLOTS:
                  (BatterStat{"0", "1"}));
 
         // The panels: batting and fielding for the home run hitter, pitching for the pitcher.
-        m_scr->Names_PosLB->setSelectedRow(4);
-        m_scr->UDBatStatsBtn->click();
-        QVERIFY(m_scr->myBatCtr->isVisible());
-        QTest::keyClick(m_scr->myBatCtr->dataFld(1), Qt::Key_Plus);
-        QTest::keyClick(m_scr->myBatCtr->dataFld(1), Qt::Key_Escape);
-        QVERIFY(!m_scr->myBatCtr->isVisible());
-        QVERIFY(!m_scr->UDBatStatsBtn->isChecked());
-        m_scr->fldStatsBtn->click();
-        m_scr->myFldCtr->dataFld(5)->setText(QString());
-        QTest::keyClicks(m_scr->myFldCtr->dataFld(5), QStringLiteral("2x"));
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(4);
+        ctl<QPushButton>("UDBatStatsBtn")->click();
+        QVERIFY(ctl<battingCtr>("myBatCtr")->isVisible());
+        QTest::keyClick(ctl<battingCtr>("myBatCtr")->dataFld(1), Qt::Key_Plus);
+        QTest::keyClick(ctl<battingCtr>("myBatCtr")->dataFld(1), Qt::Key_Escape);
+        QVERIFY(!ctl<battingCtr>("myBatCtr")->isVisible());
+        QVERIFY(!ctl<QPushButton>("UDBatStatsBtn")->isChecked());
+        ctl<QPushButton>("fldStatsBtn")->click();
+        m_scr->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_scr));
+        ctl<FieldingCtr>("myFldCtr")->dataFld(5)->setFocus();
+        ctl<FieldingCtr>("myFldCtr")->dataFld(5)->setText(QString());
+        QTest::keyClicks(ctl<FieldingCtr>("myFldCtr")->dataFld(5), QStringLiteral("2x"));
         QCOMPARE(season.fake.beeper.beeps, 1);
-        m_scr->fldStatsBtn->click();
-        QCOMPARE(m_scr->errsFld[0]->text(), QStringLiteral("2"));
+        ctl<FieldingCtr>("myFldCtr")->dataFld(6)->setFocus();
+        QCOMPARE(ctl<QLineEdit>("errsFld_0")->text(), QStringLiteral("2")); // at once, the panel still open
+        ctl<QPushButton>("fldStatsBtn")->click();
 
-        m_scr->Names_PosLB->setSelectedRow(10);
-        QVERIFY(m_scr->pitchStatsBtn->isEnabled());
-        m_scr->pitchStatsBtn->click();
-        QVERIFY(m_scr->scoreCardLB->grid().disableCellClick);
-        QLineEdit *ip = m_scr->myPitchCtr->dataFld(0);
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(10);
+        QVERIFY(ctl<QPushButton>("pitchStatsBtn")->isEnabled());
+        ctl<QPushButton>("pitchStatsBtn")->click();
+        QVERIFY(ctl<BBScoringLB>("scoreCardLB")->grid().clickDisabled());
+        QLineEdit *ip = ctl<pitchingCtr>("myPitchCtr")->dataFld(0);
         ip->setText(QString());
         QTest::keyClicks(ip, QStringLiteral("6.3"));
         QTest::keyClick(ip, Qt::Key_Escape);
-        QVERIFY(m_scr->myPitchCtr->isVisible()); // a bad innings text keeps the panel open
+        QVERIFY(ctl<pitchingCtr>("myPitchCtr")->isVisible()); // a bad innings text keeps the panel open
         QCOMPARE(msgs.texts().last(), QStringLiteral("Incorrect 'IP' entry."));
 
         // Auto-fill over team B's card: from the first batter of "1" to
         // the last of "2" (the doubled inning in between).
         continueAutoFill();
-        m_scr->myPitchCtr->autoFillButton()->click();
+        ctl<pitchingCtr>("myPitchCtr")->autoFillButton()->click();
         QCOMPARE(m_scr->game().curSelTeam(), 1);
-        QVERIFY(!m_scr->myPitchCtr->isVisible());
+        QVERIFY(!ctl<pitchingCtr>("myPitchCtr")->isVisible());
         for (const QPoint mark : {QPoint(0, 0), QPoint(2, 0)}) { // (col, row)
-            m_scr->scoreCardLB->setCurrentCell(mark.y(), mark.x());
-            QTest::keyClick(m_scr->scoreCardLB, Qt::Key_Return);
+            ctl<BBScoringLB>("scoreCardLB")->setCurrentCell(mark.y(), mark.x());
+            QTest::keyClick(ctl<BBScoringLB>("scoreCardLB"), Qt::Key_Return);
         }
         QCOMPARE(m_scr->game().curSelTeam(), 0);
-        QVERIFY(m_scr->myPitchCtr->isVisible());
+        QVERIFY(ctl<pitchingCtr>("myPitchCtr")->isVisible());
         QCOMPARE(ip->text(), QStringLiteral("2.0")); // six outs
-        QCOMPARE(m_scr->myPitchCtr->dataFld(1)->text(), QStringLiteral("9"));
-        QCOMPARE(m_scr->myPitchCtr->dataFld(2)->text(), QStringLiteral("3"));
-        m_scr->myPitchCtr->gameBtn(0)->click();
+        QCOMPARE(ctl<pitchingCtr>("myPitchCtr")->dataFld(1)->text(), QStringLiteral("9"));
+        QCOMPARE(ctl<pitchingCtr>("myPitchCtr")->dataFld(2)->text(), QStringLiteral("3"));
+        ctl<pitchingCtr>("myPitchCtr")->gameBtn(0)->click();
         QTest::keyClick(ip, Qt::Key_Escape);
-        QVERIFY(!m_scr->myPitchCtr->isVisible());
+        QVERIFY(!ctl<pitchingCtr>("myPitchCtr")->isVisible());
 
         // Team B's last at bats: a run in the last inning asks whether the game is over.
-        m_scr->TeamBtn[1]->click();
+        ctl<QRadioButton>("TeamBtn_1")->click();
         msgs.answers.enqueue(platform::MsgAction);
         inning(3, {"1:HR"});
         QCOMPARE(msgs.texts().last(), QStringLiteral("Is this game over?"));
@@ -301,11 +320,11 @@ private Q_SLOTS:
         const QStringList boardB = board(1);
         QCOMPARE(boardB.mid(0, 4), (QStringList{"2", "0", "1", "--"}));
         QCOMPARE(boardB.at(10), QStringLiteral("3"));
-        m_scr->TeamBtn[0]->click();
-        m_scr->TeamBtn[1]->click();
+        ctl<QRadioButton>("TeamBtn_0")->click();
+        ctl<QRadioButton>("TeamBtn_1")->click();
         QCOMPARE(board(1), boardB);
 
-        const QString data = m_scr->scoreCardLB->grid().getMyData();
+        const QString data = ctl<BBScoringLB>("scoreCardLB")->grid().getMyData();
         QVERIFY(m_scr->close());
         m_scr = nullptr;
 
@@ -329,10 +348,10 @@ private Q_SLOTS:
         const QString printed = fakes::pdfText(season.fake.printing.printed.first());
         QVERIFY(printed.startsWith(QStringLiteral("O'Brien's")));
         QVERIFY(printed.contains(QStringLiteral("Printed: ") + EventDates::shortDate(QDate(2026, 4, 15))));
-        m_scr->TeamBtn[1]->click();
+        ctl<QRadioButton>("TeamBtn_1")->click();
         QCOMPARE(board(1), boardB);
-        QCOMPARE(m_scr->scoreCardLB->grid().getMyData(), data);
-        QVERIFY(m_scr->finalizeBtn->isVisible());
+        QCOMPARE(ctl<BBScoringLB>("scoreCardLB")->grid().getMyData(), data);
+        QVERIFY(ctl<QPushButton>("finalizeBtn")->isVisible());
         QCOMPARE(storedStrings(season.schedID()), stored);
         m_scr->close();
     }
@@ -361,17 +380,134 @@ private Q_SLOTS:
             addByPos({"C", "B1", "B2"});
             inning(0, {"0:GO", "1:FO", "2:KS"});
         }
-        if (recorded)
-            m_scr->game().setRecorded();
         QVERIFY(m_scr->close());
+        if (recorded) // as recording marks it
+            gData->exec(QStringLiteral("UPDATE Games SET recorded = 1 WHERE schedID = ?"), {season.schedID()});
         openFromSchedule(season);
-        QCOMPARE(m_scr->finalizeBtn->isVisible(), button);
-        QCOMPARE(m_scr->dataRecordedLabel->isVisible(), label);
+        QCOMPARE(ctl<QPushButton>("finalizeBtn")->isVisible(), button);
+        QCOMPARE(ctl<QLabel>("dataRecordedLabel")->isVisible(), label);
+        // A recorded game is shown read-only, and says so.
+        QCOMPARE(ctl<QLabel>("InstrFld")->text().startsWith(QStringLiteral("This game is recorded")), recorded);
+        QCOMPARE(m_scr->findChild<QPushButton *>(QStringLiteral("removeBtn"))->isEnabled(), false);
+        QCOMPARE(m_scr->findChild<QComboBox *>(QStringLiteral("gameTypePop"))->isEnabled(), !recorded);
+        if (recorded) {
+            ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(0);
+            QVERIFY(!m_scr->findChild<QPushButton *>(QStringLiteral("UDBatStatsBtn"))->isEnabled());
+            m_codes.enqueue(QStringLiteral("HR"));
+            ctl<BBScoringLB>("scoreCardLB")->setCurrentCell(0, 1);
+            QTest::keyClick(ctl<BBScoringLB>("scoreCardLB"), Qt::Key_Return);
+            QCOMPARE(ctl<BBScoringLB>("scoreCardLB")->grid().cellText(0, 1), QString());
+        }
         QCOMPARE(GameStore(*gData).load(season.schedID())->recorded, recorded);
         m_scr->close();
     }
 
-    // A panel writes its row only when something was changed in it.
+    // "Enter Game Data" on a game already open brings that window forward:
+    // two windows would each write their own copy of the card.
+    void oneWindowPerGame()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        gameDayScrn *first = m_scr;
+        auto *schedule = new scheduleScrn;
+        schedule->show();
+        schedule->findChild<qlmListBox *>(QStringLiteral("ScheduleListbox"))->setSelectedRow(0);
+        schedule->findChild<QPushButton *>(QStringLiteral("enterDataBtn"))->click();
+        int windows = 0;
+        for (QWidget *w : QApplication::topLevelWidgets())
+            windows += qobject_cast<gameDayScrn *>(w) && w->isVisible() ? 1 : 0;
+        QCOMPARE(windows, 1);
+        QCOMPARE(shown<gameDayScrn>(), first);
+        // The team buttons name their teams.
+        auto *teamA = ctl<QRadioButton>("TeamBtn_0");
+        QCOMPARE(teamA->text(), QStringLiteral("O'Brien's Nine"));
+        QVERIFY(teamA->accessibleName().contains(QStringLiteral("O'Brien's Nine")));
+        QVERIFY(ctl<QRadioButton>("TeamBtn_1")->accessibleName().contains(QStringLiteral("Bears")));
+        QCOMPARE(ctl<QLineEdit>("runsFld_1")->accessibleName(), QStringLiteral("Bears runs"));
+        schedule->close();
+        m_scr->close();
+    }
+
+    // The panels' buttons follow the lineup row shown selected, across a
+    // change of team too.
+    void panelButtonsFollowTheSelection()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        addByPos({"C", "RHP"});
+        auto *lineup = ctl<BBPlayersLB>("Names_PosLB");
+        auto *fielding = ctl<QPushButton>("fldStatsBtn");
+        auto *pitching = ctl<QPushButton>("pitchStatsBtn");
+        lineup->setSelectedRow(1);
+        QVERIFY(fielding->isEnabled() && pitching->isEnabled());
+        lineup->setSelectedRow(0);
+        QVERIFY(fielding->isEnabled() && !pitching->isEnabled());
+        QVERIFY(!pitching->toolTip().isEmpty()); // says why not
+        for (const int team : {1, 0}) {
+            ctl<QRadioButton>(team == 1 ? "TeamBtn_1" : "TeamBtn_0")->click();
+            QCOMPARE(fielding->isEnabled(), lineup->selectedRow() >= 0);
+        }
+        lineup->setSelectedRow(1);
+        QVERIFY(pitching->isEnabled());
+        m_scr->close();
+    }
+
+    // RBI and SB: one click opens a cell, and a digit typed on the current
+    // cell goes into it.
+    void batterStatsOneClick()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        addByPos({"C", "B1"});
+        auto *stats = ctl<qlmListBox>("batterStatLB");
+        const QRect cell = stats->visualRect(stats->model()->index(1, 0));
+        QTest::mouseClick(stats->viewport(), Qt::LeftButton, {}, cell.center());
+        QVERIFY(stats->isEditingCell());
+        QTest::keyClick(statEditor(), Qt::Key_Escape);
+        QVERIFY(!stats->isEditingCell());
+        QTest::keyClick(stats, Qt::Key_3);
+        QVERIFY(stats->isEditingCell());
+        QTest::keyClick(statEditor(), Qt::Key_Return);
+        QCOMPARE(readBatStats(GameStore(*gData).load(season.schedID())->teams[0].batStats).at(1).rbi,
+                 QStringLiteral("3"));
+        m_scr->close();
+    }
+
+    // Auto-fill says what to click, and Escape or a change of team leaves
+    // it: the pitcher's team and his panel come back, nothing filled.
+    void autoFillWayOut_data()
+    {
+        QTest::addColumn<QString>("leave");
+        QTest::newRow("Escape") << "escape";
+        QTest::newRow("a team button") << "team";
+    }
+    void autoFillWayOut()
+    {
+        QFETCH(QString, leave);
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        addByPos({"RHP"});
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(0);
+        ctl<QPushButton>("pitchStatsBtn")->click();
+        continueAutoFill();
+        ctl<pitchingCtr>("myPitchCtr")->autoFillButton()->click();
+        QCOMPARE(m_scr->game().curSelTeam(), 1);
+        auto *instruction = ctl<QLabel>("InstrFld");
+        QVERIFY(instruction->text().contains(QStringLiteral("first batter")));
+        if (leave == u"escape")
+            QTest::keyClick(ctl<BBScoringLB>("scoreCardLB"), Qt::Key_Escape);
+        else
+            ctl<QRadioButton>("TeamBtn_0")->click();
+        QCOMPARE(m_scr->game().curSelTeam(), 0);
+        QVERIFY(!m_scr->game().autoFillRunning());
+        QVERIFY(!gIsAutoFillMode);
+        QVERIFY(!instruction->text().contains(QStringLiteral("Auto-fill")));
+        QCOMPARE(ctl<pitchingCtr>("myPitchCtr")->isVisible(), leave == u"escape");
+        m_scr->close();
+    }
+
+    // A panel writes its row only when something was changed in it, as
+    // each field is left (and each button clicked), before it closes.
     void panelsWriteWhatWasTyped_data()
     {
         QTest::addColumn<QString>("panel");
@@ -397,14 +533,17 @@ private Q_SLOTS:
         gamedaytest::Season season;
         openFromSchedule(season);
         addByPos({"RHP"});
-        m_scr->Names_PosLB->setSelectedRow(0);
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(0);
         m_scr->findChild<QPushButton *>(panel)->click();
-        StatPanel *open = panel == u"UDBatStatsBtn" ? static_cast<StatPanel *>(m_scr->myBatCtr)
-                          : panel == u"fldStatsBtn" ? static_cast<StatPanel *>(m_scr->myFldCtr)
-                                                    : static_cast<StatPanel *>(m_scr->myPitchCtr);
+        StatPanel *open = panel == u"UDBatStatsBtn" ? static_cast<StatPanel *>(ctl<battingCtr>("myBatCtr"))
+                          : panel == u"fldStatsBtn" ? static_cast<StatPanel *>(ctl<FieldingCtr>("myFldCtr"))
+                                                    : static_cast<StatPanel *>(ctl<pitchingCtr>("myPitchCtr"));
         QVERIFY(open->isVisible());
+        m_scr->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_scr));
+        open->dataFld(1)->setFocus();
         if (typed == u"Win") {
-            m_scr->myPitchCtr->gameBtn(0)->click();
+            ctl<pitchingCtr>("myPitchCtr")->gameBtn(0)->click();
         } else {
             for (const QChar c : typed) {
                 if (c == u'\b')
@@ -413,14 +552,18 @@ private Q_SLOTS:
                     QTest::keyClick(open->dataFld(1), c.toLatin1());
             }
         }
-        QTest::keyClick(open->dataFld(0), Qt::Key_Escape);
-        QVERIFY(!open->isVisible());
+        open->dataFld(0)->setFocus();
         const stats::Panel kind = panel == u"UDBatStatsBtn" ? stats::Panel::Batting
                                   : panel == u"fldStatsBtn" ? stats::Panel::Fielding
                                                             : stats::Panel::Pitching;
         const QString player = m_scr->game().lineup().at(0).playerID;
-        const std::optional<QString> row = stats::GameStatStore(*gData).stats(kind, season.schedID(), player);
-        QCOMPARE(row.value_or(QString()), stored);
+        auto storedRow = [&] {
+            return stats::GameStatStore(*gData).stats(kind, season.schedID(), player).value_or(QString());
+        };
+        QCOMPARE(storedRow(), stored); // the panel still open
+        QTest::keyClick(open->dataFld(0), Qt::Key_Escape);
+        QVERIFY(!open->isVisible());
+        QCOMPARE(storedRow(), stored);
         if (kind == stats::Panel::Pitching)
             QCOMPARE(stats::GameStatStore(*gData).pitching(season.schedID(), player)->gameResult, 1);
         m_scr->close();

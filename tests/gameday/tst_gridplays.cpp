@@ -85,11 +85,11 @@ private Q_SLOTS:
         QVERIFY(grid.check4ThreeOuts(firstInningDoubles ? 0 : 1));
 
         QSignalSpy done(&grid, &ScoreGrid::autoFillDataReturn);
-        gIsAutoFillMode = true;
+        grid.setAutoFillMode(true);
         grid.cellClicked(first.y(), first.x(), false);
         grid.cellClicked(last.y(), last.x(), false);
         QCOMPARE(done.count(), 1);
-        QCOMPARE(figures(grid.autoFillData), expected);
+        QCOMPARE(figures(grid.autoFillFigures()), expected);
         QVERIFY(env.fake.messages.shown.isEmpty());
     }
 

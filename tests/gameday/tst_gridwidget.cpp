@@ -303,7 +303,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&grid));
         PopoverDriver driver;
 
-        gIsAutoFillMode = true;
+        grid.grid().setAutoFillMode(true);
         QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 1, 0));
         // The first mark is outlined in blue while the coach looks for the second.
         const QRect cell = grid.renderer().cellRect(1, 0);
@@ -311,7 +311,7 @@ private Q_SLOTS:
         QTest::mouseClick(&grid, Qt::LeftButton, {}, cellCentre(grid, 4, 0));
 
         QCOMPARE(driver.opened, 0);
-        QCOMPARE(grid.grid().autoClickCt, 2);
+        QCOMPARE(grid.grid().autoClickCount(), 2);
         grid.grid().reinitAutoVars();
         QCOMPARE(grid.grab().toImage().pixelColor(cell.left() + 2, cell.center().y()), QColor::fromRgb(0xFF5765));
     }

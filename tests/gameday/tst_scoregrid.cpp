@@ -207,7 +207,7 @@ private Q_SLOTS:
         QCOMPARE(added.at(0).at(0).toString(), expected);
         QCOMPARE(grid.getColHeadings(), expected);
         QCOMPARE(grid.columnCount(), 21);
-        QCOMPARE(grid.defInnings, 10);
+        QCOMPARE(grid.defInnings(), 10);
         QCOMPARE(grid.columnWidth(3), gameday::kInsertedColumnWidth);
         QCOMPARE(bkgColumn(grid, 3), QStringLiteral("-----X---")); // disabled rows stay disabled
         QCOMPARE(grid.cellText(0, 4), QStringLiteral("KL"));
@@ -252,7 +252,7 @@ private Q_SLOTS:
         grid.insertColumn(4, 32);
         QCOMPARE(grid.columnCount(), gameday::kBkgCols);
         QCOMPARE(grid.heading(22), QStringLiteral("20"));
-        QCOMPARE(grid.defInnings, 12);
+        QCOMPARE(grid.defInnings(), 12);
 
         // A fourth doubling takes the place of the last, unplayed column.
         QVERIFY(grid.canInsertColumn(6));
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(grid.columnCount(), gameday::kBkgCols);
         QCOMPARE(grid.heading(7), QStringLiteral("4a"));
         QCOMPARE(grid.heading(22), QStringLiteral("19"));
-        QCOMPARE(grid.defInnings, 13);
+        QCOMPARE(grid.defInnings(), 13);
 
         // Once that column holds data there is no room: the coach is told,
         // and nothing moves.

@@ -19,6 +19,7 @@
 
 #include <QAction>
 #include <QBuffer>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -96,6 +97,10 @@ private Q_SLOTS:
         const int westRow = rowOf(screen->teamList, QStringLiteral("Wolves"));
         const QString second = screen->teamList->rowTag(westRow);
         QCOMPARE(gPrefs->prHomeTeam, moved ? second : first);
+        // On disk at once: a crash now keeps the choice.
+        QFile file(gPrefs->prefsFilePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), gPrefs->encode());
         QCOMPARE(screen->teamList->cell(westRow, 2), moved ? QStringLiteral("X") : QString());
         QCOMPARE(screen->teamList->cell(rowOf(screen->teamList, QStringLiteral("Señores; Rojos")), 2),
                  moved ? QString() : QStringLiteral("X"));

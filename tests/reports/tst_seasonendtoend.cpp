@@ -4,6 +4,7 @@
 
 #include "ReportsFixture.h"
 #include "SampleSeason.h"
+#include "fakes/TestKit.h"
 #include "gameday/ui/gameDayScrn.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportScrn.h"
@@ -60,8 +61,8 @@ void recordFromScreen(gameDayScrn *screen)
         }
     });
     poll->start();
-    screen->finalizeBtn->setFocus();
-    QTest::keyClick(screen->finalizeBtn, Qt::Key_Space);
+    testkit::child<QPushButton>(screen, "finalizeBtn")->setFocus();
+    QTest::keyClick(testkit::child<QPushButton>(screen, "finalizeBtn"), Qt::Key_Space);
 }
 
 QStringList lines(const qlmListBox *list)
@@ -98,11 +99,11 @@ private Q_SLOTS:
         first->show();
         playTeam(first->game(), {"C", "B1", "B2"}, {{0, 0, "B1"}, {0, 0, "xRUN"}, {1, 0, "HR"}, {2, 0, "KS"}});
         first->game().setBatterStat(1, 0, "2");
-        first->TeamBtn[0]->click();
+        testkit::child<QRadioButton>(first, "TeamBtn_0")->click();
         playTeam(first->game(), {"C", "B1", "B2"}, {{0, 0, "KS"}, {1, 0, "GO"}, {2, 0, "FO"}});
-        QVERIFY(first->finalizeBtn->isVisible());
+        QVERIFY(testkit::child<QPushButton>(first, "finalizeBtn")->isVisible());
         recordFromScreen(first);
-        QVERIFY(first->dataRecordedLabel->isVisible());
+        QVERIFY(testkit::child<QLabel>(first, "dataRecordedLabel")->isVisible());
         first->close();
 
         // At the Patriots, batting first: Nguyen doubles and is left on,
@@ -110,11 +111,11 @@ private Q_SLOTS:
         auto *second = new gameDayScrn(games.at(1));
         second->show();
         playTeam(second->game(), {"C", "B1", "B2"}, {{0, 0, "HR"}, {1, 0, "HR"}, {2, 0, "KS"}});
-        second->TeamBtn[0]->click();
+        testkit::child<QRadioButton>(second, "TeamBtn_0")->click();
         playTeam(second->game(), {"C", "B1", "B2", "B3"},
                  {{0, 0, "B2"}, {0, 0, "xLOB"}, {1, 0, "KS"}, {2, 0, "GO"}, {3, 0, "FO"}});
         recordFromScreen(second);
-        QVERIFY(second->dataRecordedLabel->isVisible());
+        QVERIFY(testkit::child<QLabel>(second, "dataRecordedLabel")->isVisible());
         second->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(f.db->scalar("SELECT COUNT(*) FROM Games WHERE recorded = 1").toInt(), 2);

@@ -208,8 +208,10 @@ private Q_SLOTS:
             << "The lineup and hitting data are not in sync." << GameRecorder::Result::NotInSync;
         QTest::newRow("thirds digit above 2") << "innings"
                                               << "Incorrect 'IP' entry." << GameRecorder::Result::BadInnings;
-        QTest::newRow("season total thirds above 2") << "total"
-                                                     << "Incorrect 'IP' entry." << GameRecorder::Result::BadInnings;
+        QTest::newRow("season total thirds above 2, not carried")
+            << "total"
+            << "The season's innings pitched of Dan Ewing read 5.5, which is not a count of thirds."
+            << GameRecorder::Result::BadInnings;
         QTest::newRow("texts longer than lineup")
             << "texts"
             << "There is an error in the saved data." << GameRecorder::Result::BadSavedData;
@@ -228,7 +230,8 @@ private Q_SLOTS:
         else if (damage == u"innings")
             gData->exec("UPDATE GamesIndivPitching SET stats = '6.3' WHERE playerID = '302'");
         else if (damage == u"total")
-            gData->insert("Pitching", {{"playerID", 205}, {"IP", 55}});
+            gData->insert("Pitching", {{"playerID", 205}, {"IP", 55}}),
+                s.fake.messages.answers.enqueue(platform::MsgCancel);
         else if (damage == u"texts")
             gData->exec("UPDATE Games SET TeamAActions = TeamAActions || ? WHERE schedID = ?", {"\rB1", game});
         else if (damage == u"recorded")
@@ -239,6 +242,19 @@ private Q_SLOTS:
         QTEST(recordWithBoard(game), "result");
         QCOMPARE(s.fake.messages.texts().value(0), message);
         QCOMPARE(Season::fileBytes(), before);
+    }
+
+    // On the coach's word a stored total's thirds carry (5.5 is 6.2) in the
+    // recording's own transaction, and the game's 4.1 is added to that.
+    void seasonThirdsCarry()
+    {
+        Season s;
+        const QString game = storeTwoGames(s).first();
+        gData->insert("Pitching", {{"playerID", 205}, {"IP", 55}});
+        s.fake.messages.answers.enqueue(platform::MsgAction);
+        QCOMPARE(recordWithBoard(game), GameRecorder::Result::Recorded);
+        QVERIFY(s.fake.messages.texts().first().contains(QStringLiteral("Dan Ewing read 5.5")));
+        QVERIFY(Season::seasonRow("Pitching", "205").split(u' ').contains(QStringLiteral("IP=110")));
     }
 
     // A database failure at any one of the game's writes takes back all of

@@ -4,6 +4,7 @@
 // label) or leaves everything as it was, as a database failure does.
 
 #include "RecordTestSupport.h"
+#include "fakes/TestKit.h"
 #include "gameday/GameDayTestSupport.h"
 #include "gameday/ui/BBPlayersLB.h"
 #include "gameday/ui/gameDayScrn.h"
@@ -12,6 +13,7 @@
 #include "stats/ui/finalCheckScrn.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -130,39 +132,92 @@ private Q_SLOTS:
                  {{0, 0, "HR"}, {1, 0, "GO"}, {2, 0, "KS"}, {3, 0, "FO"}, {0, 1, "B2"}, {0, 1, "xLOB"}});
         game.setBatterStat(0, 0, "1");
         game.setBatterStat(1, 1, "1");
-        scr->TeamBtn[0]->click();
+        testkit::child<QRadioButton>(scr, "TeamBtn_0")->click();
         playTeam(game, {"C", "B1"}, {{0, 0, "B1"}, {0, 0, "xRUN"}, {1, 0, "HR"}});
         game.setBatterStat(1, 0, "1");
         stats::GameStatStore(*gData).savePitching(s.schedID(), "16", bears,
                                                   {2, true, false, false, 20, 30, "5.1\t12\t4"});
         // The catcher's fielding panel open with a figure typed; a change of
         // team saves and closes it, else recording does.
-        scr->Names_PosLB->setSelectedRow(0);
-        scr->fldStatsBtn->click();
-        scr->myFldCtr->dataFld(0)->selectAll();
-        QTest::keyClicks(scr->myFldCtr->dataFld(0), "9");
+        testkit::child<BBPlayersLB>(scr, "Names_PosLB")->setSelectedRow(0);
+        testkit::child<QPushButton>(scr, "fldStatsBtn")->click();
+        testkit::child<FieldingCtr>(scr, "myFldCtr")->dataFld(0)->selectAll();
+        QTest::keyClicks(testkit::child<FieldingCtr>(scr, "myFldCtr")->dataFld(0), "9");
         if (view == 1)
-            scr->TeamBtn[1]->click();
-        QVERIFY(scr->finalizeBtn->isVisible());
+            testkit::child<QRadioButton>(scr, "TeamBtn_1")->click();
+        QVERIFY(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible());
         if (answer == u"fail")
             recordtest::failAtWrite(3);
 
         QString marks;
         answerChecks(answer == u"fail" ? QStringLiteral("recordBtn") : answer, marks);
-        scr->finalizeBtn->setFocus();
-        QTest::keyClick(scr->finalizeBtn, Qt::Key_Space);
+        testkit::child<QPushButton>(scr, "finalizeBtn")->setFocus();
+        QTest::keyClick(testkit::child<QPushButton>(scr, "finalizeBtn"), Qt::Key_Space);
 
         // RBI 1 against 2 runs for the home team, whose first inning has no
         // outs; every at bat has its result; both panels saved.
         QCOMPARE(marks, QStringLiteral("0011"));
-        QVERIFY(!scr->myFldCtr->isVisible());
+        QVERIFY(!testkit::child<FieldingCtr>(scr, "myFldCtr")->isVisible());
         QCOMPARE(seasonDump(home, bears, s.schedID()), season);
         const bool done = season.endsWith("recorded");
-        QCOMPARE(scr->finalizeBtn->isVisible(), !done);
-        QCOMPARE(scr->dataRecordedLabel->isVisible(), done);
+        QCOMPARE(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible(), !done);
+        QCOMPARE(testkit::child<QLabel>(scr, "dataRecordedLabel")->isVisible(), done);
+        QCOMPARE(testkit::child<QComboBox>(scr, "gameTypePop")->isEnabled(), !done); // read-only once recorded
         QCOMPARE(s.fake.messages.texts().contains("The game data has been successfully recorded."), done);
         if (answer == u"fail")
             QVERIFY(s.fake.messages.texts().last().startsWith("Database Error"));
+        scr->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    // The score recorded is the cards', worked out anew when the coach
+    // records: a walk-off run after "Cancel" to "Is this game over?" left
+    // the board behind, and still wins. The check window shows the score.
+    void walkOffIsAWin()
+    {
+        gamedaytest::Season s(1); // the Bears bat first, the home team last
+        gPrefs->prInnings = QStringLiteral("1 Innings");
+        auto *scr = new gameDayScrn(s.schedID());
+        scr->show();
+        gameday::GameDay &game = scr->game();
+        QTRY_COMPARE(game.curSelTeam(), 0);
+        playTeam(game, {"C", "B1", "B2", "B3"}, {{0, 0, "HR"}, {1, 0, "GO"}, {2, 0, "KS"}, {3, 0, "FO"}});
+        scr->findChild<QRadioButton *>(QStringLiteral("TeamBtn_1"))->click();
+        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        for (const QString &pos : {"C", "B1"}) {
+            for (int i = 0; i < game.roster().size(); ++i) {
+                if (game.roster().at(i).pos == pos) {
+                    game.addPlayerToLineup(i);
+                    break;
+                }
+            }
+        }
+        game.card().applyChoice(0, 0, QStringLiteral("HR"));
+        game.card().applyChoice(1, 0, QStringLiteral("HR"));
+        QCOMPARE(s.fake.messages.texts().count(QStringLiteral("Is this game over?")), 2);
+
+        QString marks;
+        QString score;
+        auto *poll = new QTimer;
+        poll->setInterval(5);
+        QObject::connect(poll, &QTimer::timeout, poll, [poll, &score] {
+            for (QWidget *w : QApplication::topLevelWidgets()) {
+                auto *check = qobject_cast<finalCheckScrn *>(w);
+                if (!check || !check->isVisible())
+                    continue;
+                score = check->findChild<QLabel *>(QStringLiteral("scoreLabel"))->text();
+                poll->stop();
+                poll->deleteLater();
+            }
+        });
+        poll->start();
+        answerChecks(QStringLiteral("recordBtn"), marks);
+        scr->findChild<QPushButton *>(QStringLiteral("finalizeBtn"))->click();
+        QCOMPARE(score, QStringLiteral("Bears 1, O'Brien's Nine 2"));
+        QCOMPARE(Season::record(QString::number(s.homeID)), QStringLiteral("1-0-0"));
+        QCOMPARE(Season::record(QString::number(s.bearsID)), QStringLiteral("0-1-0"));
+        QCOMPARE(scr->findChild<QLineEdit *>(QStringLiteral("runsFld_1"))->text(), QStringLiteral("2"));
         scr->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

@@ -26,7 +26,7 @@ BBScoringLB::BBScoringLB(QWidget *parent) : QWidget(parent)
     connect(&m_grid, &ScoreGrid::autoFillFailed, this, &BBScoringLB::autoFillFailed);
     connect(&m_grid, &ScoreGrid::changed, this, &BBScoringLB::gridChanged);
     connect(&m_grid, &ScoreGrid::autoMarkTaken, this, [this](int row, int col) {
-        if (m_grid.autoClickCt <= 1) {
+        if (m_grid.autoClickCount() <= 1) {
             m_markStart = GridCell{row, col};
             m_markEnd.reset();
         } else {
@@ -68,7 +68,7 @@ void BBScoringLB::announceCurrent()
 void BBScoringLB::gridChanged()
 {
     // Marks live only while auto-fill counts clicks.
-    if (m_grid.autoClickCt == 0) {
+    if (m_grid.autoClickCount() == 0) {
         m_markStart.reset();
         m_markEnd.reset();
     }

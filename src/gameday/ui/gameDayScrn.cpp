@@ -51,13 +51,50 @@ QLineEdit *boardBox(QWidget *parent, const QString &name, const QString &spoken)
 
 } // namespace
 
+gameDayScrn *gameDayScrn::openFor(const QString &schedID)
+{
+    // One window per game: two would each write their own copy of the card.
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        auto *open = qobject_cast<gameDayScrn *>(w);
+        // A closed window waiting to be deleted is not open.
+        if (open && open->isVisible() && open->m_opened && open->m_game->schedID() == schedID) {
+            open->showNormal();
+            open->raise();
+            open->activateWindow();
+            return open;
+        }
+    }
+    return new gameDayScrn(schedID);
+}
+
 gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     : ScreenBase(ScreenId::gameDayScrn, tr("Game Day"), Options{.backupTimer = true, .returnToStart = false}, parent)
 {
     auto *central = new QWidget(this);
     auto *outer = new QVBoxLayout(central);
+    outer->addLayout(buildTop(central));
+    InstrFld = form::valueLabel(central, QStringLiteral("InstrFld"), tr("Instruction"));
+    InstrFld->setWordWrap(true);
+    outer->addWidget(InstrFld);
+    auto *middle = new QHBoxLayout;
+    middle->addLayout(buildBench(central));
+    middle->addWidget(buildGridArea(central), 1);
+    outer->addLayout(middle, 1);
+    outer->addLayout(buildBottom(central));
+    setCentralWidget(central);
 
-    // --- Scoreboard and game facts ------------------------------------------------
+    m_game = std::make_unique<GameDay>(*gData, scoreCardLB->grid());
+    m_game->errorCounter = [](const QString &game, const QString &team) {
+        return stats::GameStatStore(*gData).teamErrors(game, team);
+    };
+    connectGame();
+    connectLineup();
+    connectBoardAndPanels();
+    openGame(schedID);
+}
+
+QLayout *gameDayScrn::buildTop(QWidget *central)
+{
     auto *top = new QHBoxLayout;
     auto *board = new QGridLayout;
     buildScoreboard(central, board);
@@ -76,13 +113,11 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     EnterRHE_Btn->setCheckable(true);
     rows.add(QStringLiteral("EnterRHE_Btn"), tr("Enter R/H/E ONLY (no AB's)"), EnterRHE_Btn);
     top->addLayout(facts);
-    outer->addLayout(top);
+    return top;
+}
 
-    InstrFld = form::valueLabel(central, QStringLiteral("InstrFld"), tr("Instruction"));
-    outer->addWidget(InstrFld);
-
-    // --- Bench, lineup, grid, batter statistics -------------------------------------
-    auto *middle = new QHBoxLayout;
+QLayout *gameDayScrn::buildBench(QWidget *central)
+{
     auto *benchCol = new QVBoxLayout;
     rosterList = form::named(new qlmListBox(central), QStringLiteral("rosterList"), tr("Roster"));
     rosterList->setColumnCount(3);
@@ -113,8 +148,11 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
         toggles->addWidget(b);
     }
     benchCol->addLayout(toggles);
-    middle->addLayout(benchCol);
+    return benchCol;
+}
 
+QWidget *gameDayScrn::buildGridArea(QWidget *central)
+{
     m_gridArea = new QWidget(central);
     auto *gridRow = new QHBoxLayout(m_gridArea);
     gridRow->setContentsMargins(0, 0, 0, 0);
@@ -145,9 +183,6 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     scoreCardLB = new BBScoringLB(scroll);
     scoreCardLB->setObjectName(QStringLiteral("scoreCardLB"));
     scroll->setWidget(scoreCardLB);
-    dataAnalLB = new BBScoringLB(m_gridArea);
-    dataAnalLB->setObjectName(QStringLiteral("dataAnalLB"));
-    dataAnalLB->hide();
     scroll->setFocusPolicy(Qt::NoFocus);
     gridRow->addWidget(scroll, 1);
     batterStatLB = form::named(new qlmListBox(m_gridArea), QStringLiteral("batterStatLB"),
@@ -158,20 +193,24 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     batterStatLB->setColumnType(0, ListBoxModel::CellType::Editable);
     batterStatLB->setColumnType(1, ListBoxModel::CellType::Editable);
     batterStatLB->setFixedWidth(84);
+    // One click opens a cell; a digit typed on the current cell goes into it.
+    batterStatLB->setEditTriggers(QAbstractItemView::CurrentChanged | QAbstractItemView::SelectedClicked |
+                                  QAbstractItemView::EditKeyPressed);
+    batterStatLB->installEventFilter(this);
     gridRow->addWidget(batterStatLB);
     // Lineup, grid and batter statistics stand row for row.
     const QString rows16 =
         QStringLiteral("QTreeView::item { height: %1px; padding: 0px; }").arg(gameday::ScoreGridRenderer::kRowHeight);
     Names_PosLB->setStyleSheet(rows16);
     batterStatLB->setStyleSheet(rows16);
-    middle->addWidget(m_gridArea, 1);
-    outer->addLayout(middle, 1);
-
     myBatCtr = new battingCtr(m_gridArea);
     myFldCtr = new FieldingCtr(m_gridArea);
     myPitchCtr = new pitchingCtr(m_gridArea);
+    return m_gridArea;
+}
 
-    // --- Bottom row --------------------------------------------------------------------
+QLayout *gameDayScrn::buildBottom(QWidget *central)
+{
     auto *bottom = new QHBoxLayout;
     finalizeBtn = form::button(central, QStringLiteral("finalizeBtn"), tr("Record Game Data"));
     finalizeBtn->hide();
@@ -183,29 +222,17 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     bottom->addWidget(dataRecordedLabel);
     bottom->addStretch();
     bottom->addWidget(closeBtn);
-    outer->addLayout(bottom);
-    setCentralWidget(central);
+    return bottom;
+}
 
-    // --- The game ------------------------------------------------------------------------
-    m_game = std::make_unique<GameDay>(*gData, scoreCardLB->grid());
-    m_game->errorCounter = [](const QString &game, const QString &team) {
-        return stats::GameStatStore(*gData).teamErrors(game, team);
-    };
+void gameDayScrn::connectGame()
+{
     connect(m_game.get(), &GameDay::teamShown, this, &gameDayScrn::showTeam);
     connect(m_game.get(), &GameDay::boardChanged, this, &gameDayScrn::showBoard);
     connect(m_game.get(), &GameDay::lineupChanged, this, &gameDayScrn::showLineup);
     connect(m_game.get(), &GameDay::finalizeVisibleChanged, this, &gameDayScrn::showFinalize);
-    connect(finalizeBtn, &QPushButton::clicked, this, [this] {
-        // An open panel saves and closes first; one that won't (a bad
-        // innings text) keeps the game from being recorded.
-        if (!reinitStatsScrns())
-            return;
-        stats::recordGameData(*gData, *m_game, [this](const std::array<bool, 4> &checks) {
-            finalCheckScrn check(this);
-            return check.showMe(checks);
-        });
-        showFinalize();
-    });
+    connect(m_game.get(), &GameDay::selectionChanged, this, &gameDayScrn::showSelection);
+    connect(m_game.get(), &GameDay::instructionChanged, this, [this] { InstrFld->setText(m_game->instruction()); });
     connect(m_game.get(), &GameDay::enterRHEChanged, this, [this](bool on) {
         const QSignalBlocker block(EnterRHE_Btn);
         EnterRHE_Btn->setChecked(on);
@@ -216,6 +243,7 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
         TeamBtn[size_t(m_game->curSelTeam())]->setChecked(true);
         myPitchCtr->setAutoData(data);
         placePanels();
+        myPitchCtr->show();
         myPitchCtr->setFocus();
     });
     connect(m_game.get(), &GameDay::autoFillAbandoned, this, [this] {
@@ -223,14 +251,29 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
         myPitchCtr->setFocus();
     });
     connect(scoreCardLB, &BBScoringLB::columnAdded, this, [this] { scoreCardLB->adjustSize(); });
+    connect(finalizeBtn, &QPushButton::clicked, this, [this] {
+        // An open panel saves and closes first; one that won't (a bad
+        // innings text) keeps the game from being recorded.
+        if (!reinitStatsScrns())
+            return;
+        stats::recordGameData(*gData, *m_game, [this](const std::array<bool, 4> &checks) {
+            finalCheckScrn check(this);
+            const gameday::Scoreboard &b = m_game->board();
+            check.setScore(m_game->teamInfo(0).name, b.runs[0], m_game->teamInfo(1).name, b.runs[1]);
+            return check.showMe(checks);
+        });
+        showFinalize();
+    });
+}
 
+void gameDayScrn::connectLineup()
+{
     connect(addBtn, &QPushButton::clicked, this, [this] { m_game->addPlayerToLineup(rosterList->selectedRow()); });
     connect(removeBtn, &QPushButton::clicked, this, [this] { m_game->removeFromLineup(Names_PosLB->selectedRow()); });
     connect(replaceBtn, &QPushButton::clicked, this,
             [this] { m_game->addReplacementPlayer(rosterList->selectedRow(), Names_PosLB->selectedRow()); });
     auto move = [this](int delta) {
-        const int row = Names_PosLB->selectedRow();
-        const int to = m_game->moveLineupRow(row, delta);
+        const int to = m_game->moveLineupRow(Names_PosLB->selectedRow(), delta);
         Names_PosLB->setSelectedRow(to);
     };
     connect(moveUpBtn, &QToolButton::clicked, this, [move] { move(-1); });
@@ -240,15 +283,9 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
             [this] { m_game->addBenchPlayers(AddPlayersToGameScrn::getNewPlayers(m_game->teamPlayers(), this)); });
     connect(PlusMinusPlayers, &PlusMinusContainer::MinusPressed, this,
             [this] { m_game->removeBenchPlayer(rosterList->selectedRow()); });
-    connect(rosterList, &qlmListBox::rowSelectionChanged, this, [this] {
-        if (gIsAutoFillMode)
-            return;
-        const bool any = rosterList->selectedRow() >= 0;
-        addBtn->setEnabled(any);
-        replaceBtn->setEnabled(any);
-    });
+    connect(rosterList, &qlmListBox::rowSelectionChanged, this, [this] { showLineupButtons(); });
     connect(Names_PosLB, &qlmListBox::rowSelectionChanged, this, [this] {
-        if (!m_showing && !gIsAutoFillMode)
+        if (!m_showing)
             rowSelected(Names_PosLB->selectedRow());
     });
     connect(Names_PosLB, &BBPlayersLB::positionEdited, this,
@@ -262,16 +299,14 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
         batterStatKey(row, column, event, handled);
         return handled;
     });
+}
+
+void gameDayScrn::connectBoardAndPanels()
+{
     for (int t = 0; t < 2; ++t) {
         connect(TeamBtn[size_t(t)], &QRadioButton::toggled, this, [this, t](bool on) {
-            if (!on || m_showing || !m_opened || t == m_game->curSelTeam())
-                return;
-            if (!reinitStatsScrns()) {
-                const QSignalBlocker block(TeamBtn[size_t(t)]);
-                TeamBtn[size_t(m_game->curSelTeam())]->setChecked(true);
-                return;
-            }
-            m_game->showTeam(t);
+            if (on && !m_showing && m_opened && t != m_game->curSelTeam())
+                switchToTeam(t);
         });
     }
     connect(EnterRHE_Btn, &QPushButton::toggled, this, [this](bool on) { m_game->setEnterRHE(on); });
@@ -283,18 +318,17 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     connect(fldStatsBtn, &QPushButton::toggled, this, [this](bool on) { toggleStats(fldStatsBtn, myFldCtr, on); });
     connect(pitchStatsBtn, &QPushButton::toggled, this,
             [this](bool on) { toggleStats(pitchStatsBtn, myPitchCtr, on); });
-    const std::array<std::pair<StatPanel *, QPushButton *>, 3> panels = {
-        {{myBatCtr, UDBatStatsBtn}, {myFldCtr, fldStatsBtn}, {myPitchCtr, pitchStatsBtn}}};
-    for (const auto &[panel, toggle] : panels) {
+    for (const auto &[panel, toggle] : panelToggles()) {
         QPushButton *button = toggle;
         connect(panel, &StatPanel::wasClosed, this, [this, button] {
             const QSignalBlocker block(button);
             button->setChecked(false);
-            scoreCardLB->grid().setClickDisabled(false);
+            m_game->setCoverOpen(false);
             button->setFocus();
         });
     }
-    connect(myFldCtr, &FieldingCtr::updateErrs, this, [this] { m_game->recalcErrs(); });
+    // The errors box follows every fielding row as it is written.
+    connect(myFldCtr, &StatPanel::saved, this, [this] { m_game->recalcErrs(); });
     connect(myPitchCtr, &pitchingCtr::autoFillCalled, this, [this] {
         myPitchCtr->hide();
         m_game->startAutoFill();
@@ -306,15 +340,17 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
         return true;
     });
     menus()->item(QStringLiteral("FilePrint"))->setText(QStringLiteral("Print Lineup"));
+    scoreCardLB->installEventFilter(this);
+}
 
+void gameDayScrn::openGame(const QString &schedID)
+{
     switchTeamTimer.setSingleShot(true);
     switchTeamTimer.setInterval(1000);
     connect(&switchTeamTimer, &QTimer::timeout, this, [this] {
         m_game->switchTeams();
         m_wait.reset();
     });
-
-    // --- Set-up ----------------------------------------------------------------------------
     m_wait = std::make_unique<pleaseWaitScrn>(this);
     m_wait->showNow();
     m_opened = m_game->open(schedID);
@@ -327,8 +363,19 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     const gameday::GameEvent &event = m_game->event();
     dateFld->setText(EventDates::shortDate(event.date));
     fieldFld->setText(event.location);
-    for (int t = 0; t < 2; ++t)
-        TeamBtn[size_t(t)]->setText(m_game->teamInfo(t).name);
+    for (int t = 0; t < 2; ++t) {
+        // The board speaks of the teams by name, not as "Team A" and "Team B".
+        const QString name = m_game->teamInfo(t).name;
+        TeamBtn[size_t(t)]->setText(name);
+        TeamBtn[size_t(t)]->setAccessibleName(
+            (t == 0 ? tr("Show the card of %1 (batting first)") : tr("Show the card of %1 (batting last)")).arg(name));
+        for (int i = 0; i < 10; ++i)
+            inningFlds[size_t(t)][size_t(i)]->setAccessibleName(tr("%1 inning %2").arg(name).arg(i + 1));
+        runsFld[size_t(t)]->setAccessibleName(tr("%1 runs").arg(name));
+        hitsFld[size_t(t)]->setAccessibleName(tr("%1 hits").arg(name));
+        errsFld[size_t(t)]->setAccessibleName(tr("%1 errors").arg(name));
+        LOBFld[size_t(t)]->setAccessibleName(tr("%1 left on base").arg(name));
+    }
     showFinalize();
     switchTeamTimer.start();
     resize(1180, 720);
@@ -336,7 +383,28 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
 
 gameDayScrn::~gameDayScrn()
 {
-    gIsAutoFillMode = false;
+    if (m_game) {
+        m_game->disconnect(this);
+        m_game->cancelAutoFill();
+    }
+}
+
+std::array<std::pair<StatPanel *, QPushButton *>, 3> gameDayScrn::panelToggles() const
+{
+    return {{{myBatCtr, UDBatStatsBtn}, {myFldCtr, fldStatsBtn}, {myPitchCtr, pitchStatsBtn}}};
+}
+
+void gameDayScrn::switchToTeam(int team)
+{
+    // Auto-fill ends and an open panel saves and closes first; a panel
+    // that won't let go keeps the team on show.
+    m_game->cancelAutoFill();
+    if (!reinitStatsScrns()) {
+        const QSignalBlocker block(TeamBtn[size_t(team)]);
+        TeamBtn[size_t(m_game->curSelTeam())]->setChecked(true);
+        return;
+    }
+    m_game->showTeam(team);
 }
 
 void gameDayScrn::buildScoreboard(QWidget *central, QGridLayout *board)
@@ -395,6 +463,24 @@ void gameDayScrn::buildScoreboard(QWidget *central, QGridLayout *board)
 
 bool gameDayScrn::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::KeyPress) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        // Escape leaves the pitching auto-fill.
+        if (watched == scoreCardLB && key->key() == Qt::Key_Escape && m_game->autoFillRunning()) {
+            m_game->cancelAutoFill();
+            return true;
+        }
+        // A digit typed on the current RBI or SB cell opens it with that digit.
+        if (watched == batterStatLB && !batterStatLB->isEditingCell() && batterStatLB->currentIndex().isValid() &&
+            key->text().size() == 1 && key->text().at(0).isDigit()) {
+            const QModelIndex at = batterStatLB->currentIndex();
+            batterStatLB->editCell(at.row(), at.column());
+            if (batterStatLB->isEditingCell()) {
+                batterStatLB->setEditorText(key->text());
+                return true;
+            }
+        }
+    }
     // A click in a box that can't be typed in beeps.
     if (event->type() == QEvent::MouseButtonPress) {
         if (auto *box = qobject_cast<QLineEdit *>(watched); box && box->isReadOnly())
@@ -413,7 +499,47 @@ void gameDayScrn::showTeam()
     scoreCardLB->adjustSize();
     scoreCardLB->update();
     setReadOnlyFlds(!m_game->enterRHE());
+    showLock();
     m_showing = false;
+}
+
+void gameDayScrn::showLock()
+{
+    // A read-only game: everything that would change it is closed.
+    if (!m_game->isReadOnly())
+        return;
+    for (QWidget *w : std::initializer_list<QWidget *>{addBtn, removeBtn, replaceBtn, PlusMinusPlayers, LBChangePos,
+                                                       EnterRHE_Btn, gameTypePop, batterStatLB})
+        w->setEnabled(false);
+    Names_PosLB->setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void gameDayScrn::showLineupButtons()
+{
+    const bool writable = !m_game->isReadOnly() && !m_game->autoFillRunning();
+    const bool any = rosterList->selectedRow() >= 0;
+    addBtn->setEnabled(writable && any);
+    replaceBtn->setEnabled(writable && any);
+    removeBtn->setEnabled(writable && m_game->selectedRow() >= 0);
+}
+
+void gameDayScrn::showSelection(int row)
+{
+    if (Names_PosLB->selectedRow() != row) {
+        const QSignalBlocker block(Names_PosLB);
+        Names_PosLB->setSelectedRow(row);
+    }
+    const std::array<std::pair<QPushButton *, GameDay::Panel>, 3> buttons = {
+        {{UDBatStatsBtn, GameDay::Panel::Batting},
+         {fldStatsBtn, GameDay::Panel::Fielding},
+         {pitchStatsBtn, GameDay::Panel::Pitching}}};
+    for (const auto &[button, panel] : buttons) {
+        const QString refusal = m_game->panelRefusal(panel);
+        button->setEnabled(refusal.isEmpty() || button->isChecked());
+        button->setToolTip(refusal);
+    }
+    LBChangePos->setVisible(row >= 0 && !m_game->isReadOnly());
+    showLineupButtons();
 }
 
 void gameDayScrn::showLineup()
@@ -427,14 +553,14 @@ void gameDayScrn::showLineup()
     batterStatLB->deleteAllRows();
     for (const gameday::BatterStat &s : m_game->batStats())
         batterStatLB->addRow({s.rbi, s.sb});
-    addBtn->setEnabled(rosterList->selectedRow() >= 0);
-    replaceBtn->setEnabled(rosterList->selectedRow() >= 0);
-    removeBtn->setEnabled(Names_PosLB->selectedRow() >= 0);
     InstrFld->setText(m_game->instruction());
     scoreCardLB->adjustSize();
     m_showing = wasShowing;
-    if (Names_PosLB->selectedRow() < 0)
+    // The lineup may have lost the selected row; the panels follow.
+    if (m_game->selectedRow() >= m_game->lineup().size())
         rowSelected(-1);
+    else
+        showSelection(m_game->selectedRow());
 }
 
 void gameDayScrn::showBoard()
@@ -470,34 +596,27 @@ void gameDayScrn::setReadOnlyFlds(bool readOnly)
 
 void gameDayScrn::rowSelected(int row)
 {
-    removeBtn->setEnabled(row >= 0);
-    if (row < 0 || row >= m_game->lineup().size()) {
-        m_curPlayerID.clear();
-        reinitStatsScrns();
-        return;
-    }
-    const bool isP = GameDay::isPitcherPos(m_game->lineup().at(row).pos);
-    fldStatsBtn->setEnabled(true);
-    UDBatStatsBtn->setEnabled(true);
-    pitchStatsBtn->setEnabled(isP);
-    m_curPlayerID = m_game->lineup().at(row).playerID;
+    m_game->selectRow(row);
+    const QString player = m_game->selectedPlayerID();
     const QString team = m_game->teamID(m_game->curSelTeam());
-    for (StatPanel *panel : {static_cast<StatPanel *>(myBatCtr), static_cast<StatPanel *>(myFldCtr),
-                             static_cast<StatPanel *>(myPitchCtr)}) {
+    for (const auto &[panel, toggle] : panelToggles()) {
         if (!panel->isVisible())
             continue;
         if (!panel->saveData())
             continue; // a bad innings text keeps the panel on its pitcher
-        if (panel == myPitchCtr && !isP) {
-            myPitchCtr->hide();
-            const QSignalBlocker block(pitchStatsBtn);
-            pitchStatsBtn->setChecked(false);
-            scoreCardLB->grid().setClickDisabled(false);
+        const GameDay::Panel kind = panel == myBatCtr   ? GameDay::Panel::Batting
+                                    : panel == myFldCtr ? GameDay::Panel::Fielding
+                                                        : GameDay::Panel::Pitching;
+        if (!m_game->panelRefusal(kind).isEmpty()) {
+            panel->hide();
+            const QSignalBlocker block(toggle);
+            toggle->setChecked(false);
+            m_game->setCoverOpen(false);
             continue;
         }
-        panel->setValues(m_game->schedID(), m_curPlayerID, team);
+        panel->setValues(m_game->schedID(), player, team);
     }
-    LBChangePos->show();
+    showSelection(m_game->selectedRow());
 }
 
 void gameDayScrn::toggleStats(QPushButton *toggle, StatPanel *panel, bool on)
@@ -508,13 +627,13 @@ void gameDayScrn::toggleStats(QPushButton *toggle, StatPanel *panel, bool on)
             if (other != toggle && other->isChecked())
                 other->setChecked(false);
         }
-        if (!m_curPlayerID.isEmpty())
-            panel->setValues(m_game->schedID(), m_curPlayerID, m_game->teamID(m_game->curSelTeam()));
+        if (!m_game->selectedPlayerID().isEmpty())
+            panel->setValues(m_game->schedID(), m_game->selectedPlayerID(), m_game->teamID(m_game->curSelTeam()));
         placePanels();
         panel->show();
         panel->raise();
         panel->setFocus();
-        scoreCardLB->grid().setClickDisabled(true);
+        m_game->setCoverOpen(true);
     } else {
         if (!panel->saveData()) {
             const QSignalBlocker block(toggle);
@@ -522,14 +641,13 @@ void gameDayScrn::toggleStats(QPushButton *toggle, StatPanel *panel, bool on)
             return;
         }
         panel->hide();
-        scoreCardLB->grid().setClickDisabled(false);
+        m_game->setCoverOpen(false);
     }
 }
 
 bool gameDayScrn::reinitStatsScrns()
 {
-    for (const auto &[toggle, panel] : std::array<std::pair<QPushButton *, StatPanel *>, 3>{
-             {{fldStatsBtn, myFldCtr}, {pitchStatsBtn, myPitchCtr}, {UDBatStatsBtn, myBatCtr}}}) {
+    for (const auto &[panel, toggle] : panelToggles()) {
         if (panel->isVisible()) {
             if (!panel->saveData())
                 return false;
@@ -537,12 +655,12 @@ bool gameDayScrn::reinitStatsScrns()
             const QSignalBlocker block(toggle);
             toggle->setChecked(false);
         }
-        toggle->setEnabled(false);
     }
-    scoreCardLB->grid().setClickDisabled(false);
-    LBChangePos->hide();
-    if (m_game && m_game->enterRHE())
-        m_game->setEnterRHE(false);
+    if (m_game) {
+        m_game->setCoverOpen(false);
+        if (m_game->enterRHE())
+            m_game->setEnterRHE(false);
+    }
     return true;
 }
 
@@ -592,14 +710,10 @@ bool gameDayScrn::mayClose()
 {
     if (!m_opened)
         return true;
+    m_game->cancelAutoFill();
     if (!reinitStatsScrns())
         return false;
-    if (gIsAutoFillMode) {
-        scoreCardLB->grid().reinitAutoVars();
-        m_game->switchTeams();
-    }
-    m_game->saveCurState();
-    m_game->saveDataToDB();
+    m_game->saveIfDirty();
     return true;
 }
 

@@ -14,6 +14,7 @@ class FieldingCtr;
 class PlusMinusContainer;
 class QComboBox;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -33,6 +34,8 @@ class gameDayScrn : public ScreenBase
     Q_OBJECT
 
 public:
+    // The window of the game, brought forward when it is open already.
+    static gameDayScrn *openFor(const QString &schedID);
     explicit gameDayScrn(const QString &schedID, QWidget *parent = nullptr);
     ~gameDayScrn() override;
 
@@ -40,11 +43,14 @@ public:
     bool isOpen() const { return m_opened; }
     void printLineup();
 
-    // Controls, by the names the program gives them.
+protected:
+    bool mayClose() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    // Controls, each with the name the program gives it as its objectName
+    // (tests find them by it).
     BBScoringLB *scoreCardLB = nullptr;
-    // Hidden: the other team's card, loaded only to count it when the game
-    // is recorded.
-    BBScoringLB *dataAnalLB = nullptr;
     BBPlayersLB *Names_PosLB = nullptr;
     qlmListBox *rosterList = nullptr;
     qlmListBox *batterStatLB = nullptr;
@@ -77,12 +83,20 @@ public:
     QPushButton *closeBtn = nullptr;
     QTimer switchTeamTimer;
 
-protected:
-    bool mayClose() override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
+    QLayout *buildTop(QWidget *central);
+    QLayout *buildBench(QWidget *central);
+    QWidget *buildGridArea(QWidget *central);
+    QLayout *buildBottom(QWidget *central);
     void buildScoreboard(QWidget *central, class QGridLayout *board);
+    void connectGame();
+    void connectLineup();
+    void connectBoardAndPanels();
+    void openGame(const QString &schedID);
+    void switchToTeam(int team);
+    void showLock();
+    void showSelection(int row);
+    void showLineupButtons();
+    std::array<std::pair<StatPanel *, QPushButton *>, 3> panelToggles() const;
     void showTeam();
     void showBoard();
     void showLineup();
@@ -98,7 +112,6 @@ private:
     std::unique_ptr<gameday::GameDay> m_game;
     std::unique_ptr<pleaseWaitScrn> m_wait;
     QWidget *m_gridArea = nullptr;
-    QString m_curPlayerID;
     bool m_opened = false;
     bool m_showing = false;
 };

@@ -82,6 +82,8 @@ bool StatPanel::eventFilter(QObject *watched, QEvent *event)
         closePanel();
         return true;
     }
+    if (event->type() == QEvent::FocusOut && qobject_cast<QLineEdit *>(watched))
+        writeNow(); // a crash with the panel open loses at most the field being typed
     if (event->type() == QEvent::FocusIn) {
         // Typing replaces a short number.
         if (auto *field = qobject_cast<QLineEdit *>(watched))
@@ -143,6 +145,18 @@ bool StatPanel::saveData()
     m_dirty = false;
     Q_EMIT saved();
     return true;
+}
+
+void StatPanel::writeNow()
+{
+    if (m_dirty && !m_player.isEmpty() && rowIsGood())
+        StatPanel::saveData();
+}
+
+void StatPanel::writeChange()
+{
+    markDirty();
+    writeNow();
 }
 
 void StatPanel::closePanel()

@@ -13,8 +13,8 @@ class QPushButton;
 // What the three statistics panels of the game screen share: number fields
 // with the panels' key rule ("+" and "-" step, digits, "." Tab and
 // Backspace pass, anything else beeps; Escape saves and closes), the row of
-// one player in one game read on setValues and written on close when a key
-// was typed, and the close button.
+// one player in one game read on setValues and written as each changed
+// field is left (and on close), and the close button.
 class StatPanel : public QFrame
 {
     Q_OBJECT
@@ -52,6 +52,14 @@ protected:
     QLineEdit *addField(int index, const QString &caption, int gridRow, int gridCol);
     void watchField(QLineEdit *field, bool numberRule);
     void markDirty() { m_dirty = true; }
+    // Writes the row when something changed and the fields make a row
+    // that may be stored: each field as it is left, each button as it is
+    // clicked, one transaction each.
+    void writeNow();
+    void writeChange();
+    // Whether the fields may be written as they stand (the pitching
+    // panel's innings text must read).
+    virtual bool rowIsGood() const { return true; }
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     stats::Panel m_kind;

@@ -69,6 +69,10 @@ finalCheckScrn::finalCheckScrn(QWidget *parent) : QDialog(parent)
     titleLabel->setFont(big);
     titleLabel->setAlignment(Qt::AlignCenter);
     layout->addWidget(titleLabel);
+    scoreLabel = form::named(new QLabel(this), QStringLiteral("scoreLabel"), QStringLiteral("Score"));
+    scoreLabel->setAlignment(Qt::AlignCenter);
+    scoreLabel->hide();
+    layout->addWidget(scoreLabel);
 
     auto *grid = new QGridLayout;
     for (int i = 0; i < 4; ++i) {
@@ -108,6 +112,15 @@ finalCheckScrn::finalCheckScrn(QWidget *parent) : QDialog(parent)
         accept();
     });
     connect(this, &QDialog::rejected, this, [this] { result = false; });
+}
+
+void finalCheckScrn::setScore(const QString &teamA, const QString &runsA, const QString &teamB, const QString &runsB)
+{
+    scoreLabel->setText(QStringLiteral("%1 %2, %3 %4")
+                            .arg(teamA, runsA.isEmpty() ? QStringLiteral("0") : runsA, teamB,
+                                 runsB.isEmpty() ? QStringLiteral("0") : runsB));
+    scoreLabel->setAccessibleName(QStringLiteral("Score to be recorded: ") + scoreLabel->text());
+    scoreLabel->show();
 }
 
 bool finalCheckScrn::showMe(const std::array<bool, 4> &checks)

@@ -36,6 +36,9 @@ class finalCheckScrn : public QDialog
 public:
     explicit finalCheckScrn(QWidget *parent = nullptr);
 
+    // The score that will be recorded, shown under the title: team A
+    // (batting first) and its runs, then team B.
+    void setScore(const QString &teamA, const QString &runsA, const QString &teamB, const QString &runsB);
     // Shows the checks modally; true when the coach chose to record.
     bool showMe(const std::array<bool, 4> &checks);
 
@@ -43,6 +46,7 @@ public:
     std::array<bool, 4> passed{};
 
     QLabel *titleLabel = nullptr;
+    QLabel *scoreLabel = nullptr;
     std::array<QLabel *, 4> checkLabel{};
     std::array<CheckMark *, 4> checkCnv{};
     QLabel *warnLabel = nullptr;

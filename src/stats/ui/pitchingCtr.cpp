@@ -28,7 +28,7 @@ pitchingCtr::pitchingCtr(QWidget *parent)
         m_gameBtn[size_t(i)] = form::named(new QRadioButton(results.at(i), decision),
                                            QStringLiteral("gameBtn_%1").arg(i), form::spokenCaption(results.at(i)));
         dl->addWidget(m_gameBtn[size_t(i)]);
-        connect(m_gameBtn[size_t(i)], &QRadioButton::clicked, this, [this] { markDirty(); });
+        connect(m_gameBtn[size_t(i)], &QRadioButton::clicked, this, [this] { writeChange(); });
     }
     auto *achieve = new QGroupBox(tr("Achievements"), this);
     achieve->setObjectName(QStringLiteral("AchieveBox"));
@@ -39,7 +39,7 @@ pitchingCtr::pitchingCtr(QWidget *parent)
                                               QStringLiteral("achieveBtn_%1").arg(i),
                                               form::spokenCaption(achievements.at(i)));
         al->addWidget(m_achieveBtn[size_t(i)]);
-        connect(m_achieveBtn[size_t(i)], &QCheckBox::clicked, this, [this] { markDirty(); });
+        connect(m_achieveBtn[size_t(i)], &QCheckBox::clicked, this, [this] { writeChange(); });
     }
     auto *count = new QGroupBox(tr("Pitch Count"), this);
     count->setObjectName(QStringLiteral("pitchCtBox"));
@@ -114,6 +114,11 @@ void pitchingCtr::setPitchCt()
                                           support::numberFieldValue(m_pitchCt[1]->text())));
 }
 
+bool pitchingCtr::rowIsGood() const
+{
+    return !stats::isBadInnings(dataFld(0)->text());
+}
+
 bool pitchingCtr::saveData()
 {
     if (dataDirty() && stats::isBadInnings(dataFld(0)->text())) {
@@ -177,7 +182,7 @@ void pitchingCtr::setAutoData(const gameday::AutoFillData &values)
     texts = stats::applyAutoFill(texts, values);
     for (int i = 0; i < fieldCount(); ++i)
         dataFld(i)->setText(texts.at(i));
-    markDirty();
+    writeChange();
     show();
     raise();
 }

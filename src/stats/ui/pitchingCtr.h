@@ -33,6 +33,7 @@ Q_SIGNALS:
     void autoFillCalled();
 
 protected:
+    bool rowIsGood() const override;
     bool loadRow() override;
     void clearRow() override;
     bool writeRow() override;

@@ -155,7 +155,8 @@ private Q_SLOTS:
         QFETCH(bool, storeAnswers);
         Session s;
         s.fake.secrets.answers = storeAnswers;
-        const QString password = QStringLiteral("Sl1der&Curve#9");
+        // Blanks at either end are part of it.
+        const QString password = QStringLiteral("  Sl1der&Curve#9 ");
         // An older version left a password in the file; the start moves it.
         gPrefs->prEmailPW = QStringLiteral("older-version-pw");
         people::MailSettings::moveOldPassword(*gPrefs);

@@ -251,6 +251,26 @@ void qlmListBox::keyPressEvent(QKeyEvent *event)
         event->accept();
         return;
     }
+    // With sorting by heading allowed, Ctrl+Left and Ctrl+Right sort by the
+    // previous or next heading as a first click on it does; Ctrl+Up and
+    // Ctrl+Down then sort that heading up or down.
+    if (isSortingEnabled() && !rowsMovable() && mods == Qt::ControlModifier && columnCount() > 0) {
+        const int current = header()->sortIndicatorSection();
+        const int key = event->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            int column = current < 0 || current >= columnCount() ? (key == Qt::Key_Right ? 0 : columnCount() - 1)
+                         : key == Qt::Key_Right                  ? (current + 1) % columnCount()
+                                                                 : (current + columnCount() - 1) % columnCount();
+            header()->setSortIndicator(column, m_model->firstSortOrder(column));
+            event->accept();
+            return;
+        }
+        if ((key == Qt::Key_Up || key == Qt::Key_Down) && current >= 0) {
+            header()->setSortIndicator(current, key == Qt::Key_Up ? Qt::AscendingOrder : Qt::DescendingOrder);
+            event->accept();
+            return;
+        }
+    }
     QTreeView::keyPressEvent(event);
 }
 

@@ -296,6 +296,21 @@ private Q_SLOTS:
         QCOMPARE(event->subject, subject);
     }
 
+    // An event added, changed or deleted in another window shows at once.
+    void followsTheSchedule()
+    {
+        Season season;
+        fillApril();
+        auto *screen = openScreen();
+        const MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
+        QCOMPARE(calendar.eventData().size(), 7);
+        addEvent("Game", QDate(2026, 4, 22), "5:00 PM", "Owls", "Riverside");
+        QCOMPARE(calendar.eventData().size(), 8);
+        QCOMPARE(calendar.eventData().last().subject, QStringLiteral("5:00 PM Game"));
+        ScheduleStore(*gData).remove(calendar.eventData().last().EventID, QStringLiteral("Game"));
+        QCOMPARE(calendar.eventData().size(), 7);
+    }
+
     void turningTheMonths()
     {
         Season season;

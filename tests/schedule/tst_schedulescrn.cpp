@@ -371,8 +371,9 @@ private Q_SLOTS:
         season.fake.printing.directory = out.path();
         QTest::mouseClick(screen->printBtn, Qt::LeftButton);
         QCOMPARE(season.fake.printing.printed.size(), 1);
-        // The wide printout turns the page to landscape and says so.
-        QCOMPARE(season.fake.messages.texts(), QStringList{"Printing was changed to landscape mode."});
+        // The wide printout is landscape with no more than the print dialog.
+        QVERIFY(season.fake.messages.shown.isEmpty());
+        QCOMPARE(season.fake.printing.setupDialogs, 0);
         const QString pdf = season.fake.printing.printed.first();
         const QString text = fakes::pdfText(pdf);
         QVERIFY(text.contains(QStringLiteral("Schedule")));

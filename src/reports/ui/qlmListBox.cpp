@@ -367,12 +367,11 @@ bool qlmListBox::widePrintOneCopy(platform::PrintJob &job, const platform::Print
 
 std::optional<platform::PrinterSetup> qlmListBox::getPSetup()
 {
-    std::optional<platform::PrinterSetup> setup;
-    gGetPrinterSetup(setup, true);
-    if (setup && !setup->isLandscape()) {
-        setup->setLandscape(true);
-        gMsgBox(QStringLiteral("Printing was changed to landscape mode."));
-    }
+    // The remembered page set-up (or the default paper), turned to landscape
+    // for the wide list: the print dialog that follows is the only one.
+    platform::PrinterSetup setup =
+        platform::PrinterSetup::fromString(gPrinterSettings).value_or(platform::PrinterSetup());
+    setup.setLandscape(true);
     return setup;
 }
 
@@ -397,9 +396,10 @@ void qlmListBox::widePrintMe(const QString &title, const QStringList &widths)
         case platform::MsgAction:
             break;
         case platform::MsgAlternate:
-            setup = getPSetup();
+            gGetPrinterSetup(setup, true);
             if (!setup)
                 return;
+            setup->setLandscape(true);
             break;
         default:
             return;

@@ -1,6 +1,7 @@
 #include "people/ContactBook.h"
 
 #include "app/myDB.h"
+#include "people/PeopleText.h"
 #include "people/TeamStore.h"
 #include "support/MailtoAddress.h"
 
@@ -13,8 +14,10 @@ QList<QStringList> rowsOf(myDB &db, const QString &sql, const QString &teamID, c
     QList<QStringList> out;
     for (const Record &r : db.select(sql, {teamID})) {
         QStringList cells;
+        // Phone numbers read as the phone fields show them.
         for (const QString &c : columns)
-            cells.append(r.text(c));
+            cells.append(c.contains(QStringLiteral("Phone")) ? formatThroughMask(r.text(c), phoneMaskFor(r.text(c)))
+                                                             : r.text(c));
         out.append(cells);
     }
     return out;

@@ -125,7 +125,10 @@ qint64 InventoryBook::insertPoolItem(int quantity, const QString &item, const QS
 
 bool InventoryBook::enterItem(int poolRow, const QString &quantityText, const QString &item, const QString &itemID)
 {
-    if (quantityText.isEmpty() || m_teamID.isEmpty())
+    // An empty count adds the item as one (a count of 0 becomes 1); with
+    // nothing typed at all there is nothing to add.
+    if (m_teamID.isEmpty() ||
+        (quantityText.trimmed().isEmpty() && item.trimmed().isEmpty() && itemID.trimmed().isEmpty()))
         return false;
     const int quantity = support::numberFieldValue(quantityText);
     bool ok;

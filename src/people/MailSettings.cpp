@@ -46,7 +46,7 @@ QString MailSettings::validateEntries() const
         return QStringLiteral("Please enter a valid user name.");
     if (!gIsEmailValid(user.trimmed()))
         return QStringLiteral("The email address you entered does not appear to be valid.");
-    if (auth && password.trimmed().isEmpty())
+    if (auth && password.isEmpty())
         return QStringLiteral("Please enter the email password.");
     return {};
 }
@@ -76,7 +76,8 @@ bool MailSettings::save(myPrefs &prefs) const
     prefs.prEmailPort = portNumber();
     prefs.prefsDirty = true;
 
-    const QString secret = password.trimmed();
+    // Kept exactly: blanks at either end belong to the password.
+    const QString &secret = password;
     platform::SecretStore &store = platform::secrets();
     const bool kept = secret.isEmpty() ? store.deleteSecret(kPasswordKey) : store.writeSecret(kPasswordKey, secret);
     sessionPassword() = kept ? QString() : secret;

@@ -117,4 +117,15 @@ QFont printFont(QFont font, int points)
     return font;
 }
 
+QString pdfFileName(const QString &jobTitle)
+{
+    QString name = jobTitle;
+    for (QChar &c : name) {
+        if (c.category() == QChar::Other_Control || QStringLiteral("/\\:*?\"<>|").contains(c))
+            c = u'-';
+    }
+    name = name.trimmed();
+    return (name.isEmpty() ? QStringLiteral("Tallyline Baseball") : name) + QStringLiteral(".pdf");
+}
+
 } // namespace platform

@@ -75,6 +75,10 @@ public:
     virtual std::unique_ptr<PrintJob> printDialog(const PrinterSetup &setup, const QString &jobTitle) = 0;
 };
 
+// The name offered for a job printed to a PDF file: the job's title, with
+// the characters a file name can't hold made dashes, and ".pdf".
+QString pdfFileName(const QString &jobTitle);
+
 // A font of `points` size for drawing on a PrintJob's painter, whose unit is
 // already the point: the size is set in painter units so it isn't scaled twice.
 QFont printFont(QFont font, int points);

@@ -96,6 +96,18 @@ void ListBoxModel::setHeading(int column, const QString &text)
     Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
 }
 
+void ListBoxModel::setHeadingDescription(int column, const QString &text)
+{
+    m_headingDescriptions.insert(column, text);
+    if (column >= 0 && column < m_columns)
+        Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+}
+
+void ListBoxModel::setFirstSortOrder(int column, Qt::SortOrder order)
+{
+    m_firstOrders.insert(column, order);
+}
+
 void ListBoxModel::setColumnWidths(const QString &widths)
 {
     if (widths == m_columnWidths)
@@ -377,6 +389,11 @@ QVariant ListBoxModel::headerData(int section, Qt::Orientation orientation, int 
             return heading(section).isEmpty() ? QStringLiteral("Column %1").arg(section + 1) : heading(section);
         if (role == Qt::TextAlignmentRole)
             return QVariant::fromValue(columnAlignment(section));
+        if ((role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole) &&
+            m_headingDescriptions.contains(section))
+            return m_headingDescriptions.value(section);
+        if (role == Qt::InitialSortOrderRole)
+            return int(firstSortOrder(section));
     }
     return QAbstractTableModel::headerData(section, orientation, role);
 }

@@ -33,6 +33,11 @@ public:
     QStringList headings() const; // one per column, empty where none was set
     QString heading(int column) const;
     void setHeading(int column, const QString &text);
+    // A heading's tooltip and accessible description.
+    void setHeadingDescription(int column, const QString &text);
+    // The order a first click on the heading sorts in (ascending unless set).
+    void setFirstSortOrder(int column, Qt::SortOrder order);
+    Qt::SortOrder firstSortOrder(int column) const { return m_firstOrders.value(column, Qt::AscendingOrder); }
     // The widths as text, "w1,w2,...": points, "n%" of the list's width, or
     // "*" (also "2*") for a share of what is left. Only kept here; the view
     // and the wide printout interpret it.
@@ -119,5 +124,7 @@ private:
     QString m_columnWidths;
     QHash<int, CellType> m_columnTypes;
     QHash<int, Qt::Alignment> m_alignments;
+    QHash<int, QString> m_headingDescriptions;
+    QHash<int, Qt::SortOrder> m_firstOrders;
     bool m_rowsMovable = false;
 };

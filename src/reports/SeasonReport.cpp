@@ -80,7 +80,17 @@ QStringList headers(ReportKind kind, const QStringList &rows, const QList<bool> 
 
 } // namespace chooser
 
-SeasonReport::SeasonReport(ReportKind which, const QStringList &headers) : m_kind(which), m_headers(headers) {}
+SeasonReport::SeasonReport(ReportKind which, const QStringList &headers) : m_kind(which), m_headers(headers)
+{
+    // Every report says who plays for whom, shown, printed and exported.
+    if (m_headers.value(kTeamColumn) != teamHeading())
+        m_headers.insert(std::min(qsizetype(kTeamColumn), m_headers.size()), teamHeading());
+}
+
+QString SeasonReport::teamHeading()
+{
+    return QStringLiteral("Team");
+}
 
 QString SeasonReport::title() const
 {
@@ -97,15 +107,15 @@ QString SeasonReport::title() const
 
 QString SeasonReport::columnWidths() const
 {
-    QStringList widths{QStringLiteral("84"), QStringLiteral("84")};
-    for (int c = 2; c < m_headers.size(); ++c)
+    QStringList widths{QStringLiteral("84"), QStringLiteral("84"), QStringLiteral("84")};
+    for (int c = 3; c < m_headers.size(); ++c)
         widths.append(QStringLiteral("36"));
     return widths.join(u',');
 }
 
 int SeasonReport::listWidth() const
 {
-    return std::min(int(m_headers.size() - 2) * 36 + 168, 984);
+    return std::min(int(m_headers.size() - 3) * 36 + 252, 984);
 }
 
 bool SeasonReport::load(myDB &db)
@@ -175,25 +185,25 @@ QList<QStringList> SeasonReport::rows(const ReportFilter &filter) const
 {
     switch (m_kind) {
     case Batting: {
-        const QList<int> indices = figureIndices(m_headers, 6, hitD, 29);
+        const QList<int> indices = figureIndices(m_headers, 7, hitD, 29);
         return filtered(hData, filter, [&](const hitReporter &r) { return displayHitData(r, indices); });
     }
     case Fielding: {
-        const QList<int> indices = figureIndices(m_headers, 3, fieldD, 14);
+        const QList<int> indices = figureIndices(m_headers, 4, fieldD, 14);
         return filtered(fData, filter, [&](const fldReporter &r) { return displayFldData(r, indices); });
     }
     case Pitching:
         break;
     }
-    const QList<int> indices = figureIndices(m_headers, 3, pitchD, 28);
+    const QList<int> indices = figureIndices(m_headers, 4, pitchD, 28);
     return filtered(pData, filter, [&](const pitchReporter &r) { return displayPitchData(r, indices); });
 }
 
 QStringList SeasonReport::displayHitData(const hitReporter &r, const QList<int> &figures) const
 {
     QStringList cells;
-    cells.reserve(6 + figures.size());
-    cells << r.FName << r.LName << formatMask(r.mData[0], QStringLiteral("##0"))
+    cells.reserve(7 + figures.size());
+    cells << r.FName << r.LName << r.mTeam << formatMask(r.mData[0], QStringLiteral("##0"))
           << formatMask(r.Avg, QStringLiteral(".000")) << formatMask(r.OBP, QStringLiteral(".000"))
           << formatMask(r.SPct, QStringLiteral(".000"));
     appendFigures(cells, figures, r.mData);
@@ -202,14 +212,14 @@ QStringList SeasonReport::displayHitData(const hitReporter &r, const QList<int> 
 
 QStringList SeasonReport::displayFldData(const fldReporter &r, const QList<int> &figures) const
 {
-    QStringList cells{r.FName, r.LName, formatMask(r.fldPct, QStringLiteral("#.000"))};
+    QStringList cells{r.FName, r.LName, r.mTeam, formatMask(r.fldPct, QStringLiteral("#.000"))};
     appendFigures(cells, figures, r.mData);
     return cells;
 }
 
 QStringList SeasonReport::displayPitchData(const pitchReporter &r, const QList<int> &figures) const
 {
-    QStringList cells{r.FName, r.LName, formatMask(r.ERA, QStringLiteral("0.00"))};
+    QStringList cells{r.FName, r.LName, r.mTeam, formatMask(r.ERA, QStringLiteral("0.00"))};
     // The innings code 62 reads 6.2.
     appendFigures(cells, figures, r.mData, 10);
     return cells;

@@ -56,15 +56,20 @@ QStringList headers(ReportKind kind, const QStringList &rows, const QList<bool> 
 class SeasonReport
 {
 public:
+    // `headers` from the chooser; the team's column is put after the names.
     SeasonReport(ReportKind which, const QStringList &headers);
+
+    // The team's column, after the first and last names.
+    static constexpr int kTeamColumn = 2;
+    static QString teamHeading();
 
     ReportKind kind() const { return m_kind; }
     const QStringList &curHeaders() const { return m_headers; }
     // "Batting", "Fielding" or "Pitching".
     QString title() const;
-    // "84,84,36,36,...": the name columns, then 36 for each other column.
+    // "84,84,84,36,...": the names and the team, then 36 for each other column.
     QString columnWidths() const;
-    // The list's width in points: (columns - 2) x 36 + 168, at most 984.
+    // The list's width in points: (columns - 3) x 36 + 252, at most 984.
     int listWidth() const;
 
     // Reads the season rows into reporters (one query). False on a database error.

@@ -67,13 +67,13 @@ bool readSeasonRows(myDB &db, ReportKind kind, const std::function<void(const Se
     // row, never from a lookup per row. p.playerID tells a vanished player
     // from one whose name is empty.
     QString sql = QStringLiteral("SELECT s.playerID, s.teamID, p.playerID IS NOT NULL, p.First, p.Last, "
-                                 "t.League, t.Division");
+                                 "t.League, t.Division, t.TeamName");
     for (const QString &column : columns)
         sql += QStringLiteral(", s.") + column;
     sql += QStringLiteral(" FROM ") + seasonTable(kind) +
            QStringLiteral(" AS s LEFT JOIN Players AS p ON p.playerID = s.playerID"
                           " LEFT JOIN Teams AS t ON t.teamID = s.teamID ORDER BY s.recID");
-    constexpr int kFirstFigure = 7;
+    constexpr int kFirstFigure = 8;
     try {
         SQLite::Statement query(*db.tlynData, sql.toStdString());
         SeasonRow row;
@@ -90,6 +90,7 @@ bool readSeasonRows(myDB &db, ReportKind kind, const std::function<void(const Se
             row.last = text(4);
             row.league = text(5);
             row.division = text(6);
+            row.teamName = text(7);
             for (int i = 0; i < columns.size(); ++i)
                 row.figures[i] = query.getColumn(kFirstFigure + i).getDouble();
             take(row);
@@ -121,6 +122,7 @@ void readCommon(R &r, const reports::SeasonRow &row)
     }
     r.mLeague = row.league;
     r.mDivision = row.division;
+    r.mTeam = row.teamName;
     r.mData.fill(0);
     for (int i = 0; i < R::kStored && i < row.figures.size(); ++i)
         r.mData[i] = row.figures[i];

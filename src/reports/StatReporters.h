@@ -31,6 +31,7 @@ struct SeasonRow
     QString last;
     QString league;
     QString division;
+    QString teamName;
     QList<double> figures; // seasonColumns() order
 };
 
@@ -52,6 +53,7 @@ public:
     void acquireData(const reports::SeasonRow &row);
 
     QString FName, LName;
+    QString mTeam;
     double Avg = 0, OBP = 0, SPct = 0;
     std::array<double, 29> mData{};
     qint64 tID = 0;
@@ -68,6 +70,7 @@ public:
 
     double fldPct = 0;
     QString FName, LName;
+    QString mTeam;
     std::array<double, 14> mData{};
     QString mDivision, mLeague;
     qint64 tID = 0;
@@ -83,6 +86,7 @@ public:
     void acquireData(const reports::SeasonRow &row);
 
     QString FName, LName;
+    QString mTeam;
     std::array<double, 28> mData{};
     double ERA = 0;
     QString mDivision, mLeague;

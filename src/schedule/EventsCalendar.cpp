@@ -6,27 +6,43 @@
 #include "schedule/MonthEventsCalendar.h"
 #include "schedule/ScheduleStore.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <algorithm>
 
 namespace EventsCalendar {
 
+QString timeText(const QTime &time, const QLocale &locale)
+{
+    // The locale decides between "7:30 PM" and "19:30"; seconds never show.
+    const QString format = locale.timeFormat(QLocale::ShortFormat);
+    const bool twelveHours = format.contains(u'a', Qt::CaseInsensitive);
+    return locale.toString(time, twelveHours ? QStringLiteral("h:mm AP") : QStringLiteral("HH:mm"));
+}
+
 std::optional<mcEventDataClass> fromSchedule(const ScheduleEntry &entry)
 {
     if (!entry.event.mDate.isValid())
         return std::nullopt;
-    // The hour is taken as written: "7:30 PM" stands at 7:30, as the
-    // subject shows it.
-    const auto time = gParseTimeStr(entry.event.startTime);
-    const int hour = time[0].trimmed().toInt();
-    const int minute = time[1].trimmed().toInt();
+    // "7:30 PM" is 19:30; "12:15 AM" a quarter past midnight. A time
+    // without AM or PM stands as written.
+    const auto parts = gParseTimeStr(entry.event.startTime);
+    int hour = parts[0].trimmed().toInt() % 24;
+    const int minute = parts[1].trimmed().toInt() % 60;
+    const QString half = entry.event.startTime.trimmed().right(2).toUpper();
+    if (half == u"PM" && hour < 12)
+        hour += 12;
+    else if (half == u"AM" && hour == 12)
+        hour = 0;
+    const bool timed = !entry.event.startTime.trimmed().isEmpty() && entry.event.startTime != u"---";
     mcEventDataClass event;
-    event.startDate = QDateTime(entry.event.mDate, QTime(hour % 24, minute % 60));
+    event.startDate = QDateTime(entry.event.mDate, QTime(hour, minute));
     event.endDate = event.startDate;
     event.allDay = false;
     event.eventColor = kEventColor;
     event.EventID = entry.eventID;
-    event.subject = QStringLiteral("%1:%2 %3").arg(hour).arg(minute, 2, 10, QChar(u'0')).arg(entry.event.eventType);
+    event.subject = timed ? timeText(event.startDate.time(), QLocale()) + u' ' + entry.event.eventType
+                          : entry.event.eventType;
     event.location = entry.event.location;
     event.Opponent = entry.event.opponent;
     return event;

@@ -10,7 +10,9 @@
 #include <optional>
 
 class MonthEventsCalendar;
+class QLocale;
 class QPainter;
+class QTime;
 struct ScheduleEntry;
 
 namespace platform {
@@ -25,10 +27,14 @@ namespace EventsCalendar {
 // Every event is painted in this blue.
 inline const QColor kEventColor = QColor(6, 100, 255);
 
-// A schedule row as the calendar shows it: one day, at the start time's
-// hour and minute, with a subject such as "7:30 Practice". A start time of
-// "---" or none reads as 0:00. Gives nothing for a row without a readable
-// date.
+// A start time as the locale writes it: "7:30 PM", or "19:30" where the
+// clock runs to 24 hours.
+QString timeText(const QTime &time, const QLocale &locale);
+
+// A schedule row as the calendar shows it: one day, at the start time
+// (AM and PM read), with a subject such as "3:30 PM Practice". A start time
+// of "---" or none stands at 0:00 with the type alone. Gives nothing for a
+// row without a readable date.
 std::optional<mcEventDataClass> fromSchedule(const ScheduleEntry &entry);
 QList<mcEventDataClass> fromSchedule(const QList<ScheduleEntry> &entries);
 

@@ -5,6 +5,9 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include <algorithm>
+#include <numeric>
+
 const QColor MonthEventsCalendar::kSelectedColor = QColor(200, 0, 0);
 const QColor MonthEventsCalendar::kStripColor = QColor(124, 144, 210);
 
@@ -105,7 +108,12 @@ MonthEventsCalendar::Layout MonthEventsCalendar::layout() const
     const QDateTime monthStart = startOfDay(showingStartDate());
     const QDateTime monthEnd = startOfDay(showingEndDate());
 
-    for (int e = 0; e < m_events.size(); ++e) {
+    // A day's bars run by start time, whatever order the events came in.
+    QList<int> byStart(m_events.size());
+    std::iota(byStart.begin(), byStart.end(), 0);
+    std::stable_sort(byStart.begin(), byStart.end(),
+                     [this](int a, int b) { return m_events.at(a).startDate < m_events.at(b).startDate; });
+    for (int e : byStart) {
         const mcEventDataClass &event = m_events.at(e);
         // Only events that start or end in the month on show are painted,
         // also in the grey days of the grid.

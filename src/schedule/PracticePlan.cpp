@@ -80,6 +80,11 @@ PlanFile::ReadResult PlanFile::parse(const QByteArray &bytes)
     return out;
 }
 
+QString PlanFile::fitField(const QString &typed)
+{
+    return oneLine(typed).left(kMaxFieldLength);
+}
+
 // The practice -----------------------------------------------------------
 
 PracticePlan::PracticePlan(myDB &db, QString schedID) : m_db(db), m_schedID(std::move(schedID))
@@ -98,7 +103,7 @@ QList<DrillRow> PracticePlan::loadData() const
 {
     QList<DrillRow> out;
     for (const Record &r : m_db.select(QStringLiteral("SELECT planID, drill, start, pEnd, coach FROM Drills "
-                                                      "WHERE scheduleID = ?"),
+                                                      "WHERE scheduleID = ? ORDER BY planID"),
                                        {m_schedID}))
         out.append({r.integer(QStringLiteral("planID")), r.text(QStringLiteral("drill")),
                     r.text(QStringLiteral("start")), r.text(QStringLiteral("pEnd")), r.text(QStringLiteral("coach"))});
@@ -124,11 +129,41 @@ bool PracticePlan::deleteActivity(qint64 planID)
     return m_db.exec(QStringLiteral("DELETE FROM Drills WHERE planID = ?"), {planID});
 }
 
-QList<qint64> PracticePlan::addRecalled(const QList<QStringList> &rows)
+bool PracticePlan::updateActivity(qint64 planID, const QStringList &cells)
+{
+    if (cells.value(0).trimmed().isEmpty()) {
+        gBeep();
+        gMsgBox(QStringLiteral("Please enter a drill."));
+        return false;
+    }
+    return m_db.exec(QStringLiteral("UPDATE Drills SET drill = ?, start = ?, pEnd = ?, coach = ? WHERE planID = ?"),
+                     {cells.value(0), cells.value(1), cells.value(2), cells.value(3), planID});
+}
+
+QList<qint64> PracticePlan::reorder(const QList<QStringList> &rowsInOrder)
+{
+    QList<qint64> ids;
+    for (const DrillRow &row : loadData())
+        ids.append(row.planID);
+    if (ids.size() != rowsInOrder.size())
+        return {};
+    const bool ok = m_db.runInTransaction([&] {
+        for (int i = 0; i < ids.size(); ++i) {
+            const QStringList &cells = rowsInOrder.at(i);
+            m_db.exec(QStringLiteral("UPDATE Drills SET drill = ?, start = ?, pEnd = ?, coach = ? WHERE planID = ?"),
+                      {cells.value(0), cells.value(1), cells.value(2), cells.value(3), ids.at(i)});
+        }
+    });
+    return ok ? ids : QList<qint64>{};
+}
+
+QList<qint64> PracticePlan::addRecalled(const QList<QStringList> &rows, bool replace)
 {
     QList<qint64> ids;
     try {
         const bool ok = m_db.runInTransaction([&] {
+            if (replace)
+                m_db.exec(QStringLiteral("DELETE FROM Drills WHERE scheduleID = ?"), {m_schedID});
             for (const QStringList &cells : rows) {
                 const qint64 id = m_db.insert(QStringLiteral("Drills"), {{QStringLiteral("scheduleID"), m_schedID},
                                                                          {QStringLiteral("drill"), cells.value(0)},

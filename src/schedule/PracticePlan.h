@@ -27,6 +27,12 @@ struct DrillRow
 // renamed over the old one, so a plan is never left half written.
 namespace PlanFile {
 
+// A typed field as the file can hold it: tabs and line ends become blanks
+// and the text stops at the longest field a line may have, so every plan
+// that is stored can be recalled.
+QString fitField(const QString &typed);
+constexpr int kMaxFieldLength = 255;
+
 // The line of one drill. A tab or line end inside a field would split it,
 // so each becomes a blank.
 QString lineFor(const QStringList &cells);
@@ -68,9 +74,16 @@ public:
     // -1 when refused or the write failed.
     qint64 addActivity(const QStringList &cells);
     bool deleteActivity(qint64 planID);
+    // Rewrites one drill as edited in place; a blank drill is refused.
+    bool updateActivity(qint64 planID, const QStringList &cells);
+    // Stores the drills in the order shown: the practice's planIDs, lowest
+    // first, take the rows in turn, in one transaction. The planIDs in
+    // display order, or an empty list when that failed.
+    QList<qint64> reorder(const QList<QStringList> &rowsInOrder);
     // Stores recalled lines as drills of this practice, all in one
-    // transaction; their new planIDs, or an empty list when that failed.
-    QList<qint64> addRecalled(const QList<QStringList> &rows);
+    // transaction, after the practice's own drills or (`replace`) in their
+    // place; their new planIDs, or an empty list when that failed.
+    QList<qint64> addRecalled(const QList<QStringList> &rows, bool replace = false);
 
     // The offered values of the combo boxes.
     static QStringList activities();

@@ -87,9 +87,16 @@ qint64 ScheduleList::addNewItem(const eventClass &event)
     const qint64 id = m_store.insert(event);
     if (id < 0)
         return -1;
-    if (auto stored = m_store.find(id))
-        m_rows.append(*stored);
+    // It takes its place by date.
+    loadScheduleLB(m_filter);
     return id;
+}
+
+bool ScheduleList::sortByDate()
+{
+    const bool ok = m_store.sortByDate();
+    loadScheduleLB(m_filter);
+    return ok;
 }
 
 bool ScheduleList::editEventItem(qint64 eventID, const eventClass &event)

@@ -37,8 +37,11 @@ public:
     // Fills `rows` with the events of `filter`. A row whose date can't be
     // read is reported once and deleted, as the schedule can't show it.
     void loadScheduleLB(const QString &filter);
-    // Stores a new event and appends its row: the new eventID, or -1.
+    // Stores a new event in date order and reloads the rows: the new
+    // eventID, or -1.
     qint64 addNewItem(const eventClass &event);
+    // Orders the whole schedule by date and time and reloads the rows.
+    bool sortByDate();
     // Stores the changes of an event and reloads the list under its filter.
     bool editEventItem(qint64 eventID, const eventClass &event);
     // Asks, then deletes the event of `row` with its game or practice data;

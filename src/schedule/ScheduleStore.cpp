@@ -2,6 +2,8 @@
 
 #include "app/myDB.h"
 #include "schedule/EventDates.h"
+#include "schedule/EventsCalendar.h"
+#include "schedule/ScheduleChanges.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -83,17 +85,56 @@ std::optional<ScheduleEntry> ScheduleStore::find(qint64 eventID) const
 
 qint64 ScheduleStore::insert(const eventClass &event)
 {
-    // A new event goes after every other, so it stays at the end of the
-    // list until the coach moves it, whatever filter is shown meanwhile.
-    const QVariant last = m_db.scalar(QStringLiteral("SELECT MAX(position) FROM Schedule"));
-    Fields fields = fieldsOf(event);
-    fields.append({QStringLiteral("position"), last.isValid() ? last.toLongLong() + 1 : 0});
-    return m_db.insert(QStringLiteral("Schedule"), fields);
+    // A new event goes in date order: before the first event of a later
+    // day, or at the end. The coach's own order of the others holds.
+    QList<qint64> order;
+    qsizetype place = -1;
+    for (const ScheduleEntry &entry : list(kShowAll)) {
+        if (place < 0 && event.mDate.isValid() && entry.event.mDate.isValid() && entry.event.mDate > event.mDate)
+            place = order.size();
+        order.append(entry.eventID);
+    }
+    qint64 id = -1;
+    const bool ok = m_db.runInTransaction([&] {
+        Fields fields = fieldsOf(event);
+        fields.append({QStringLiteral("position"), order.size()});
+        id = m_db.insert(QStringLiteral("Schedule"), fields);
+        if (place >= 0) {
+            order.insert(place, id);
+            savePositions(order);
+        }
+    });
+    if (!ok || id < 0)
+        return -1;
+    ScheduleChanges::notify();
+    return id;
+}
+
+bool ScheduleStore::sortByDate()
+{
+    QList<ScheduleEntry> entries = list(kShowAll);
+    // By day, then start time; an unreadable date goes last.
+    const auto startOf = [](const ScheduleEntry &entry) {
+        const auto event = EventsCalendar::fromSchedule(entry);
+        return event ? event->startDate : QDateTime();
+    };
+    std::stable_sort(entries.begin(), entries.end(), [&](const ScheduleEntry &a, const ScheduleEntry &b) {
+        const QDateTime x = startOf(a), y = startOf(b);
+        if (x.isValid() != y.isValid())
+            return x.isValid();
+        return x < y;
+    });
+    QList<qint64> order;
+    for (const ScheduleEntry &entry : std::as_const(entries))
+        order.append(entry.eventID);
+    return savePositions(order);
 }
 
 bool ScheduleStore::update(qint64 eventID, const eventClass &event)
 {
-    return m_db.update(QStringLiteral("Schedule"), fieldsOf(event), QStringLiteral("eventID"), eventID);
+    const bool ok = m_db.update(QStringLiteral("Schedule"), fieldsOf(event), QStringLiteral("eventID"), eventID);
+    ScheduleChanges::notify();
+    return ok;
 }
 
 bool ScheduleStore::isRecorded(qint64 eventID) const
@@ -117,20 +158,24 @@ ScheduleStore::RemoveResult ScheduleStore::remove(qint64 eventID, const QString 
         else if (eventType == u"Practice")
             run(m_db, QStringLiteral("DELETE FROM Drills WHERE scheduleID = ?"), {id});
     });
+    if (ok)
+        ScheduleChanges::notify();
     return ok ? RemoveResult::Removed : RemoveResult::Failed;
 }
 
 bool ScheduleStore::removeUnreadable(const QList<qint64> &eventIDs)
 {
-    return m_db.runInTransaction([&] {
+    const bool ok = m_db.runInTransaction([&] {
         for (qint64 id : eventIDs)
             m_db.exec(QStringLiteral("DELETE FROM Schedule WHERE eventID = ?"), {id});
     });
+    ScheduleChanges::notify();
+    return ok;
 }
 
 bool ScheduleStore::savePositions(const QList<qint64> &eventIDs)
 {
-    return m_db.runInTransaction([&] {
+    const bool ok = m_db.runInTransaction([&] {
         SQLite::Statement statement(*m_db.tlynData, "UPDATE Schedule SET position = ? WHERE eventID = ?");
         for (int i = 0; i < eventIDs.size(); ++i) {
             statement.reset();
@@ -139,6 +184,8 @@ bool ScheduleStore::savePositions(const QList<qint64> &eventIDs)
             statement.exec();
         }
     });
+    ScheduleChanges::notify();
+    return ok;
 }
 
 QList<OpponentEntry> ScheduleStore::teams() const

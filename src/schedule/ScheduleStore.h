@@ -22,7 +22,7 @@ struct ScheduleEntry
 // The season's schedule in table Schedule, and the rows that hang off an
 // event: a game's Games row and a practice's Drills. Shows nothing itself
 // beyond the database's own error report; callers decide what to tell the
-// coach.
+// coach. Every change is announced through ScheduleChanges.
 class ScheduleStore
 {
 public:
@@ -37,8 +37,11 @@ public:
     QList<ScheduleEntry> list(const QString &filter) const;
     std::optional<ScheduleEntry> find(qint64 eventID) const;
 
-    // Adds an event at the end of the schedule; its id, or -1.
+    // Adds an event in date order: before the first event of a later day,
+    // else at the end; the others keep their order. Its id, or -1.
     qint64 insert(const eventClass &event);
+    // Orders the whole schedule by date and start time, in one step.
+    bool sortByDate();
     bool update(qint64 eventID, const eventClass &event);
 
     // Whether the game of this event has been recorded into the season's

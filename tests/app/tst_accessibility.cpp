@@ -17,6 +17,7 @@
 #include "app/ui/startScrn1.h"
 #include "fakes/TestKit.h"
 #include "gameday/ui/AddPlayersToGameScrn.h"
+#include "gameday/ui/BBScoringLB.h"
 #include "gameday/ui/battingPOP.h"
 #include "people/ui/emailRecipientsDlog.h"
 #include "people/ui/teamScrn.h"
@@ -67,6 +68,16 @@ class TestAccessibility : public QObject
             if (part && !qobject_cast<QWidget *>(part->object()))
                 check(part, path + u'/' + QString::number(i), faults);
         }
+    }
+
+    // Two rows under innings 1 and 2, a single in the first row's second.
+    static void fillGrid(gameday::ScoreGrid &grid)
+    {
+        grid.setColumnHeadings({u"1"_s, u"2"_s});
+        grid.initCellBkg(grid.columnCount() - 1);
+        grid.addRow();
+        grid.addRow();
+        grid.setCellText(0, 1, u"1B"_s);
     }
 
     static QAccessibleInterface *childNamed(QAccessibleInterface *a, const QString &name)
@@ -129,6 +140,12 @@ private Q_SLOTS:
         QTest::newRow("getInfoScrn_small") << Opener([] { return new getInfoScrn_small(nullptr, "Team &Name:"); });
         QTest::newRow("pleaseWaitScrn") << Opener([] { return new pleaseWaitScrn; });
         QTest::newRow("battingPOP") << Opener([] { return new battingPOP; });
+        // The grid's cells are walked as its drawn parts.
+        QTest::newRow("BBScoringLB") << Opener([] {
+            auto *grid = new BBScoringLB;
+            fillGrid(grid->grid());
+            return grid;
+        });
         QTest::newRow("emailRecipientsDlog") << Opener([] { return new emailRecipientsDlog; });
         QTest::newRow("UDVStatsScrn") << Opener([] { return new UDVStatsScrn; });
         QTest::newRow("finalCheckScrn") << Opener([] { return new finalCheckScrn; });
@@ -210,6 +227,38 @@ private Q_SLOTS:
         QCOMPARE(chosen.count(), 1);
         QCOMPARE(chosen.at(0).at(0).value<QAction *>()->text(), QStringLiteral("Team List"));
         QCOMPARE(season.fake.printing.printed.size(), 1);
+    }
+
+    // The grid is a table of named cells; the popover is a dialog window
+    // that says when it opens and closes.
+    void gridCellsAndPopover()
+    {
+        testkit::Season season;
+        BBScoringLB grid;
+        fillGrid(grid.grid());
+        QVERIFY(testkit::showActive(&grid));
+        QAccessibleInterface *table = QAccessible::queryAccessibleInterface(&grid);
+        QCOMPARE(table->role(), QAccessible::Table);
+        QCOMPARE(table->childCount(), 4);
+        QCOMPARE(table->child(1)->role(), QAccessible::Cell);
+        QCOMPARE(table->child(1)->text(QAccessible::Name), u"Row 1, inning 2: 1B"_s);
+        QCOMPARE(table->child(2)->text(QAccessible::Name), u"Row 2, inning 1: empty"_s);
+        QCOMPARE(table->indexOfChild(table->child(3)), 3);
+        QVERIFY(table->child(3)->rect().isValid());
+        grid.setCurrentCell(1, 1);
+        QCOMPARE(table->focusChild(), table->child(3));
+
+        battingPOP popover(&grid);
+        QAccessibleInterface *dialog = QAccessible::queryAccessibleInterface(&popover);
+        QCOMPARE(dialog->role(), QAccessible::Dialog);
+        // While open it is one of the application's windows.
+        int place = -2;
+        connect(&popover, &battingPOP::opened, &popover, [&] {
+            place = QAccessible::queryAccessibleInterface(qApp)->indexOfChild(dialog);
+            popover.close();
+        });
+        popover.getClickedTxt(0, 0, true);
+        QVERIFY(place >= 0);
     }
 
     // A label that shows a value is read by the value.

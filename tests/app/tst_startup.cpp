@@ -203,6 +203,25 @@ private Q_SLOTS:
         QCOMPARE(start->teamNameLabel->text(), QString());
     }
 
+    // An empty season says where to begin, with the team screen's button
+    // focused; once there are teams the line goes.
+    void firstStepOnAnEmptySeason()
+    {
+        testkit::Season s;
+        screens::registerScreen(ScreenId::teamScrn, [] { return new QWidget; });
+        startScrn1 *start = startScrn1::showStartScreen();
+        QVERIFY(testkit::showActive(start));
+        QVERIFY(start->firstStepLabel->isVisible());
+        QCOMPARE(start->firstStepLabel->text(),
+                 QStringLiteral("Start with your teams: enter them under \"Create/Edit Team Data\"."));
+        QCOMPARE(QApplication::focusWidget(), start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn")));
+        s.addTeam(QStringLiteral("Cardinals"));
+        start->hide();
+        start->show();
+        QVERIFY(!start->firstStepLabel->isVisible());
+        screens::unregisterScreen(ScreenId::teamScrn);
+    }
+
     void registeredScreenOpensAndStartComesBack()
     {
         testkit::Season s;

@@ -74,15 +74,19 @@ private Q_SLOTS:
         QVERIFY(testkit::showActive(screen));
         QCOMPARE(screen->teamIDFld->text(), s.team);
         QCOMPARE(screen->playersList->rowCount(), 3);
-        QCOMPARE(screen->playersList->cell(0, 2), QStringLiteral("6145551234"));
+        QCOMPARE(screen->playersList->cell(0, 2), QStringLiteral("(614) 555-1234"));
         QVERIFY(!screen->emailBtn->isEnabled());
 
         screen->coachesList->setSelectedRow(0);
         QVERIFY(screen->emailBtn->isEnabled());
         screen->playersList->setRowSelected(0, true);
         screen->playersList->setRowSelected(1, true);
+        screen->playersList->setRowSelected(2, true); // Cy has no address
         QVERIFY(screen->coachesList->selectedRows().isEmpty());
         QTest::mouseClick(screen->emailBtn, Qt::LeftButton);
+        QCOMPARE(s.fake.messages.texts(),
+                 QStringList{QStringLiteral("Some of the people selected have no e-mail address.")});
+        QCOMPARE(s.fake.messages.shown.first().explanation, QStringLiteral("Left out of the message: Cy Zed."));
         QCOMPARE(s.fake.urls.opened.size(), 1);
         const QUrl url = s.fake.urls.opened.first();
         QCOMPARE(QUrl::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()),
@@ -155,7 +159,8 @@ private Q_SLOTS:
         QFETCH(bool, storeAnswers);
         Session s;
         s.fake.secrets.answers = storeAnswers;
-        const QString password = QStringLiteral("Sl1der&Curve#9");
+        // Blanks at either end are part of it.
+        const QString password = QStringLiteral("  Sl1der&Curve#9 ");
         // An older version left a password in the file; the start moves it.
         gPrefs->prEmailPW = QStringLiteral("older-version-pw");
         people::MailSettings::moveOldPassword(*gPrefs);

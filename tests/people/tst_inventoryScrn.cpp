@@ -72,7 +72,12 @@ private Q_SLOTS:
         QCOMPARE(rows(screen->teamInvList), QStringList{QStringLiteral("4|Helmet|H-1")});
         QVERIFY(screen->inputFld[1]->text().isEmpty());
 
-        // The plus button adds only with a count.
+        // Enter with no count adds one; the plus button adds only with a count.
+        typeInto(screen->inputFld[1], QStringLiteral("Glove"));
+        QTest::keyClick(screen->inputFld[1], Qt::Key_Return);
+        QCOMPARE(rows(screen->teamInvList).last(), QStringLiteral("1|Glove|"));
+        screen->teamInvList->setSelectedRow(1);
+        testkit::clickHalf(screen->TeamInvPlusMinus, false);
         typeInto(screen->inputFld[1], QStringLiteral("Bat"));
         testkit::clickHalf(screen->TeamInvPlusMinus, true);
         QCOMPARE(screen->teamInvList->rowCount(), 1);

@@ -126,8 +126,8 @@ private Q_SLOTS:
                                                                    "B1", "B2", "B3", "HR", "BB", "KS", "KL", "Runs",
                                                                    "RBI"});
         const QStringList shown = lines(batting->reportBox);
-        QVERIFY(shown.contains("Ethan Nguyen 2 1.000 1.000 1.500 1 1 0 0 0 0 0 1 0"));
-        QVERIFY(shown.contains("Caleb Washington 2 .500 .500 2.000 0 0 0 1 0 1 0 1 2"));
+        QVERIFY(shown.contains("Ethan Nguyen Celtics 2 1.000 1.000 1.500 1 1 0 0 0 0 0 1 0"));
+        QVERIFY(shown.contains("Caleb Washington Celtics 2 .500 .500 2.000 0 0 0 1 0 1 0 1 2"));
         // Three Celtics, three Wildcats, three Patriots and the Celtics' B3.
         QCOMPARE(shown.size(), 10);
 

@@ -3,6 +3,7 @@
 
 #include "ReportsFixture.h"
 #include "reports/NumberMask.h"
+#include "reports/ReportHeadings.h"
 #include "reports/SeasonReport.h"
 
 #include <QTest>
@@ -60,43 +61,43 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("shown");
         const QStringList batting{"First Name", "Last Name", "AB", "Avg", "OBP", "SP", "BB", "IBB"};
         QTest::newRow("walks only") << reports::Batting << batting << "BB=3"
-                                    << QStringList{"Al", "Ames", "0", ".000", "1.000", ".000", "3", "0"};
+                                    << QStringList{"Al", "Ames", "Eagles", "0", ".000", "1.000", ".000", "3", "0"};
         QTest::newRow("sacrifices only") << reports::Batting << batting << "SAC=2"
-                                         << QStringList{"Al", "Ames", "0", ".000", ".000", ".000", "0", "0"};
+                                         << QStringList{"Al", "Ames", "Eagles", "0", ".000", ".000", ".000", "0", "0"};
         // 4 hits in 10; (4 + 2 BB + 1 HBP) / (10 + 2 + 1 + 1 SAC) = .500;
         // bases 2 + 2 + 4 = 8; the intentional walk counts nowhere.
         QTest::newRow("a season") << reports::Batting << batting << "AB=10 B1=2 B2=1 HR=1 BB=2 IBB=1 HBP=1 SAC=1"
-                                  << QStringList{"Al", "Ames", "10", ".400", ".500", ".800", "2", "1"};
+                                  << QStringList{"Al", "Ames", "Eagles", "10", ".400", ".500", ".800", "2", "1"};
         QTest::newRow("interference counts nowhere")
             << reports::Batting << batting << "AB=2 B1=1 CI=1"
-            << QStringList{"Al", "Ames", "2", ".500", ".500", ".500", "0", "0"};
+            << QStringList{"Al", "Ames", "Eagles", "2", ".500", ".500", ".500", "0", "0"};
         QTest::newRow("all home runs") << reports::Batting << batting << "AB=4 HR=4"
-                                       << QStringList{"Al", "Ames", "4", "1.000", "1.000", "4.000", "0", "0"};
+                                       << QStringList{"Al", "Ames", "Eagles", "4", "1.000", "1.000", "4.000", "0", "0"};
         QTest::newRow("thirds round") << reports::Batting << batting << "AB=3 B1=2 B3=1"
-                                      << QStringList{"Al", "Ames", "3", "1.000", "1.000", "1.667", "0", "0"};
+                                      << QStringList{"Al", "Ames", "Eagles", "3", "1.000", "1.000", "1.667", "0", "0"};
 
         const QStringList fielding{"First Name", "Last Name", "FPct", "CH", "PO", "Asst", "FE"};
         QTest::newRow("no chances") << reports::Fielding << fielding << "PO=2"
-                                    << QStringList{"Al", "Ames", ".000", "0", "2", "0", "0"};
+                                    << QStringList{"Al", "Ames", "Eagles", ".000", "0", "2", "0", "0"};
         // (5 + 3) / 9 typed chances, whatever the errors say.
         QTest::newRow("chances as typed") << reports::Fielding << fielding << "CH=9 PO=5 Asst=3 FE=4"
-                                          << QStringList{"Al", "Ames", ".889", "9", "5", "3", "4"};
+                                          << QStringList{"Al", "Ames", "Eagles", ".889", "9", "5", "3", "4"};
         QTest::newRow("clean") << reports::Fielding << fielding << "CH=4 PO=4"
-                               << QStringList{"Al", "Ames", "1.000", "4", "4", "0", "0"};
+                               << QStringList{"Al", "Ames", "Eagles", "1.000", "4", "4", "0", "0"};
         QTest::newRow("a header no dictionary knows adds no cell")
             << reports::Fielding << QStringList{"First Name", "Last Name", "FPct", "Nope", "PO"} << "CH=2 PO=1"
-            << QStringList{"Al", "Ames", ".500", "1"};
+            << QStringList{"Al", "Ames", "Eagles", ".500", "1"};
 
         const QStringList pitching{"First Name", "Last Name", "ERA", "IP", "ErRuns"};
         QTest::newRow("no innings") << reports::Pitching << pitching << "ErRuns=5"
-                                    << QStringList{"Al", "Ames", "0.00", "0.0", "5"};
+                                    << QStringList{"Al", "Ames", "Eagles", "0.00", "0.0", "5"};
         QTest::newRow("nine innings") << reports::Pitching << pitching << "IP=90 ErRuns=3"
-                                      << QStringList{"Al", "Ames", "3.00", "9.0", "3"};
+                                      << QStringList{"Al", "Ames", "Eagles", "3.00", "9.0", "3"};
         // 6 2/3 innings: 9 x 6 / (20/3) = 8.10.
-        QTest::newRow("thirds of innings")
-            << reports::Pitching << pitching << "IP=62 ErRuns=6" << QStringList{"Al", "Ames", "8.10", "6.2", "6"};
+        QTest::newRow("thirds of innings") << reports::Pitching << pitching << "IP=62 ErRuns=6"
+                                           << QStringList{"Al", "Ames", "Eagles", "8.10", "6.2", "6"};
         QTest::newRow("one out") << reports::Pitching << pitching << "IP=1 ErRuns=1"
-                                 << QStringList{"Al", "Ames", "27.00", "0.1", "1"};
+                                 << QStringList{"Al", "Ames", "Eagles", "27.00", "0.1", "1"};
     }
     void derivedStatistics()
     {
@@ -174,15 +175,53 @@ private Q_SLOTS:
             shownNames.append(row.at(1));
         QCOMPARE(shownNames, lastNames);
         if (lastNames.contains(QStringLiteral("Player")))
-            QVERIFY(report.rows(filter).contains(QStringList{"Unknown", "Player", "0", ".000", ".000", ".000"}));
+            QVERIFY(
+                report.rows(filter).contains(QStringList{"Unknown", "Player", "Eagles", "0", ".000", ".000", ".000"}));
+    }
+
+    // Each heading says what it counts, and a first sort puts the best first.
+    void headingMeaningsAndFirstOrder_data()
+    {
+        QTest::addColumn<reports::ReportKind>("kind");
+        QTest::addColumn<QString>("heading");
+        QTest::addColumn<QString>("meaning");
+        QTest::addColumn<bool>("ascending");
+        QTest::newRow("strikes thrown") << reports::Pitching << "Ks"
+                                        << "Strikes Thrown" << false;
+        QTest::newRow("strike outs pitched") << reports::Pitching << "Kouts"
+                                             << "Strike Outs" << false;
+        QTest::newRow("batter strikes out") << reports::Batting << "KS"
+                                            << "Strike Out Swinging" << true;
+        QTest::newRow("earned run average") << reports::Pitching << "ERA"
+                                            << "Earned Run Average" << true;
+        QTest::newRow("batting average") << reports::Batting << "Avg"
+                                         << "Batting Average" << false;
+        QTest::newRow("errors") << reports::Fielding << "FE"
+                                << "Fielding Error" << true;
+        QTest::newRow("innings played") << reports::Fielding << "IP"
+                                        << "Innings Played" << false;
+        QTest::newRow("a name") << reports::Batting << "Last Name"
+                                << "Last Name" << true;
+        QTest::newRow("a statistic of the coach's") << reports::Batting << "Hustle"
+                                                    << "Hustle: a user-defined statistic" << false;
+    }
+    void headingMeaningsAndFirstOrder()
+    {
+        QFETCH(reports::ReportKind, kind);
+        QFETCH(QString, heading);
+        QFETCH(QString, meaning);
+        QFETCH(bool, ascending);
+        QCOMPARE(reports::headingDescription(kind, heading), meaning);
+        QCOMPARE(reports::firstSortOrder(kind, heading) == Qt::AscendingOrder, ascending);
     }
 
     void widths_data()
     {
         QTest::addColumn<int>("columns");
         QTest::addColumn<int>("listWidth");
-        QTest::newRow("names and one figure") << 3 << 204;
-        QTest::newRow("batting defaults") << 15 << 636;
+        // The team's column comes with every report.
+        QTest::newRow("names and one figure") << 3 << 288;
+        QTest::newRow("batting defaults") << 15 << 720;
         QTest::newRow("thirty columns stop at 984") << 30 << 984;
     }
     void widths()
@@ -194,7 +233,8 @@ private Q_SLOTS:
             headers.append(QStringLiteral("AB"));
         SeasonReport report(reports::Batting, headers);
         QCOMPARE(report.listWidth(), listWidth);
-        QCOMPARE(report.columnWidths(), (QStringList{"84", "84"} + QStringList(columns - 2, "36")).join(u','));
+        QCOMPARE(report.curHeaders().mid(0, 3), (QStringList{"First Name", "Last Name", "Team"}));
+        QCOMPARE(report.columnWidths(), (QStringList{"84", "84", "84"} + QStringList(columns - 2, "36")).join(u','));
     }
 };
 

@@ -194,6 +194,27 @@ private Q_SLOTS:
         QCOMPARE(shownRows(list), (QStringList{"Elks 7 0 0 1.000 0.0", "Hawks 3 1 0 .750 2.5", "Owls 5 2 0 .714 2.0"}));
     }
 
+    // A record being typed when the view changes is kept, shown in the
+    // new view and saved.
+    void typedRecordSurvivesViewChange()
+    {
+        ReportsFixture f;
+        const qint64 home = f.addTeam("Hawks", "North", "East");
+        f.addTeam("Owls", "North", "East");
+        f.prefs->prHomeTeam = QString::number(home);
+        auto screen = openStandings();
+        QVERIFY(screen);
+        qlmListBox *list = screen->myLB;
+        QTest::mouseClick(screen->editWLBtn, Qt::LeftButton);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cellCenter(list, 1, 1));
+        QVERIFY(list->isEditingCell());
+        QTest::keyClicks(QApplication::focusWidget(), "6");
+        screen->standSelPop->setCurrentIndex(screen->standSelPop->findText("North League"));
+        QCOMPARE(shownRows(list), (QStringList{"Owls 6 0 0 1.000 0.0", "Hawks 0 0 0 .000 3.0"}));
+        QTest::mouseClick(screen->editWLBtn, Qt::LeftButton);
+        QCOMPARE(storedRecords(), (QStringList{"Hawks 0-0-0", "Owls 6-0-0"}));
+    }
+
     // Return on a row that is followed by the home team skips it.
     void returnSkipsHomeTeam()
     {

@@ -7,6 +7,7 @@
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/TestSupport.h"
+#include "schedule/EventsCalendar.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ui/eventsCalendarScrn.h"
 #include "schedule/ui/monthlyEventsLayer.h"
@@ -34,12 +35,12 @@ void addEvent(const QString &type, const QDate &date, const QString &start, cons
     QVERIFY(ScheduleStore(*gData).insert(event) > 0);
 }
 
-// April 2026: a game and a practice on the 15th, five events on the 20th
-// (three bars and a strip for two).
+// April 2026: a game and (added after it) the afternoon's practice on the
+// 15th, five events on the 20th (three bars and a strip for two).
 void fillApril()
 {
-    addEvent("Game", QDate(2026, 4, 15), "7:30 PM", "Bears", "Riverside");
-    addEvent("Practice", QDate(2026, 4, 15), "---", "-", "O'Malley's Field");
+    addEvent("Game", QDate(2026, 4, 15), "7:00 PM", "Bears", "Riverside");
+    addEvent("Practice", QDate(2026, 4, 15), "3:30 PM", "-", "O'Malley's Field");
     for (int i = 0; i < 5; ++i)
         addEvent("Meeting", QDate(2026, 4, 20), QStringLiteral("%1:00 PM").arg(i + 1), "", "Hall");
 }
@@ -78,7 +79,7 @@ QStringList *listen(MonthEventsCalendar &c)
     return heard;
 }
 
-// Where to press: "bar15.1" the second bar on 15 April, "more20" the strip
+// Where to press: "bar15.0" the second bar on 15 April, "more20" the strip
 // on the 20th, "day22" the middle of an empty day (negative: May), "edge"
 // the last pixel column, "below" the last pixel row.
 QPoint pointOf(const MonthEventsCalendar &c, const QString &target)
@@ -157,23 +158,24 @@ private Q_SLOTS:
         QTest::addColumn<QString>("heard");
         QTest::addColumn<QString>("info");
         QTest::addColumn<QString>("title");
-        const QString game = QStringLiteral("7:30 Game @ Riverside with Bears");
+        const QString game = QStringLiteral("7:00 PM Game @ Riverside with Bears");
         const QString apr15 = QStringLiteral("Wednesday, April 15, 2026");
         const QString apr20 = QStringLiteral("Monday, April 20, 2026");
         const QString apr22 = QStringLiteral("Wednesday, April 22, 2026");
         const QString april = QStringLiteral("April 2026");
-        QTest::newRow("click on a bar") << QStringList{"click bar15.0"}
-                                        << "dateClicked 2026-04-15, eventClicked 7:30 Game" << game << april;
+        QTest::newRow("click on a bar") << QStringList{"click bar15.1"}
+                                        << "dateClicked 2026-04-15, eventClicked 7:00 PM Game" << game << april;
         // An opponent of one character isn't shown; "---" starts at 0:00.
         QTest::newRow("click on the second bar")
-            << QStringList{"click bar15.1"} << "dateClicked 2026-04-15, eventClicked 0:00 Practice"
-            << "0:00 Practice @ O'Malley's Field" << april;
-        QTest::newRow("double click on a bar")
-            << QStringList{"dclick bar15.0"}
-            << "dateClicked 2026-04-15, eventClicked 7:30 Game, dateClicked 2026-04-15, eventDoubleClicked 7:30 Game"
-            << apr15 << april;
+            << QStringList{"click bar15.0"} << "dateClicked 2026-04-15, eventClicked 3:30 PM Practice"
+            << "3:30 PM Practice @ O'Malley's Field" << april;
+        QTest::newRow("double click on a bar") << QStringList{"dclick bar15.1"}
+                                               << "dateClicked 2026-04-15, eventClicked 7:00 PM Game, dateClicked "
+                                                  "2026-04-15, eventDoubleClicked 7:00 PM Game"
+                                               << apr15 << april;
         QTest::newRow("right click on a bar")
-            << QStringList{"right bar15.0"} << "dateClicked 2026-04-15, rightClickOnEvent 7:30 Game" << apr15 << april;
+            << QStringList{"right bar15.1"} << "dateClicked 2026-04-15, rightClickOnEvent 7:00 PM Game" << apr15
+            << april;
         // Two events behind one strip: told once.
         QTest::newRow("click on a strip")
             << QStringList{"click more20"} << "dateClicked 2026-04-20, moreClicked 2026-04-20" << apr20 << april;
@@ -205,16 +207,16 @@ private Q_SLOTS:
                                          << ""
                                          << "";
         QTest::newRow("Return on an event")
-            << QStringList{"click bar15.0", "key Return"}
-            << "dateClicked 2026-04-15, eventClicked 7:30 Game, returnKeyOnEvent 7:30 Game"
+            << QStringList{"click bar15.1", "key Return"}
+            << "dateClicked 2026-04-15, eventClicked 7:00 PM Game, returnKeyOnEvent 7:00 PM Game"
             << ""
             << "";
         // Today is the 15th.
         QTest::newRow("arrows and Space")
             << QStringList{"key Right", "key Left", "key Space", "key Space", "key Space"}
             << "dateClicked 2026-04-16, noEventSelected, dateClicked 2026-04-15, noEventSelected, "
-               "eventClicked 7:30 Game, eventClicked 0:00 Practice, eventClicked 7:30 Game"
-            << game << april;
+               "eventClicked 3:30 PM Practice, eventClicked 7:00 PM Game, eventClicked 3:30 PM Practice"
+            << "3:30 PM Practice @ O'Malley's Field" << april;
     }
     void pressesAndKeys()
     {
@@ -257,6 +259,58 @@ private Q_SLOTS:
         }
     }
 
+    // The start time read with its half of the day, shown in the locale's clock.
+    void startTimes_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QTime>("start");
+        QTest::addColumn<QString>("subject");
+        QTest::newRow("evening") << "7:30 PM"
+                                 << "en_US" << QTime(19, 30) << "7:30 PM Game";
+        QTest::newRow("morning") << "7:30 AM"
+                                 << "en_US" << QTime(7, 30) << "7:30 AM Game";
+        QTest::newRow("noon") << "12:00 PM"
+                              << "en_US" << QTime(12, 0) << "12:00 PM Game";
+        QTest::newRow("after midnight") << "12:15 AM"
+                                        << "en_US" << QTime(0, 15) << "12:15 AM Game";
+        QTest::newRow("a 24-hour clock") << "7:30 PM"
+                                         << "de_DE" << QTime(19, 30) << "19:30 Game";
+        QTest::newRow("no time") << "---"
+                                 << "en_US" << QTime(0, 0) << "Game";
+    }
+    void startTimes()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QString, locale);
+        QFETCH(QTime, start);
+        QFETCH(QString, subject);
+        QLocale::setDefault(QLocale(locale));
+        ScheduleEntry entry;
+        entry.event.mDate = QDate(2026, 4, 15);
+        entry.event.eventType = QStringLiteral("Game");
+        entry.event.startTime = stored;
+        const auto event = EventsCalendar::fromSchedule(entry);
+        QVERIFY(event);
+        QCOMPARE(event->startDate.time(), start);
+        QCOMPARE(event->subject, subject);
+    }
+
+    // An event added, changed or deleted in another window shows at once.
+    void followsTheSchedule()
+    {
+        Season season;
+        fillApril();
+        auto *screen = openScreen();
+        const MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
+        QCOMPARE(calendar.eventData().size(), 7);
+        addEvent("Game", QDate(2026, 4, 22), "5:00 PM", "Owls", "Riverside");
+        QCOMPARE(calendar.eventData().size(), 8);
+        QCOMPARE(calendar.eventData().last().subject, QStringLiteral("5:00 PM Game"));
+        ScheduleStore(*gData).remove(calendar.eventData().last().EventID, QStringLiteral("Game"));
+        QCOMPARE(calendar.eventData().size(), 7);
+    }
+
     void turningTheMonths()
     {
         Season season;
@@ -279,7 +333,7 @@ private Q_SLOTS:
         fillApril();
         auto *screen = openScreen();
         MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
-        QTest::mouseClick(screen->eventCalendar1, Qt::LeftButton, {}, pointOf(calendar, "bar15.0"));
+        QTest::mouseClick(screen->eventCalendar1, Qt::LeftButton, {}, pointOf(calendar, "bar15.1"));
         season.fake.printing.directory = out.path();
         season.fake.printing.copies = 2;
         QTest::mouseClick(screen->printBtn, Qt::LeftButton);
@@ -288,7 +342,7 @@ private Q_SLOTS:
         QCOMPARE(fakes::pdfPageCount(pdf), 2);
         const QString text = fakes::pdfText(pdf);
         for (const char *line : {"Schedule for: O'Brien's Nine", "Printed On: Wednesday, April 15, 2026", "April 2026",
-                                 "7:30 Game", "0:00 Practice", "More (2)...", "Sunday"})
+                                 "7:00 PM Game", "3:30 PM", "More (2)...", "Sunday"})
             QVERIFY2(text.contains(QString::fromUtf8(line)), line);
 
         // The heading, then the calendar below it, all within the page.
@@ -304,6 +358,8 @@ private Q_SLOTS:
         QVERIFY(first.value("Schedule").yMin < first.value("Printed").yMin);
         QVERIFY(first.value("Printed").yMax < first.value("Sunday").yMin);
         QVERIFY(first.value("Sunday").yMax < first.value("Game").yMin);
+        // The day's practice at 3:30 PM stands above its 7:00 PM game.
+        QVERIFY(first.value("3:30").yMax <= first.value("7:00").yMin);
         QVERIFY(right < platform::PrinterSetup().pageWidth());
 
         // The menu prints the same.

@@ -171,13 +171,98 @@ private Q_SLOTS:
         // A recalled row deletes from the file too; saving under a name in
         // use replaces the file.
         other->drillList->setSelectedRow(1);
+        season.fake.messages.answers.enqueue(platform::MsgCancel);
         QTest::mouseClick(other->deleteBtn, Qt::LeftButton);
+        QCOMPARE(drillsIn(friday), 4);
+        season.fake.messages.answers.enqueue(platform::MsgAction);
+        QTest::mouseClick(other->deleteBtn, Qt::LeftButton);
+        QCOMPARE(season.fake.messages.shown.last().message,
+                 QStringLiteral("Delete the drill \"Bunting & base-running #2\"?"));
         QCOMPARE(drillsIn(friday), 3);
         QCOMPARE(other->drillList->selectedRow(), -1);
         saveAs(other, QStringLiteral("copy"));
         QCOMPARE(bytesOf(planPath(QStringLiteral("copy"))),
                  QByteArray("Long Toss\t3:00 PM\nFungo\t3:15 PM\t3:05 PM\nCool down\n"));
-        QCOMPARE(season.fake.messages.shown.size(), 1);
+        QCOMPARE(season.fake.messages.shown.size(), 3);
+    }
+
+    // What is typed into a box stays within what a plan line can hold, so
+    // the saved plan recalls whole.
+    void typedDrillsAlwaysRecall_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("a tab") << QStringLiteral("Long\ttoss") << QStringLiteral("Long toss");
+        QTest::newRow("line ends") << QStringLiteral("Laps\r\nand sprints") << QStringLiteral("Laps  and sprints");
+        QTest::newRow("300 characters") << QString(300, u'x') << QString(255, u'x');
+    }
+    void typedDrillsAlwaysRecall()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        Season season;
+        const qint64 id = practice(QStringLiteral("2026-04-14"), QStringLiteral("Riverside"));
+        auto *screen = openPlan(id);
+        // Typed (or pasted) as one edit of the drill box.
+        screen->drillBox->lineEdit()->setFocus();
+        screen->drillBox->lineEdit()->insert(typed);
+        enterDrill(screen, {screen->drillBox->currentText(), QStringLiteral("3:00 PM\t")}, false);
+        QCOMPARE(gData->scalar(QStringLiteral("SELECT drill || '|' || start FROM Drills")).toString(),
+                 stored + QStringLiteral("|3:00 PM "));
+        saveAs(screen, QStringLiteral("plan"));
+        const auto read = schedule::PlanFile::parse(bytesOf(planPath(QStringLiteral("plan"))));
+        QVERIFY(read.skipped.isEmpty());
+        QCOMPARE(read.rows.value(0).value(0), stored);
+    }
+
+    // Drills are edited in place and moved by keyboard or button; a recall
+    // into a practice with drills asks to replace or add.
+    void editMoveAndRecallAgain()
+    {
+        Season season;
+        const qint64 id = practice(QStringLiteral("2026-04-14"), QStringLiteral("Riverside"));
+        auto *screen = openPlan(id);
+        for (const char *drill : {"Laps", "Fungo", "Bunts"})
+            enterDrill(screen, {QString::fromLatin1(drill)}, false);
+        const auto stored = [id] {
+            QStringList out;
+            for (const Record &r :
+                 gData->select(QStringLiteral("SELECT drill FROM Drills WHERE scheduleID = ? ORDER BY planID"), {id}))
+                out.append(r.text(QStringLiteral("drill")));
+            return out;
+        };
+        qlmListBox *list = screen->drillList;
+        list->editCell(1, 0);
+        list->setEditorText(QStringLiteral("Fungo\tflies"));
+        list->setCurrentIndex({});
+        QCOMPARE(stored(), (QStringList{"Laps", "Fungo flies", "Bunts"}));
+        QCOMPARE(list->cell(1, 0), QStringLiteral("Fungo flies"));
+
+        list->setFocus();
+        list->setSelectedRow(0);
+        QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(stored(), (QStringList{"Fungo flies", "Laps", "Bunts"}));
+        QTest::mouseClick(screen->moveDownBtn, Qt::LeftButton);
+        QCOMPARE(stored(), (QStringList{"Fungo flies", "Bunts", "Laps"}));
+        QVERIFY(!screen->moveDownBtn->isEnabled());
+        QTest::mouseClick(screen->moveUpBtn, Qt::LeftButton);
+        QCOMPARE(stored(), (QStringList{"Fungo flies", "Laps", "Bunts"}));
+
+        saveAs(screen, QStringLiteral("plan"));
+        season.fake.files.answers.enqueue(planPath(QStringLiteral("plan")));
+        season.fake.messages.answers.enqueue(platform::MsgAlternate); // add
+        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
+        QCOMPARE(drillsIn(id), 6);
+        season.fake.files.answers.enqueue(planPath(QStringLiteral("plan")));
+        season.fake.messages.answers.enqueue(platform::MsgAction); // replace
+        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
+        QCOMPARE(stored(), (QStringList{"Fungo flies", "Laps", "Bunts"}));
+        QCOMPARE(rowsOf(list).size(), 3);
+        season.fake.files.answers.enqueue(planPath(QStringLiteral("plan")));
+        season.fake.messages.answers.enqueue(platform::MsgCancel);
+        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
+        QCOMPARE(drillsIn(id), 3);
+        QCOMPARE(season.fake.messages.texts(), QStringList(3, QStringLiteral("This practice already has drills.")));
     }
 
     // Hand-edited and damaged plans: whole lines recalled or skipped, and

@@ -163,6 +163,44 @@ private Q_SLOTS:
         QCOMPARE(screen->homeTeamFld->text(), QString());
     }
 
+    // A new event takes its place by date; the coach's own order of the
+    // others holds until he sorts by date. Close and Escape close.
+    void newEventsInDateOrderAndSortByDate()
+    {
+        Season season;
+        auto *screen = new scheduleScrn;
+        screen->show();
+        qlmListBox *list = screen->ScheduleListbox;
+        const auto days = [](const qlmListBox *l) {
+            QStringList out;
+            for (int r = 0; r < l->rowCount(); ++r)
+                out.append(l->cell(r, 0));
+            return out;
+        };
+        compose(screen->newEventBtn, {QDate(2026, 4, 28), "Game", "Bears", "Riverside", "7", ""});
+        compose(screen->newEventBtn, {QDate(2026, 4, 20), "Meeting", "", "Library", "6", ""});
+        QCOMPARE(days(list), (QStringList{"4/20/26", "4/28/26"}));
+        dragRow(list, 1, 0); // the coach puts the game first
+        QCOMPARE(days(list), (QStringList{"4/28/26", "4/20/26"}));
+        compose(screen->newEventBtn, {QDate(2026, 4, 25), "Practice", "", "O'Malley's Field", "3", ""});
+        QCOMPARE(days(list), (QStringList{"4/25/26", "4/28/26", "4/20/26"}));
+        QCOMPARE(list->cell(list->selectedRow(), 3), QStringLiteral("Practice"));
+        QTest::mouseClick(screen->sortBtn, Qt::LeftButton);
+        QCOMPARE(days(list), (QStringList{"4/20/26", "4/25/26", "4/28/26"}));
+        QCOMPARE(list->cell(list->selectedRow(), 3), QStringLiteral("Practice"));
+
+        QPointer<scheduleScrn> first = screen;
+        QTest::mouseClick(screen->closeBtn, Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!first);
+        QPointer<scheduleScrn> second = new scheduleScrn;
+        QVERIFY(testkit::showActive(second));
+        QCOMPARE(days(second->ScheduleListbox), (QStringList{"4/20/26", "4/25/26", "4/28/26"}));
+        QTest::keyClick(second->ScheduleListbox, Qt::Key_Escape);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!second);
+    }
+
     void newEditAndDelete()
     {
         Season season;
@@ -333,8 +371,9 @@ private Q_SLOTS:
         season.fake.printing.directory = out.path();
         QTest::mouseClick(screen->printBtn, Qt::LeftButton);
         QCOMPARE(season.fake.printing.printed.size(), 1);
-        // The wide printout turns the page to landscape and says so.
-        QCOMPARE(season.fake.messages.texts(), QStringList{"Printing was changed to landscape mode."});
+        // The wide printout is landscape with no more than the print dialog.
+        QVERIFY(season.fake.messages.shown.isEmpty());
+        QCOMPARE(season.fake.printing.setupDialogs, 0);
         const QString pdf = season.fake.printing.printed.first();
         const QString text = fakes::pdfText(pdf);
         QVERIFY(text.contains(QStringLiteral("Schedule")));

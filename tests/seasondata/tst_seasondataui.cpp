@@ -165,8 +165,16 @@ private Q_SLOTS:
         QTest::mouseClick(sheet->emptyRadio, Qt::LeftButton);
         QTRY_COMPARE(sheet->height(), small);
         QTRY_VERIFY(!sheet->teamArea->isVisible());
-        QTest::mouseClick(sheet->transferRadio, Qt::LeftButton);
+        // A screen reader's action on the box shows the lists as a click does.
+        QAccessibleInterface *box = QAccessible::queryAccessibleInterface(sheet->transferRadio);
+        QVERIFY(box && box->actionInterface());
+        const QStringList actions = box->actionInterface()->actionNames();
+        box->actionInterface()->doAction(actions.contains(QAccessibleActionInterface::toggleAction())
+                                             ? QAccessibleActionInterface::toggleAction()
+                                             : QAccessibleActionInterface::pressAction());
+        QVERIFY(sheet->transferRadio->isChecked());
         QTRY_COMPARE(sheet->height(), small + TransferDataScrn::kListsHeight);
+        QVERIFY(sheet->teamArea->isVisible());
 
         QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
         QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Please add teams for transferring")});

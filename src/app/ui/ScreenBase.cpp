@@ -45,6 +45,7 @@ void ScreenBase::installHelpMenus(int topic)
             topic = 5;
             break;
         case ScreenId::scheduleScrn:
+        case ScreenId::eventsCalendarScrn:
             topic = 6;
             break;
         case ScreenId::gameDayScrn:
@@ -54,6 +55,7 @@ void ScreenBase::installHelpMenus(int topic)
             topic = 8;
             break;
         case ScreenId::reportIntroScrn:
+        case ScreenId::reportScrn:
             topic = 9;
             break;
         case ScreenId::InventoryScrn:

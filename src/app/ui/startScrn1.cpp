@@ -2,6 +2,7 @@
 
 #include "app/App.h"
 #include "app/globals.h"
+#include "app/myDB.h"
 #include "app/ui/AboutScrn.h"
 #include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
@@ -136,8 +137,14 @@ startScrn1::startScrn1(QWidget *parent)
                         i % 2);
         ++i;
     }
+    firstStepLabel = new QLabel(u"Start with your teams: enter them under \"Create/Edit Team Data\"."_s, central);
+    firstStepLabel->setObjectName(u"firstStepLabel"_s);
+    firstStepLabel->setAccessibleName(firstStepLabel->text());
+    firstStepLabel->setWordWrap(true);
+    firstStepLabel->setVisible(false);
     auto *right = new QVBoxLayout;
     right->addWidget(title);
+    right->addWidget(firstStepLabel);
     right->addLayout(grid);
     right->addStretch(1);
     auto *outer = new QHBoxLayout(central);
@@ -321,6 +328,18 @@ void startScrn1::showSeasonState()
     seasonProblemLabel->setText(text);
     seasonProblemLabel->setAccessibleName(text);
     seasonProblemLabel->setVisible(!text.isEmpty());
+
+    // Every other screen needs teams: on an empty season the way in is said
+    // and the team screen's button has the focus.
+    const bool noTeams = unopened.isEmpty() && gData && gData->isConnected() &&
+                         gData->scalar(QStringLiteral("SELECT COUNT(*) FROM Teams")).toLongLong() == 0;
+    firstStepLabel->setVisible(noTeams);
+    if (noTeams) {
+        for (const auto &[button, target] : std::as_const(m_targets)) {
+            if (target == ScreenId::teamScrn && button->isEnabled())
+                button->setFocus(Qt::OtherFocusReason);
+        }
+    }
 }
 
 void startScrn1::showAbout()

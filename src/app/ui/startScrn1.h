@@ -36,6 +36,8 @@ public:
     QLabel *teamNameLabel = nullptr;
     // Names the season file that could not be opened; hidden while a season is open.
     QLabel *seasonProblemLabel = nullptr;
+    // On a season without teams: where to begin.
+    QLabel *firstStepLabel = nullptr;
     LogoCanvas *LogoHolder = nullptr;
     QPushButton *helpBtn = nullptr;
     MainMenuBar *menuBar() const { return menus(); }

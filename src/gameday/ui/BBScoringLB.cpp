@@ -1,5 +1,6 @@
 #include "gameday/ui/BBScoringLB.h"
 
+#include "gameday/ui/GameDayAccessible.h"
 #include "gameday/ui/battingPOP.h"
 
 #include <QKeyEvent>
@@ -13,6 +14,8 @@ using gameday::ScoreGrid;
 
 BBScoringLB::BBScoringLB(QWidget *parent) : QWidget(parent)
 {
+    // Before anything asks for the interface, which is then kept.
+    gameday::accessible::install();
     setObjectName(QStringLiteral("BBScoringLB"));
     setAccessibleName(tr("Scorecard"));
     setFocusPolicy(Qt::StrongFocus);
@@ -59,6 +62,7 @@ void BBScoringLB::announceCurrent()
         setAccessibleDescription(QString());
         return;
     }
+    gameday::accessible::cellFocused(this, m_current->row, m_current->col);
     const QString text = m_grid.cellText(m_current->row, m_current->col);
     setAccessibleDescription(tr("Row %1, inning %2: %3")
                                  .arg(m_current->row + 1)

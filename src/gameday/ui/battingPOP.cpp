@@ -1,7 +1,9 @@
 #include "gameday/ui/battingPOP.h"
 
 #include "gameday/GridCodes.h"
+#include "gameday/ui/GameDayAccessible.h"
 #include "gameday/ui/PopoverCodeList.h"
+#include "gameday/ui/PopoverWindow.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -67,8 +69,11 @@ QList<PopoverCodeList::Cell> resultCells()
 
 } // namespace
 
-battingPOP::battingPOP(QWidget *parent) : QWidget(parent, Qt::Popup)
+battingPOP::battingPOP(QWidget *parent) : QWidget(parent)
 {
+    new PopoverWindow(this);
+    // Before anything asks for the interface, which is then kept.
+    gameday::accessible::install();
     setObjectName(QStringLiteral("battingPOP"));
     setAccessibleName(tr("At bat entry"));
     // The click that closes the window must not reach the grid under it.
@@ -153,6 +158,7 @@ QString battingPOP::getClickedTxt(int left, int top, bool showAll)
     else
         actionBtn[0]->setFocus(Qt::PopupFocusReason);
 
+    gameday::accessible::popoverShown(this, true);
     QPointer<battingPOP> self(this);
     Q_EMIT opened();
     if (self && isVisible()) {
@@ -189,8 +195,9 @@ void battingPOP::closeEvent(QCloseEvent *event)
 
 void battingPOP::hideEvent(QHideEvent *event)
 {
-    // Qt hides a popup on a click outside it.
+    // A press outside closes the popover (PopoverWindow).
     QWidget::hideEvent(event);
+    gameday::accessible::popoverShown(this, false);
     if (m_loop)
         m_loop->quit();
 }

@@ -109,10 +109,22 @@ void contactInfoScrn::listChanged(qlmListBox *changed, qlmListBox *other)
 void contactInfoScrn::hndlEmail()
 {
     QStringList addresses;
+    QStringList leftOut;
     for (qlmListBox *list : {playersList, coachesList}) {
-        for (int row : list->selectedRows())
-            addresses.append(list->cell(row, people::ContactBook::kEmailColumn));
+        for (int row : list->selectedRows()) {
+            const QString address = list->cell(row, people::ContactBook::kEmailColumn).trimmed();
+            // Someone without an address is left out of the To: line, by name.
+            if (address.isEmpty())
+                leftOut.append(QString(list->cell(row, 0) + u' ' + list->cell(row, 1)).trimmed());
+            else
+                addresses.append(address);
+        }
     }
+    if (!leftOut.isEmpty())
+        gShowMsgDlog(addresses.isEmpty() ? QStringLiteral("No one selected has an e-mail address.")
+                                         : QStringLiteral("Some of the people selected have no e-mail address."),
+                     QStringLiteral("Left out of the message: ") + leftOut.join(QStringLiteral(", ")) + u'.',
+                     QStringLiteral("OK"));
     if (addresses.isEmpty())
         return;
     platform::urls().openUrl(people::ContactBook::messageTo(addresses, selectTeamPop->currentText()));

@@ -58,7 +58,7 @@ personnelScrn::personnelScrn(QWidget *parent)
 {
     buildControls();
     installPeopleMenus(
-        menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
+        menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 3);
 
     fillTeamPopups();
     setPlayerMode(true);

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPainter>
@@ -12,6 +13,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTimer>
 
 namespace platform::qt {
 
@@ -165,6 +167,13 @@ std::unique_ptr<PrintJob> QtPrintService::printDialog(const PrinterSetup &setup,
     printer->setDocName(jobTitle);
     QPrintDialog dialog(printer.get(), dialogParent());
     dialog.setWindowTitle(jobTitle);
+    // Printing to a PDF file offers a file named after the job, in the
+    // documents folder.
+    QTimer::singleShot(0, &dialog, [&dialog, &jobTitle] {
+        if (auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("filename")))
+            field->setText(QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                               .filePath(pdfFileName(jobTitle)));
+    });
     if (dialog.exec() != QDialog::Accepted)
         return nullptr;
     const PrinterSetup used(printer->pageLayout());

@@ -251,6 +251,26 @@ void qlmListBox::keyPressEvent(QKeyEvent *event)
         event->accept();
         return;
     }
+    // With sorting by heading allowed, Ctrl+Left and Ctrl+Right sort by the
+    // previous or next heading as a first click on it does; Ctrl+Up and
+    // Ctrl+Down then sort that heading up or down.
+    if (isSortingEnabled() && !rowsMovable() && mods == Qt::ControlModifier && columnCount() > 0) {
+        const int current = header()->sortIndicatorSection();
+        const int key = event->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            int column = current < 0 || current >= columnCount() ? (key == Qt::Key_Right ? 0 : columnCount() - 1)
+                         : key == Qt::Key_Right                  ? (current + 1) % columnCount()
+                                                                 : (current + columnCount() - 1) % columnCount();
+            header()->setSortIndicator(column, m_model->firstSortOrder(column));
+            event->accept();
+            return;
+        }
+        if ((key == Qt::Key_Up || key == Qt::Key_Down) && current >= 0) {
+            header()->setSortIndicator(current, key == Qt::Key_Up ? Qt::AscendingOrder : Qt::DescendingOrder);
+            event->accept();
+            return;
+        }
+    }
     QTreeView::keyPressEvent(event);
 }
 
@@ -347,12 +367,11 @@ bool qlmListBox::widePrintOneCopy(platform::PrintJob &job, const platform::Print
 
 std::optional<platform::PrinterSetup> qlmListBox::getPSetup()
 {
-    std::optional<platform::PrinterSetup> setup;
-    gGetPrinterSetup(setup, true);
-    if (setup && !setup->isLandscape()) {
-        setup->setLandscape(true);
-        gMsgBox(QStringLiteral("Printing was changed to landscape mode."));
-    }
+    // The remembered page set-up (or the default paper), turned to landscape
+    // for the wide list: the print dialog that follows is the only one.
+    platform::PrinterSetup setup =
+        platform::PrinterSetup::fromString(gPrinterSettings).value_or(platform::PrinterSetup());
+    setup.setLandscape(true);
     return setup;
 }
 
@@ -377,9 +396,10 @@ void qlmListBox::widePrintMe(const QString &title, const QStringList &widths)
         case platform::MsgAction:
             break;
         case platform::MsgAlternate:
-            setup = getPSetup();
+            gGetPrinterSetup(setup, true);
             if (!setup)
                 return;
+            setup->setLandscape(true);
             break;
         default:
             return;

@@ -4,6 +4,7 @@
 #include "app/myDB.h"
 #include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
+#include "reports/ReportHeadings.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportIntroScrn.h"
 #include "support/ui/myInfoBtn.h"
@@ -92,6 +93,13 @@ reportScrn::reportScrn(int which, const QStringList &headers, QWidget *parent)
 void reportScrn::scrnSetup()
 {
     reportBox->setHeadings(m_report.curHeaders());
+    for (int c = 0; c < m_report.curHeaders().size(); ++c) {
+        const QString &heading = m_report.curHeaders().at(c);
+        reportBox->listModel().setHeadingDescription(c, reports::headingDescription(m_report.kind(), heading));
+        reportBox->listModel().setFirstSortOrder(c, reports::firstSortOrder(m_report.kind(), heading));
+    }
+    reportBox->setToolTip(QStringLiteral("A click on a heading, or Ctrl+Left and Ctrl+Right, sorts by it, best "
+                                         "first; Ctrl+Up and Ctrl+Down turn the order"));
     reportBox->setColumnWidths(m_report.columnWidths());
     titleLbl->setText(m_report.title());
     setWindowTitle(m_report.title() + QStringLiteral(" Report"));

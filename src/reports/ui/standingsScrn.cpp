@@ -66,7 +66,7 @@ standingsScrn::standingsScrn(QWidget *parent)
     acquireData();
     fillStandLB();
 
-    connect(standSelPop, &QComboBox::currentIndexChanged, this, &standingsScrn::fillStandLB);
+    connect(standSelPop, &QComboBox::currentIndexChanged, this, &standingsScrn::viewChanged);
     connect(editWLBtn, &QPushButton::clicked, this, &standingsScrn::editWLBtn_Action);
     connect(CloseBtn, &QPushButton::clicked, this, &QWidget::close);
     connect(myLB, &qlmListBox::cellClicked, this, &standingsScrn::myLB_CellClick);
@@ -94,6 +94,19 @@ void standingsScrn::acquireData()
 {
     m_standings.acquireData();
     noGamesWarning->setVisible(m_standings.noGames());
+}
+
+void standingsScrn::viewChanged()
+{
+    // What the coach typed is saved and read back before the other view
+    // refills the list; otherwise the refill would overwrite it and the
+    // button's release would then save the refilled cells.
+    myLB->setCurrentIndex({});
+    if (dataDirty) {
+        saveData();
+        acquireData();
+    }
+    fillStandLB();
 }
 
 void standingsScrn::fillStandLB()

@@ -40,6 +40,7 @@ protected:
 
 private:
     void acquireData();
+    void viewChanged();
     void myLB_CellClick(int row, int column);
     bool myLB_CellKeyDown(int row, int column, QKeyEvent *event);
     // Opens a record cell for editing, or says why the home team's can't be.

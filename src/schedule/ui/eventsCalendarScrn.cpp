@@ -8,6 +8,7 @@
 #include "platform/Services.h"
 #include "schedule/EventDates.h"
 #include "schedule/EventsCalendar.h"
+#include "schedule/ScheduleChanges.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ui/monthlyEventsLayer.h"
 
@@ -69,6 +70,8 @@ eventsCalendarScrn::eventsCalendarScrn(QWidget *parent)
     menus()->installPrinterSetup();
 
     fillEvents();
+    // Follows the schedule as it is changed in any window.
+    connect(&ScheduleChanges::instance(), &ScheduleChanges::changed, this, &eventsCalendarScrn::fillEvents);
     eventCalendar1->setFocus();
 }
 

@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -77,6 +78,18 @@ void practicePlanScrn::buildControls()
     }
     for (QComboBox *box : {activityBox, drillBox, coachBox})
         box->setMinimumContentsLength(16);
+    // A field holds one line of at most the plan file's field length, kept
+    // so as it is typed, so that every saved plan can be recalled.
+    for (QComboBox *box : {drillBox, startBox, endBox, coachBox}) {
+        QLineEdit *line = box->lineEdit();
+        line->setMaxLength(schedule::PlanFile::kMaxFieldLength);
+        box->setToolTip(QStringLiteral("One line of up to %1 characters").arg(schedule::PlanFile::kMaxFieldLength));
+        connect(line, &QLineEdit::textEdited, line, [line](const QString &text) {
+            const QString fitted = schedule::PlanFile::fitField(text);
+            if (fitted != text)
+                line->setText(fitted);
+        });
+    }
     for (QComboBox *box : {startBox, endBox})
         box->setMinimumContentsLength(8);
     boxes->addWidget(form::buddyLabel(activityBox, QStringLiteral("&1 - Pick Activity"), central), 0, 0);
@@ -98,6 +111,12 @@ void practicePlanScrn::buildControls()
     drillList->setColumnWidths(QStringLiteral("*,90,90,*"));
     drillList->setColumnAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     drillList->setColumnAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+    // A drill is edited in place (double click, F2) and moved by drag,
+    // Ctrl+Up/Down or the move buttons.
+    for (int c = 0; c < 4; ++c)
+        drillList->setColumnType(c, qlmListBox::CellType::Editable);
+    drillList->setRowsMovable(true);
+    drillList->setToolTip(QStringLiteral("Double click or F2 edits a drill; Ctrl+Up and Ctrl+Down move it"));
     outer->addWidget(drillList, 1);
 
     auto *buttons = new QGridLayout;
@@ -111,6 +130,8 @@ void practicePlanScrn::buildControls()
     saveBtn->setToolTip(QStringLiteral("Save for future recall"));
     recallBtn = form::button(central, QStringLiteral("recallBtn"), QStringLiteral("&Recall Saved Plan"));
     closeBtn = form::button(central, QStringLiteral("closeBtn"), QStringLiteral("Close Screen"));
+    moveUpBtn = form::button(central, QStringLiteral("moveUpBtn"), QStringLiteral("Move &Up"));
+    moveDownBtn = form::button(central, QStringLiteral("moveDownBtn"), QStringLiteral("Move Dow&n"));
     buttons->addWidget(addBtn, 0, 0);
     buttons->addWidget(deleteBtn, 0, 1);
     buttons->addWidget(saveBtn, 0, 2);
@@ -119,17 +140,22 @@ void practicePlanScrn::buildControls()
     buttons->addWidget(exportBtn, 1, 1);
     buttons->addWidget(emailBtn, 1, 2);
     buttons->addWidget(closeBtn, 1, 3);
+    buttons->addWidget(moveUpBtn, 0, 4);
+    buttons->addWidget(moveDownBtn, 1, 4);
     outer->addLayout(buttons);
     setCentralWidget(central);
     resize(820, 540);
-    deleteBtn->setEnabled(false);
+    updateButtons();
 
     installPeopleMenus(
         menus(), QStringLiteral("Print Plan"), [this] { printPlan(); }, kHelpTopic);
 
     connect(activityBox, &QComboBox::currentIndexChanged, this, &practicePlanScrn::setDrillBox);
-    connect(drillList, &qlmListBox::rowSelectionChanged, this,
-            [this] { deleteBtn->setEnabled(drillList->selectedRow() >= 0); });
+    connect(drillList, &qlmListBox::rowSelectionChanged, this, &practicePlanScrn::updateButtons);
+    connect(drillList, &qlmListBox::cellEdited, this, [this](int row, int) { drillEdited(row); });
+    connect(drillList, &qlmListBox::rowMoved, this, [this] { storeOrder(); });
+    connect(moveUpBtn, &QPushButton::clicked, this, [this] { moveDrill(-1); });
+    connect(moveDownBtn, &QPushButton::clicked, this, [this] { moveDrill(1); });
     connect(addBtn, &QPushButton::clicked, this, &practicePlanScrn::addActivity);
     connect(deleteBtn, &QPushButton::clicked, this, &practicePlanScrn::deleteActivity);
     connect(printBtn, &QPushButton::clicked, this, &practicePlanScrn::printPlan);
@@ -157,10 +183,19 @@ void practicePlanScrn::setDrillBox()
     drillBox->setCurrentIndex(-1);
 }
 
+void practicePlanScrn::updateButtons()
+{
+    const int row = drillList->selectedRow();
+    deleteBtn->setEnabled(row >= 0);
+    moveUpBtn->setEnabled(row > 0);
+    moveDownBtn->setEnabled(row >= 0 && row + 1 < drillList->rowCount());
+}
+
 void practicePlanScrn::addActivity()
 {
-    const QStringList cells{drillBox->currentText(), startBox->currentText(), endBox->currentText(),
-                            coachBox->currentText()};
+    QStringList cells;
+    for (QComboBox *box : {drillBox, startBox, endBox, coachBox})
+        cells.append(schedule::PlanFile::fitField(box->currentText()));
     const qint64 id = m_plan.addActivity(cells);
     if (id < 0)
         return;
@@ -177,10 +212,58 @@ void practicePlanScrn::clearFields()
 void practicePlanScrn::deleteActivity()
 {
     const int row = drillList->selectedRow();
-    if (row < 0 || !m_plan.deleteActivity(drillList->rowTag(row).toLongLong()))
+    if (row < 0)
+        return;
+    if (gShowMsgDlog(QStringLiteral("Delete the drill \"%1\"?").arg(drillList->cell(row, 0)),
+                     QStringLiteral("It is taken out of this practice's plan."),
+                     QStringLiteral("Delete")) != platform::MsgAction)
+        return;
+    if (!m_plan.deleteActivity(drillList->rowTag(row).toLongLong()))
         return;
     drillList->removeRow(row);
     drillList->setSelectedRow(-1);
+    updateButtons();
+}
+
+void practicePlanScrn::drillEdited(int row)
+{
+    QStringList cells;
+    for (const QString &cell : drillList->rowCells(row))
+        cells.append(schedule::PlanFile::fitField(cell));
+    const qint64 id = drillList->rowTag(row).toLongLong();
+    if (!m_plan.updateActivity(id, cells)) {
+        // Refused: the row shows the drill as stored.
+        for (const schedule::DrillRow &stored : m_plan.loadData()) {
+            if (stored.planID == id)
+                cells = stored.cells();
+        }
+    }
+    for (int c = 0; c < 4; ++c) {
+        if (drillList->cell(row, c) != cells.value(c))
+            drillList->setCell(row, c, cells.value(c));
+    }
+}
+
+void practicePlanScrn::moveDrill(int step)
+{
+    const int from = drillList->selectedRow();
+    const int to = from + step;
+    if (from < 0 || to < 0 || to >= drillList->rowCount())
+        return;
+    const QString tag = drillList->rowTag(from);
+    const QStringList cells = drillList->rowCells(from);
+    drillList->removeRow(from);
+    drillList->insertRow(to, cells, tag);
+    drillList->setSelectedRow(to);
+    storeOrder();
+}
+
+void practicePlanScrn::storeOrder()
+{
+    const QList<qint64> ids = m_plan.reorder(planRows());
+    for (int r = 0; r < ids.size(); ++r)
+        drillList->setRowTag(r, QString::number(ids.at(r)));
+    updateButtons();
 }
 
 void practicePlanScrn::printPlan()
@@ -243,7 +326,19 @@ void practicePlanScrn::recallPlan()
     if (path.isEmpty())
         return;
     const QList<QStringList> rows = schedule::PracticePlan::readPlan(path).rows;
-    const QList<qint64> ids = m_plan.addRecalled(rows);
+    bool replace = false;
+    if (drillList->rowCount() > 0 && !rows.isEmpty()) {
+        const std::uint8_t choice = gShowMsgDlog(
+            QStringLiteral("This practice already has drills."),
+            QStringLiteral("Replace them with the recalled plan, or add the plan's drills after them?"),
+            QStringLiteral("Replace"), QStringLiteral("Add"));
+        if (choice == platform::MsgCancel)
+            return;
+        replace = choice == platform::MsgAction;
+    }
+    const QList<qint64> ids = m_plan.addRecalled(rows, replace);
+    if (replace && !ids.isEmpty())
+        drillList->deleteAllRows();
     for (int i = 0; i < ids.size(); ++i)
         drillList->addRow(rows.at(i), QString::number(ids.at(i)));
 }

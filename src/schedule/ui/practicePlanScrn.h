@@ -34,6 +34,8 @@ public:
     void emailPlan();
     void savePlan();
     void recallPlan();
+    // Moves the selected drill one place up (-1) or down (+1).
+    void moveDrill(int step);
 
     QLabel *txtprefs = nullptr;
     QLabel *practDateLabel = nullptr;
@@ -51,6 +53,8 @@ public:
     QPushButton *emailBtn = nullptr;
     QPushButton *saveBtn = nullptr;
     QPushButton *recallBtn = nullptr;
+    QPushButton *moveUpBtn = nullptr;
+    QPushButton *moveDownBtn = nullptr;
     QPushButton *closeBtn = nullptr;
 
 protected:
@@ -59,6 +63,9 @@ protected:
 private:
     void buildControls();
     QList<QStringList> planRows() const;
+    void drillEdited(int row);
+    void storeOrder();
+    void updateButtons();
     // The folder of the plan files; empty (the coach told) when missing.
     static QString planFolder();
 

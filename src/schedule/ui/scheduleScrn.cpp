@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -58,8 +59,15 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     printBtn = form::button(central, u"printBtn"_s, u"&Print"_s);
     exportBtn = form::button(central, u"exportBtn"_s, u"E&xport"_s);
     viewCalendarBtn = form::button(central, u"viewCalendarBtn"_s, u"&Calendar"_s);
+    sortBtn = form::button(central, u"sortBtn"_s, u"&Sort by Date"_s);
     outer->addLayout(form::row({newEventBtn, editBtn, deleteEvBtn, enterDataBtn}));
-    outer->addLayout(form::row({printBtn, exportBtn, viewCalendarBtn, nullptr}));
+    outer->addLayout(form::row({printBtn, exportBtn, viewCalendarBtn, sortBtn}));
+    // Close, or Escape anywhere in the window.
+    closeBtn = form::button(central, u"closeBtn"_s, u"Close"_s);
+    outer->addLayout(form::row({nullptr, closeBtn}));
+    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, &QWidget::close);
+    connect(closeBtn, &QPushButton::clicked, this, &QWidget::close);
     setCentralWidget(central);
 
     editBtn->setEnabled(false);
@@ -75,6 +83,11 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     connect(newEventBtn, &QPushButton::clicked, this, &scheduleScrn::newEventBtn_Action);
     connect(editBtn, &QPushButton::clicked, this, &scheduleScrn::hndlEditItem);
     connect(deleteEvBtn, &QPushButton::clicked, this, &scheduleScrn::deleteEvent);
+    connect(sortBtn, &QPushButton::clicked, this, [this] {
+        const qint64 selected = selectedID();
+        m_schedule.sortByDate();
+        showRows(selected);
+    });
     connect(printBtn, &QPushButton::clicked, this, &scheduleScrn::doPrintSchedule);
     connect(exportBtn, &QPushButton::clicked, this, &scheduleScrn::exportSchedule);
     connect(enterDataBtn, &QPushButton::clicked, this, [this] {
@@ -194,11 +207,10 @@ void scheduleScrn::addNewItem(const eventClass &event)
     const qint64 id = m_schedule.addNewItem(event);
     if (id < 0)
         return;
-    const ScheduleEntry &entry = m_schedule.rows().last();
-    const int row = ScheduleListbox->addRow(ScheduleList::cells(entry), QString::number(id));
-    ScheduleListbox->setCellTag(row, 4, entry.event.oppID);
-    ScheduleListbox->setSelectedRow(row);
-    ScheduleListbox->scrollTo(ScheduleListbox->model()->index(row, 0));
+    showRows(id);
+    const int row = ScheduleListbox->selectedRow();
+    if (row >= 0)
+        ScheduleListbox->scrollTo(ScheduleListbox->model()->index(row, 0));
 }
 
 void scheduleScrn::editEventItem(qint64 eventID, const eventClass &event)

@@ -34,6 +34,7 @@ public:
     ScheduleList &schedule() { return m_schedule; }
 
     qlmListBox *ScheduleListbox = nullptr;
+    QPushButton *sortBtn = nullptr;
     QComboBox *filterPop = nullptr;
     QLineEdit *homeTeamFld = nullptr;
     QPushButton *newEventBtn = nullptr;
@@ -43,6 +44,7 @@ public:
     QPushButton *printBtn = nullptr;
     QPushButton *exportBtn = nullptr;
     QPushButton *viewCalendarBtn = nullptr;
+    QPushButton *closeBtn = nullptr;
     QLabel *schedIDLabel = nullptr;
     MainMenuBar *menuBar() const { return menus(); }
 

@@ -130,7 +130,11 @@ TransferDataScrn::TransferDataScrn(QWidget *parent)
     addBtn->setEnabled(false);
     removeBtn->setEnabled(false);
 
-    connect(newActionBtn, &QButtonGroup::idClicked, this, &TransferDataScrn::newActionBtn_Action);
+    // On the choice as made, by click, key or a screen reader's action.
+    connect(newActionBtn, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+        if (checked)
+            newActionBtn_Action(id);
+    });
     connect(createBtn, &QPushButton::clicked, this, [this] {
         if (createNewDB())
             close();

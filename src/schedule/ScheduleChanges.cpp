@@ -1,0 +1,7 @@
+#include "schedule/ScheduleChanges.h"
+
+ScheduleChanges &ScheduleChanges::instance()
+{
+    static ScheduleChanges changes;
+    return changes;
+}

@@ -10,7 +10,11 @@
 #include "reports/ui/reportIntroScrn.h"
 #include "reports/ui/reportScrn.h"
 
+#include "help/Abbreviations.h"
+#include "stats/SacrificeFlies.h"
+
 #include <QAction>
+#include <QComboBox>
 #include <QFile>
 #include <QTest>
 
@@ -20,6 +24,16 @@ QByteArray readAll(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// "AB=10 B1=2" as figures in seasonColumns() order.
+QList<double> figuresOf(reports::ReportKind kind, const QString &text)
+{
+    const QStringList &columns = reports::seasonColumns(kind);
+    QList<double> out(columns.size(), 0.0);
+    for (const QString &pair : text.split(u' ', Qt::SkipEmptyParts))
+        out[columns.indexOf(pair.section(u'=', 0, 0))] = pair.section(u'=', 1).toDouble();
+    return out;
 }
 
 QByteArray golden(const QString &name)
@@ -53,6 +67,96 @@ private Q_SLOTS:
         QCOMPARE(written.count("\n"), written.count("\r\n"));
         QCOMPARE(f.platform.messages.shown.size(), shownBefore);
         delete intro;
+    }
+
+    // Each rate worked out by hand. The batter: 4 hits (2 singles, a double,
+    // a home run: 8 bases) in 10 at bats, 2 walks and 1 intentional, hit
+    // once, 2 sacrifices of which 1 a fly, 3 strikeouts; 16 times up.
+    // The pitcher: 6 2/3 innings, 5 hits, 3 walks, 8 strikeouts, 28
+    // batters, one hit, 60 strikes in 100 pitches.
+    void rates_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("figures");
+        QTest::addColumn<double>("sf");
+        QTest::addColumn<QString>("rate");
+        QTest::addColumn<double>("expected");
+        const QString batter = "AB=10 B1=2 B2=1 HR=1 BB=2 IBB=1 HBP=1 SAC=2 KS=2 KL=1";
+        QTest::newRow("OBP2") << 0 << batter << 1.0 << "OBP2" << 8.0 / 15;
+        QTest::newRow("OBP2 without flies") << 0 << batter << 0.0 << "OBP2" << 8.0 / 14;
+        QTest::newRow("OPS") << 0 << batter << 1.0 << "OPS" << 8.0 / 15 + 0.8;
+        QTest::newRow("ISO") << 0 << batter << 1.0 << "ISO" << 0.4;
+        QTest::newRow("BABIP") << 0 << batter << 1.0 << "BABIP" << 3.0 / 7;
+        QTest::newRow("K%") << 0 << batter << 1.0 << "K%" << 18.75;
+        QTest::newRow("BB%") << 0 << batter << 1.0 << "BB%" << 18.75;
+        for (const char *rate : {"OBP2", "OPS", "ISO", "BABIP", "K%", "BB%"})
+            QTest::addRow("%s, no at bat", rate) << 0 << "" << 0.0 << rate << 0.0;
+        const QString pitcher = "IP=62 Hits=5 BB=2 IBB=1 Kouts=8 BF=28 HitB=1 Ks=60 PitCt=100";
+        QTest::newRow("WHIP") << 2 << pitcher << 0.0 << "WHIP" << 1.2;
+        QTest::newRow("K/9") << 2 << pitcher << 0.0 << "K/9" << 10.8;
+        QTest::newRow("BB/9") << 2 << pitcher << 0.0 << "BB/9" << 4.05;
+        QTest::newRow("H/9") << 2 << pitcher << 0.0 << "H/9" << 6.75;
+        QTest::newRow("K/BB") << 2 << pitcher << 0.0 << "K/BB" << 8.0 / 3;
+        QTest::newRow("OAvg") << 2 << pitcher << 0.0 << "OAvg" << 5.0 / 24;
+        QTest::newRow("Str%") << 2 << pitcher << 0.0 << "Str%" << 60.0;
+        QTest::newRow("P/IP") << 2 << pitcher << 0.0 << "P/IP" << 15.0;
+        for (const char *rate : {"WHIP", "K/9", "BB/9", "H/9", "K/BB", "OAvg", "Str%", "P/IP"})
+            QTest::addRow("%s, no inning", rate) << 2 << "" << 0.0 << rate << 0.0;
+        QTest::newRow("K/BB, no walk") << 2 << "IP=10 Kouts=3" << 0.0 << "K/BB" << 0.0;
+        QTest::newRow("FPct2") << 1 << "CH=20 PO=10 Asst=5 FE=1 TE=1" << 0.0 << "FPct2" << 15.0 / 17;
+        QTest::newRow("FPct2, no chance") << 1 << "" << 0.0 << "FPct2" << 0.0;
+    }
+    void rates()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, figures);
+        QFETCH(double, sf);
+        QFETCH(QString, rate);
+        QFETCH(double, expected);
+        const auto k = reports::ReportKind(kind);
+        const QList<reports::RateColumn> &columns = reports::moreColumns(k);
+        qsizetype at = -1;
+        for (qsizetype i = 0; i < columns.size(); ++i) {
+            if (columns.at(i).key == rate)
+                at = i;
+        }
+        QVERIFY(at >= 0);
+        QVERIFY(qAbs(reports::moreRates(k, figuresOf(k, figures), sf).at(at) - expected) < 1e-9);
+        // The abbreviations list gives the same formula.
+        const int row = help::findAbbreviation(rate);
+        QVERIFY(row >= 0);
+        QVERIFY2(help::abbreviationRows().at(row).second.endsWith(u" = " + columns.at(at).formula), qPrintable(rate));
+    }
+
+    // The report screen's "More" set: the rates of the same lines, the
+    // recorded sacrifice flies in the official on-base figure.
+    void moreColumnSet()
+    {
+        ReportsFixture f;
+        const qint64 team = f.addTeam(QStringLiteral("Eagles"));
+        const qint64 player = f.addPlayer(team, QStringLiteral("Al"), QStringLiteral("Ames"));
+        f.addSeasonRow(QStringLiteral("Hitting"), player, team,
+                       {{"AB", 10},
+                        {"B1", 2},
+                        {"B2", 1},
+                        {"HR", 1},
+                        {"BB", 2},
+                        {"IBB", 1},
+                        {"HBP", 1},
+                        {"SAC", 2},
+                        {"KS", 2},
+                        {"KL", 1}});
+        stats::addSacrificeFlies(*f.db->tlynData, {{player, 1}});
+        auto *report = new reportScrn(0, {"First Name", "Last Name", "AB", "Avg", "OBP", "SP"});
+        report->columnSetPop->setCurrentIndex(1);
+        QCOMPARE(report->reportBox->headings(),
+                 (QStringList{"First Name", "Last Name", "OBP2", "OPS", "ISO", "BABIP", "K%", "BB%"}));
+        QCOMPARE(report->reportBox->rowCells(0),
+                 (QStringList{"Al", "Ames", ".533", "1.333", ".400", ".429", "18.8", "18.8"}));
+        report->columnSetPop->setCurrentIndex(0);
+        QCOMPARE(report->reportBox->headings(), (QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP"}));
+        QCOMPARE(report->reportBox->rowCells(0), (QStringList{"Al", "Ames", "10", ".400", ".467", ".800"}));
+        delete report;
     }
 
     void csvField_data()

@@ -11,6 +11,7 @@
 #include "reports/ui/reportScrn.h"
 
 #include "help/Abbreviations.h"
+#include "stats/BoxScore.h"
 #include "stats/SacrificeFlies.h"
 
 #include <QAction>
@@ -157,6 +158,21 @@ private Q_SLOTS:
         QCOMPARE(report->reportBox->headings(), (QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP"}));
         QCOMPARE(report->reportBox->rowCells(0), (QStringList{"Al", "Ames", "10", ".400", ".467", ".800"}));
         delete report;
+    }
+
+    // The first game of the sample season, recorded: its box score as text
+    // and its rows for a statistics site.
+    void boxScoreMatchesGoldenText()
+    {
+        ReportsFixture f;
+        const QList<sample::PlayedGame> played = sample::buildSeason(*f.db, *f.prefs, 1);
+        QCOMPARE(played.size(), 1);
+        const std::optional<stats::BoxScore> box = stats::BoxScore::read(*f.db, played.first().schedID);
+        QVERIFY(box);
+        QCOMPARE(box->teams[0].runs, played.first().runsA);
+        QCOMPARE(box->teams[1].runs, played.first().runsB);
+        QCOMPARE(box->text().toUtf8(), golden(QStringLiteral("box_score.txt")));
+        QCOMPARE(box->pipeRows().toUtf8(), golden(QStringLiteral("box_score_rows.txt")));
     }
 
     void csvField_data()

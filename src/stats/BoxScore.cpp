@@ -6,6 +6,13 @@
 #include "stats/GameRecorder.h"
 #include "stats/dataAggregator.h"
 
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+
 #include <algorithm>
 
 namespace stats {
@@ -273,6 +280,53 @@ QString BoxScore::pipeRows() const
         }
     }
     return out;
+}
+
+void paintOnePage(QPainter &painter, const QRectF &area, const QString &text)
+{
+    const QStringList lines = text.split(u'\n');
+    // The painter's unit is the point: the size is set in those units (as a
+    // pixel size) and made smaller until the widest line and every line fit.
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    int size = 10;
+    for (; size > 4; --size) {
+        font.setPixelSize(size);
+        const QFontMetricsF metrics(font);
+        qreal widest = 0;
+        for (const QString &line : lines)
+            widest = std::max(widest, metrics.horizontalAdvance(line));
+        if (widest <= area.width() && metrics.lineSpacing() * lines.size() <= area.height())
+            break;
+    }
+    font.setPixelSize(size);
+    painter.save();
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    const QFontMetricsF metrics(font);
+    qreal y = area.top() + metrics.ascent();
+    for (const QString &line : lines) {
+        painter.drawText(QPointF(area.left(), y), line);
+        y += metrics.lineSpacing();
+    }
+    painter.restore();
+}
+
+bool writeOnePagePdf(const QString &path, const QString &title, const QString &text)
+{
+    QPdfWriter pdf(path);
+    pdf.setTitle(title);
+    pdf.setCreator(QStringLiteral("Tallyline Baseball"));
+    pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(36, 36, 36, 36),
+                                  QPageLayout::Point));
+    QPainter painter;
+    if (!painter.begin(&pdf))
+        return false;
+    // Painted in points, from the corner of the printable area.
+    const qreal scale = pdf.resolution() / 72.0;
+    painter.scale(scale, scale);
+    const QRectF area(0, 0, 612 - 72, 792 - 72);
+    paintOnePage(painter, area, text);
+    return painter.end();
 }
 
 } // namespace stats

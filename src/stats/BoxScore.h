@@ -15,6 +15,8 @@
 #include <array>
 #include <optional>
 
+class QPainter;
+class QRectF;
 class myDB;
 
 namespace stats {
@@ -65,5 +67,11 @@ public:
 
     int inningsShown() const;
 };
+
+// Draws `text` in a fixed-pitch face as large as fits `area` (at most 10
+// points), on one page.
+void paintOnePage(QPainter &painter, const QRectF &area, const QString &text);
+// Writes `text` as a one-page PDF on Letter paper with half-inch margins.
+bool writeOnePagePdf(const QString &path, const QString &title, const QString &text);
 
 } // namespace stats

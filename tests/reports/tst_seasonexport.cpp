@@ -10,13 +10,17 @@
 #include "reports/ui/reportIntroScrn.h"
 #include "reports/ui/reportScrn.h"
 
+#include "fakes/TestSupport.h"
 #include "help/Abbreviations.h"
 #include "stats/BoxScore.h"
 #include "stats/SacrificeFlies.h"
+#include "stats/ui/boxScoreScrn.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QFile>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
 
 namespace {
@@ -160,9 +164,10 @@ private Q_SLOTS:
         delete report;
     }
 
-    // The first game of the sample season, recorded: its box score as text
-    // and its rows for a statistics site.
-    void boxScoreMatchesGoldenText()
+    // The first game of the sample season, recorded: its box score shown,
+    // saved as text and PDF, printed on one page, and its rows for a
+    // statistics site.
+    void boxScore()
     {
         ReportsFixture f;
         const QList<sample::PlayedGame> played = sample::buildSeason(*f.db, *f.prefs, 1);
@@ -171,8 +176,29 @@ private Q_SLOTS:
         QVERIFY(box);
         QCOMPARE(box->teams[0].runs, played.first().runsA);
         QCOMPARE(box->teams[1].runs, played.first().runsB);
-        QCOMPARE(box->text().toUtf8(), golden(QStringLiteral("box_score.txt")));
-        QCOMPARE(box->pipeRows().toUtf8(), golden(QStringLiteral("box_score_rows.txt")));
+
+        const qsizetype shownBefore = f.platform.messages.shown.size();
+        auto *screen = new boxScoreScrn(played.first().schedID);
+        const QByteArray text = golden(QStringLiteral("box_score.txt"));
+        QCOMPARE(screen->boxText->toPlainText().toUtf8(), text);
+        const QString base = f.home.filePath(QStringLiteral("box"));
+        f.platform.files.answers.enqueue(base + QStringLiteral("-text"));
+        QTest::mouseClick(screen->textBtn, Qt::LeftButton);
+        QCOMPARE(readAll(base + QStringLiteral("-text.txt")), text);
+        f.platform.files.answers.enqueue(base + QStringLiteral("-rows.txt"));
+        QTest::mouseClick(screen->rowsBtn, Qt::LeftButton);
+        QCOMPARE(readAll(base + QStringLiteral("-rows.txt")), golden(QStringLiteral("box_score_rows.txt")));
+
+        f.platform.files.answers.enqueue(base + QStringLiteral(".pdf"));
+        QTest::mouseClick(screen->pdfBtn, Qt::LeftButton);
+        QCOMPARE(fakes::pdfPageCount(base + QStringLiteral(".pdf")), 1);
+        QVERIFY(fakes::pdfText(base + QStringLiteral(".pdf")).contains(QStringLiteral("Kowalski, Noah")));
+        QTest::mouseClick(screen->printBtn, Qt::LeftButton);
+        QCOMPARE(f.platform.printing.printed.size(), 1);
+        QCOMPARE(fakes::pdfPageCount(f.platform.printing.printed.first()), 1);
+        QVERIFY(fakes::pdfText(f.platform.printing.printed.first()).contains(QStringLiteral("Moreno, Isaac")));
+        QCOMPARE(f.platform.messages.shown.size(), shownBefore);
+        delete screen;
     }
 
     void csvField_data()

@@ -12,6 +12,9 @@
 
 #include "fakes/TestSupport.h"
 #include "help/Abbreviations.h"
+#include "schedule/CalendarFile.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/ui/scheduleScrn.h"
 #include "stats/BoxScore.h"
 #include "stats/SacrificeFlies.h"
 #include "stats/ui/boxScoreScrn.h"
@@ -198,6 +201,56 @@ private Q_SLOTS:
         QCOMPARE(fakes::pdfPageCount(f.platform.printing.printed.first()), 1);
         QVERIFY(fakes::pdfText(f.platform.printing.printed.first()).contains(QStringLiteral("Moreno, Isaac")));
         QCOMPARE(f.platform.messages.shown.size(), shownBefore);
+        delete screen;
+    }
+
+    // The sample season's schedule from the schedule's File > Export
+    // Calendar..., read back through libical; a second export after a
+    // change keeps every event's id.
+    void calendarFile()
+    {
+        ReportsFixture f;
+        sample::buildSeason(*f.db, *f.prefs, 0);
+        f.prefs->prSeason = QStringLiteral("2026");
+        f.platform.clock.time = QDateTime(QDate(2026, 4, 15), QTime(10, 30), Qt::UTC);
+        const QList<ScheduleEntry> schedule = ScheduleStore(*f.db).list(ScheduleStore::kShowAll);
+        auto *screen = new scheduleScrn;
+        const QString path = f.home.filePath(QStringLiteral("season"));
+        f.platform.files.answers.enqueue(path);
+        screen->menus()->item(QStringLiteral("FileExportCalendar"))->trigger();
+        const QByteArray written = readAll(path + QStringLiteral(".ics"));
+        QCOMPARE(written, golden(QStringLiteral("season.ics")));
+
+        const QList<schedule::CalendarEvent> events = schedule::readCalendar(written);
+        QCOMPARE(events.size(), schedule.size());
+        for (qsizetype i = 0; i < events.size(); ++i) {
+            const eventClass &e = schedule.at(i).event;
+            const schedule::CalendarEvent &read = events.at(i);
+            QCOMPARE(read.day, e.mDate);
+            QCOMPARE(read.location, e.location);
+            const QTime start = schedule::storedTime(e.startTime);
+            QCOMPARE(read.allDay, !start.isValid());
+            if (start.isValid())
+                QCOMPARE(read.start, QDateTime(e.mDate, start));
+            const QTime bus = schedule::storedTime(e.busTime);
+            QCOMPARE(read.alarm, bus.isValid() ? QDateTime(e.mDate, bus) : QDateTime());
+            if (e.isHome == 1)
+                QVERIFY2(read.summary.contains(QStringLiteral(" vs ") + e.opponent), qPrintable(read.summary));
+            if (e.isHome == 2)
+                QVERIFY2(read.summary.contains(QStringLiteral(" at ") + e.opponent), qPrintable(read.summary));
+        }
+
+        // The first event moves to another day: same id, new date.
+        eventClass moved = schedule.first().event;
+        moved.mDate = moved.mDate.addDays(1);
+        QVERIFY(ScheduleStore(*f.db).update(schedule.first().eventID, moved));
+        f.platform.files.answers.enqueue(path + QStringLiteral("-2.ics"));
+        screen->menus()->item(QStringLiteral("FileExportCalendar"))->trigger();
+        const QList<schedule::CalendarEvent> again = schedule::readCalendar(readAll(path + QStringLiteral("-2.ics")));
+        QCOMPARE(again.size(), events.size());
+        for (qsizetype i = 0; i < again.size(); ++i)
+            QCOMPARE(again.at(i).uid, events.at(i).uid);
+        QCOMPARE(again.first().day, moved.mDate);
         delete screen;
     }
 

@@ -7,6 +7,7 @@
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/startScrn1.h"
 #include "reports/ui/qlmListBox.h"
+#include "schedule/ui/CalendarExport.h"
 #include "schedule/ui/newEventScrn.h"
 
 #include <QCloseEvent>
@@ -107,6 +108,10 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     });
     menus()->installHandler(QStringLiteral("FileExport"), [this] {
         exportSchedule();
+        return true;
+    });
+    menus()->installHandler(QStringLiteral("FileExportCalendar"), [] {
+        schedule::exportCalendar();
         return true;
     });
     menus()->installPrinterSetup();

@@ -4,6 +4,7 @@
 #include "app/myDictionaries.h"
 #include "reports/ModernRates.h"
 #include "reports/SeasonReport.h"
+#include "support/CsvText.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -12,36 +13,7 @@
 
 namespace reports {
 
-namespace csv {
-
-QString field(const QString &text)
-{
-    bool quote = !text.isEmpty() && (text.front().isSpace() || text.back().isSpace());
-    for (const QChar c : text) {
-        if (c == u',' || c == u'"' || c == u'\r' || c == u'\n') {
-            quote = true;
-            break;
-        }
-    }
-    if (!quote)
-        return text;
-    QString out = text;
-    out.replace(QStringLiteral("\""), QStringLiteral("\"\""));
-    return u'"' + out + u'"';
-}
-
-QString line(const QStringList &fields)
-{
-    QString out;
-    for (qsizetype i = 0; i < fields.size(); ++i) {
-        if (i > 0)
-            out += u',';
-        out += field(fields.at(i));
-    }
-    return out + QStringLiteral("\r\n");
-}
-
-} // namespace csv
+namespace csv = support::csv;
 
 QHash<qint64, double> sacrificeFlies(myDB &db)
 {

@@ -11,14 +11,6 @@ class myDB;
 
 namespace reports {
 
-// Comma-separated text as spreadsheets read it: a field holding a comma, a
-// quote, a line end or an outer blank is quoted, with its quotes doubled;
-// every line ends in CR LF; the text is UTF-8.
-namespace csv {
-QString field(const QString &text);
-QString line(const QStringList &fields);
-} // namespace csv
-
 // The season's sacrifice flies by player (table "SacFlies"; none before a
 // first sacrifice fly is recorded). Empty when the table isn't there.
 QHash<qint64, double> sacrificeFlies(myDB &db);

@@ -18,6 +18,7 @@
 #include "stats/BoxScore.h"
 #include "stats/SacrificeFlies.h"
 #include "stats/ui/boxScoreScrn.h"
+#include "support/CsvText.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -279,8 +280,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(QString, field);
-        QCOMPARE(reports::csv::field(text), field);
-        QCOMPARE(reports::csv::line({text, QStringLiteral("1")}), field + QStringLiteral(",1\r\n"));
+        QCOMPARE(support::csv::field(text), field);
+        QCOMPARE(support::csv::line({text, QStringLiteral("1")}), field + QStringLiteral(",1\r\n"));
     }
 
     // A report's own rows, exported under a ".csv" name.

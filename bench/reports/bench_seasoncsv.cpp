@@ -1,12 +1,10 @@
 // What the season's CSV export costs for 5,000 players, against the
 // leanest fair baseline: the sqlite3 shell writing the same rows of the
 // same joins with -csv. Both run as processes on the same file, round by
-// round in turn; the medians and their ratio are printed. This program is
-// its own exporting process when started as
-//   bench_seasoncsv --export <folder> <season> <file>
+// round in turn (the export as bench_seasoncsv_export); the medians and
+// their ratio are printed.
 
 #include "app/myDB.h"
-#include "app/myDictionaries.h"
 #include "fakes/FakePlatform.h"
 #include "reports/SeasonCsv.h"
 #include "reports/StatReporters.h"
@@ -16,6 +14,7 @@
 #include <SQLiteCpp/Transaction.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -24,13 +23,12 @@
 #include <QTest>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
 constexpr int kPlayers = 5000;
 constexpr int kTeams = 200;
-constexpr int kRounds = 9;
+constexpr int kRounds = 15;
 
 double median(std::vector<double> v)
 {
@@ -54,18 +52,10 @@ QString baselineSql()
     return sql;
 }
 
-int exportProcess(const QString &folder, const QString &season, const QString &file)
+// The exporting process, built beside this benchmark.
+QString exporterPath()
 {
-    fakes::FakePlatform fake;
-    myDictionaries::initHitting();
-    myDictionaries::initFielding();
-    myDictionaries::initPitching();
-    myDB db(folder, season);
-    QFile out(file);
-    if (!out.open(QIODevice::WriteOnly))
-        return 2;
-    const QByteArray text = reports::seasonCsv(db);
-    return out.write(text) == text.size() && !text.isEmpty() ? 0 : 1;
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/bench_seasoncsv_export");
 }
 
 } // namespace
@@ -80,6 +70,8 @@ class BenchSeasonCsv : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        // TL_BENCH_KEEP keeps the season, to profile one export by hand.
+        m_home.setAutoRemove(qEnvironmentVariableIsEmpty("TL_BENCH_KEEP"));
         if (QStandardPaths::findExecutable(QStringLiteral("sqlite3")).isEmpty())
             QSKIP("the sqlite3 shell isn't installed (tools/bootstrap installs it)");
         fakes::FakePlatform fake;
@@ -132,9 +124,7 @@ private Q_SLOTS:
             QElapsedTimer timer;
             timer.start();
             QProcess exporter;
-            exporter.start(QCoreApplication::applicationFilePath(),
-                           {QStringLiteral("--export"), m_home.path(), QStringLiteral("bench"),
-                            m_home.filePath(QStringLiteral("ours.csv"))});
+            exporter.start(exporterPath(), {m_file, m_home.filePath(QStringLiteral("ours.csv"))});
             QVERIFY(exporter.waitForFinished(60000));
             QCOMPARE(exporter.exitCode(), 0);
             ours.push_back(double(timer.nsecsElapsed()) / 1e6);
@@ -156,16 +146,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    if (argc == 5 && std::strcmp(argv[1], "--export") == 0) {
-        QCoreApplication app(argc, argv);
-        return exportProcess(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]),
-                             QString::fromLocal8Bit(argv[4]));
-    }
-    QCoreApplication app(argc, argv);
-    BenchSeasonCsv bench;
-    return QTest::qExec(&bench, argc, argv);
-}
-
+QTEST_MAIN(BenchSeasonCsv)
 #include "bench_seasoncsv.moc"

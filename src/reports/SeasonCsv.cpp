@@ -1,5 +1,6 @@
 #include "reports/SeasonCsv.h"
 
+#include "app/globals.h"
 #include "app/myDB.h"
 #include "app/myDictionaries.h"
 #include "reports/ModernRates.h"
@@ -9,6 +10,7 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 
+#include <charconv>
 #include <cmath>
 
 namespace reports {
@@ -17,10 +19,15 @@ namespace csv = support::csv;
 
 QHash<qint64, double> sacrificeFlies(myDB &db)
 {
+    return db.isConnected() ? sacrificeFlies(*db.tlynData) : QHash<qint64, double>{};
+}
+
+QHash<qint64, double> sacrificeFlies(SQLite::Database &db)
+{
     QHash<qint64, double> out;
-    if (!db.isConnected() || !db.tlynData->tableExists("SacFlies"))
+    if (!db.tableExists("SacFlies"))
         return out;
-    SQLite::Statement query(*db.tlynData, "SELECT playerID, SF FROM SacFlies");
+    SQLite::Statement query(db, "SELECT playerID, SF FROM SacFlies");
     while (query.executeStep())
         out.insert(query.getColumn(0).getInt64(), query.getColumn(1).getDouble());
     return out;
@@ -32,16 +39,6 @@ int decimalsOf(const QString &mask)
 {
     const qsizetype point = mask.indexOf(u'.');
     return point < 0 ? 0 : int(mask.size() - point - 1);
-}
-
-QString rate(double value, int decimals)
-{
-    return QString::number(value, 'f', decimals);
-}
-
-QString count(double value)
-{
-    return QString::number(static_cast<qint64>(std::llround(value)));
 }
 
 // The heading of stored figure `index`: its dictionary key (a user-defined
@@ -64,7 +61,50 @@ struct Line
 };
 
 // The report's own derived figures: Avg, OBP, SP; ERA; FPct.
-QStringList ownRates(ReportKind kind, const QList<double> &f)
+// Appends one line's fields as CSV bytes: text through csv::field, numbers
+// straight from their digits (a number never needs quotes).
+class LineWriter
+{
+public:
+    explicit LineWriter(QByteArray &out) : m_out(out) {}
+    void text(const QString &value)
+    {
+        separate();
+        m_out += csv::field(value).toUtf8();
+    }
+    void whole(double value)
+    {
+        separate();
+        char buffer[32];
+        const auto end = std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(std::llround(value)));
+        m_out.append(buffer, end.ptr - buffer);
+    }
+    void fixed(double value, int decimals)
+    {
+        separate();
+        char buffer[64];
+        const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+        m_out.append(buffer, end.ptr - buffer);
+    }
+    void end()
+    {
+        m_out += "\r\n";
+        m_first = true;
+    }
+
+private:
+    void separate()
+    {
+        if (!m_first)
+            m_out += ',';
+        m_first = false;
+    }
+    QByteArray &m_out;
+    bool m_first = true;
+};
+
+// The report's own derived figures: Avg, OBP, SP; ERA; FPct.
+void ownRates(LineWriter &w, ReportKind kind, const QList<double> &f)
 {
     SeasonRow row;
     row.hasPlayer = true;
@@ -72,14 +112,18 @@ QStringList ownRates(ReportKind kind, const QList<double> &f)
     switch (kind) {
     case Batting: {
         const hitReporter r(row);
-        return {rate(r.Avg, 3), rate(r.OBP, 3), rate(r.SPct, 3)};
+        w.fixed(r.Avg, 3);
+        w.fixed(r.OBP, 3);
+        w.fixed(r.SPct, 3);
+        return;
     }
     case Fielding:
-        return {rate(fldReporter(row).fldPct, 3)};
+        w.fixed(fldReporter(row).fldPct, 3);
+        return;
     case Pitching:
         break;
     }
-    return {rate(pitchReporter(row).ERA, 2)};
+    w.fixed(pitchReporter(row).ERA, 2);
 }
 
 QStringList ownRateHeadings(ReportKind kind)
@@ -95,26 +139,31 @@ QStringList ownRateHeadings(ReportKind kind)
     return {QStringLiteral("ERA")};
 }
 
-QStringList cells(ReportKind kind, const Line &l)
+void writeLine(QByteArray &out, ReportKind kind, const Line &l)
 {
-    QStringList out{l.number, l.last, l.first, l.team};
+    LineWriter w(out);
+    w.text(l.number);
+    w.text(l.last);
+    w.text(l.first);
+    w.text(l.team);
     for (qsizetype i = 0; i < l.figures.size(); ++i) {
         if (kind == Pitching && i == 10)
-            out.append(rate(l.figures[i] / 10.0, 1));
+            w.fixed(l.figures[i] / 10.0, 1);
         else
-            out.append(count(l.figures[i]));
+            w.whole(l.figures[i]);
         if (kind == Batting && i == 8) // SF right after SAC, which holds it
-            out.append(count(l.sf));
+            w.whole(l.sf);
     }
-    out += ownRates(kind, l.figures);
+    ownRates(w, kind, l.figures);
     const QList<RateColumn> &more = moreColumns(kind);
     const QList<double> values = moreRates(kind, l.figures, l.sf);
     for (qsizetype i = 0; i < more.size(); ++i)
-        out.append(rate(values[i], decimalsOf(more[i].mask)));
-    return out;
+        w.fixed(values[i], decimalsOf(more[i].mask));
+    w.end();
 }
 
-bool section(myDB &db, ReportKind kind, const QHash<qint64, double> &flies, QString &out)
+// Throws on a database error.
+void section(SQLite::Database &db, ReportKind kind, const QHash<qint64, double> &flies, QByteArray &out)
 {
     const QStringList &columns = seasonColumns(kind);
     QString sql = QStringLiteral("SELECT s.playerID, p.playerID IS NOT NULL, p.UniNum, p.Last, p.First, t.TeamName");
@@ -149,15 +198,15 @@ bool section(myDB &db, ReportKind kind, const QHash<qint64, double> &flies, QStr
         title = QStringLiteral("Pitching");
         break;
     }
-    out += csv::line({title});
-    out += csv::line(headings);
+    out += csv::line({title}).toUtf8();
+    out += csv::line(headings).toUtf8();
 
     Line totals;
     totals.last = QStringLiteral("Totals");
     totals.figures.resize(columns.size());
     qint64 thirds = 0;
-    try {
-        SQLite::Statement query(*db.tlynData, sql.toStdString());
+    {
+        SQLite::Statement query(db, sql.toStdString());
         Line l;
         l.figures.resize(columns.size());
         const auto text = [&query](int column) {
@@ -181,33 +230,40 @@ bool section(myDB &db, ReportKind kind, const QHash<qint64, double> &flies, QStr
             }
             l.sf = kind == Batting ? flies.value(player) : 0;
             totals.sf += l.sf;
-            out += csv::line(cells(kind, l));
+            writeLine(out, kind, l);
         }
-    } catch (const SQLite::Exception &) {
-        db.select(sql); // shows the error as every statement does
-        return false;
     }
     if (kind == Pitching)
         totals.figures[10] = inningsCode(thirds);
-    out += csv::line(cells(kind, totals));
-    return true;
+    writeLine(out, kind, totals);
 }
 
 } // namespace
+
+QByteArray seasonCsv(SQLite::Database &db)
+{
+    QByteArray out;
+    out.reserve(256 * 1024);
+    const QHash<qint64, double> flies = sacrificeFlies(db);
+    for (ReportKind kind : {Batting, Pitching, Fielding}) {
+        if (!out.isEmpty())
+            out += "\r\n";
+        section(db, kind, flies, out);
+    }
+    return out;
+}
 
 QByteArray seasonCsv(myDB &db)
 {
     if (!db.isConnected())
         return {};
-    QString out;
-    const QHash<qint64, double> flies = sacrificeFlies(db);
-    for (ReportKind kind : {Batting, Pitching, Fielding}) {
-        if (!out.isEmpty())
-            out += QStringLiteral("\r\n");
-        if (!section(db, kind, flies, out))
-            return {};
+    try {
+        return seasonCsv(*db.tlynData);
+    } catch (const SQLite::Exception &e) {
+        gShowMsgDlog(QStringLiteral("The season's statistics couldn't be read."), QString::fromUtf8(e.what()),
+                     QStringLiteral("OK"));
+        return {};
     }
-    return out.toUtf8();
 }
 
 QByteArray rowsCsv(const QStringList &headings, const QList<QStringList> &rows)

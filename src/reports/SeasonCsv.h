@@ -8,12 +8,16 @@
 #include <QStringList>
 
 class myDB;
+namespace SQLite {
+class Database;
+}
 
 namespace reports {
 
 // The season's sacrifice flies by player (table "SacFlies"; none before a
 // first sacrifice fly is recorded). Empty when the table isn't there.
 QHash<qint64, double> sacrificeFlies(myDB &db);
+QHash<qint64, double> sacrificeFlies(SQLite::Database &db);
 
 // The whole season as one CSV file: the "Batting", "Pitching" and
 // "Fielding" sections, each its title line, a heading line, a line per
@@ -24,6 +28,8 @@ QHash<qint64, double> sacrificeFlies(myDB &db);
 // 6.2 for 6 2/3, rates have the decimals the report shows. Empty on a
 // database error (the error has been shown).
 QByteArray seasonCsv(myDB &db);
+// The same on a plain connection; throws on a database error.
+QByteArray seasonCsv(SQLite::Database &db);
 
 // A list's heading and rows as CSV (the report export's CSV form).
 QByteArray rowsCsv(const QStringList &headings, const QList<QStringList> &rows);

@@ -22,6 +22,9 @@ QString field(const QString &text)
 
 QString line(const QStringList &fields)
 {
+    // A lone empty field is quoted, or the line would read as a blank one.
+    if (fields.size() == 1 && fields.first().isEmpty())
+        return QStringLiteral("\"\"\r\n");
     QString out;
     for (qsizetype i = 0; i < fields.size(); ++i) {
         if (i > 0)

@@ -255,6 +255,68 @@ private Q_SLOTS:
         delete screen;
     }
 
+    // Events the sample season doesn't have, written and read back.
+    void calendarEvents_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("bus");
+        QTest::addColumn<QString>("opponent");
+        QTest::addColumn<int>("home");
+        QTest::addColumn<QString>("summary");
+        QTest::addColumn<QString>("alarm"); // "" none
+        QTest::newRow("no start time: the whole day, the bus alarm at its time") << "Practice"
+                                                                                 << "---"
+                                                                                 << "2:45 PM"
+                                                                                 << "" << 0 << "Practice"
+                                                                                 << "2026-05-02 14:45";
+        QTest::newRow("no opponent") << "Meeting"
+                                     << "7:00 PM"
+                                     << "---"
+                                     << "N/A" << 0 << "Meeting"
+                                     << "";
+        QTest::newRow("a scrimmage") << "Scrimmage"
+                                     << "4:00 PM"
+                                     << "3:00 PM"
+                                     << "Owls" << 0 << "Scrimmage: Owls"
+                                     << "2026-05-02 15:00";
+        QTest::newRow("away game") << "Game"
+                                   << "11:30 AM"
+                                   << "9:15 AM"
+                                   << "Owls" << 2 << "Hawks at Owls"
+                                   << "2026-05-02 09:15";
+    }
+    void calendarEvents()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, start);
+        QFETCH(QString, bus);
+        QFETCH(QString, opponent);
+        QFETCH(int, home);
+        QFETCH(QString, summary);
+        QFETCH(QString, alarm);
+        ScheduleEntry entry;
+        entry.eventID = 9;
+        entry.event.mDate = QDate(2026, 5, 2);
+        entry.event.eventType = type;
+        entry.event.startTime = start;
+        entry.event.busTime = bus;
+        entry.event.opponent = opponent;
+        entry.event.isHome = std::uint8_t(home);
+        entry.event.location = QStringLiteral("Field 2, North; by the river");
+        ScheduleEntry undated = entry;
+        undated.event.mDate = QDate();
+        const QList<schedule::CalendarEvent> events = schedule::readCalendar(
+            schedule::calendarFile({entry, undated}, QStringLiteral("Hawks"), QStringLiteral("2026"), QDateTime()));
+        QCOMPARE(events.size(), 1);
+        const schedule::CalendarEvent &e = events.first();
+        QCOMPARE(e.uid, QStringLiteral("event-9-2026@tallyline"));
+        QCOMPARE(e.summary, summary);
+        QCOMPARE(e.location, entry.event.location);
+        QCOMPARE(e.allDay, start == u"---");
+        QCOMPARE(e.alarm.toString(QStringLiteral("yyyy-MM-dd hh:mm")), alarm);
+    }
+
     void csvField_data()
     {
         QTest::addColumn<QString>("text");

@@ -118,6 +118,10 @@ private Q_SLOTS:
                                 << ""
                                 << "batActionLB" << 0 << 0 << "B1"
                                 << "" << QColor(Qt::white);
+        QTest::newRow("sacrifice fly, fifth row") << ""
+                                                  << ""
+                                                  << "batActionLB" << 4 << 0 << "SF"
+                                                  << "R" << red;
         QTest::newRow("force out") << "B1"
                                    << ""
                                    << "resultLB" << 0 << 2 << "B1"

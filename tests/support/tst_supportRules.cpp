@@ -1,6 +1,7 @@
 // The widget-free rules of the shared controls: the phone number's key
 // filter, digits and formats, and the number fields' key rule.
 
+#include "support/CsvText.h"
 #include "support/NumberKeyRule.h"
 #include "support/PhoneNumber.h"
 
@@ -17,6 +18,41 @@ class TestSupportRules : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // A spreadsheet's CSV as it comes: the rows read, joined by "|" and
+    // separated by "/".
+    void csvRead_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("CR LF") << QByteArray("a,b\r\n1,2\r\n") << "a|b/1|2";
+        QTest::newRow("LF, no end") << QByteArray("a,b\n1,2") << "a|b/1|2";
+        QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBF"
+                                                       "a,b\n1,2\n")
+                                         << "a|b/1|2";
+        QTest::newRow("blank lines") << QByteArray("a,b\n\n1,2\n\r\n") << "a|b/1|2";
+        QTest::newRow("quoted comma and quote") << QByteArray("a,b\n\"x, \"\"y\"\"\",2\n") << "a|b/x, \"y\"|2";
+        QTest::newRow("line end inside quotes") << QByteArray("a,b\n\"two\r\nlines\",2\n") << "a|b/two\r\nlines|2";
+        QTest::newRow("empty fields") << QByteArray("a,b,c\n,,\n") << "a|b|c/||";
+        QTest::newRow("quoted empty line") << QByteArray("a\n\"\"\n") << "a/";
+        QTest::newRow("letters") << QByteArray("n\nJos\xC3\xA9\n") << "n/Jos\u00e9";
+    }
+    void csvRead()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, rows);
+        const support::csv::Table table = support::csv::parse(text);
+        QCOMPARE(table.badLine, 0);
+        QStringList lines;
+        for (const QStringList &row : table.rows)
+            lines.append(row.join(u'|'));
+        QCOMPARE(lines.join(u'/'), rows);
+        // What is written reads back the same.
+        QString written;
+        for (const QStringList &row : table.rows)
+            written += support::csv::line(row);
+        QCOMPARE(support::csv::parse(written.toUtf8()).rows, table.rows);
+    }
+
     void phoneFormat_data()
     {
         QTest::addColumn<QString>("digits");

@@ -10,6 +10,7 @@
 #include "schedule/EventsCalendar.h"
 #include "schedule/ScheduleChanges.h"
 #include "schedule/ScheduleStore.h"
+#include "schedule/ui/CalendarExport.h"
 #include "schedule/ui/monthlyEventsLayer.h"
 
 #include <QHBoxLayout>
@@ -65,6 +66,10 @@ eventsCalendarScrn::eventsCalendarScrn(QWidget *parent)
 
     menus()->installHandler(QStringLiteral("FilePrint"), [this] {
         hndlPrint();
+        return true;
+    });
+    menus()->installHandler(QStringLiteral("FileExportCalendar"), [] {
+        schedule::exportCalendar();
         return true;
     });
     menus()->installPrinterSetup();

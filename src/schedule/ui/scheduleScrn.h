@@ -45,6 +45,7 @@ public:
     QPushButton *exportBtn = nullptr;
     QPushButton *viewCalendarBtn = nullptr;
     QPushButton *closeBtn = nullptr;
+    QPushButton *boxScoreBtn = nullptr; // the selected game's box score
     QLabel *schedIDLabel = nullptr;
     MainMenuBar *menuBar() const { return menus(); }
 

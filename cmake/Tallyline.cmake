@@ -20,6 +20,9 @@ function(tl_add_test name)
   add_executable(${name} ${A_SOURCES})
   target_link_libraries(${name} PRIVATE Qt6::Test tl_test_fakes ${A_DEPS})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  # What the build says the version is, for tests that check what the
+  # program shows of it.
+  target_compile_definitions(${name} PRIVATE TL_PROJECT_VERSION="${PROJECT_VERSION}")
   add_test(NAME ${name} COMMAND ${name})
   set(home "${CMAKE_BINARY_DIR}/test-home/${name}")
   file(MAKE_DIRECTORY "${home}")

@@ -6,7 +6,8 @@
 // preference file.
 namespace appinfo {
 
-inline const QString curVers = QStringLiteral("2.2.0");
+// Comes from the project's own version in CMakeLists.txt, its one source.
+inline const QString curVers = QStringLiteral(TALLYLINE_VERSION);
 
 // "2.2.0" -> 220: the version's digits joined, as the preference file keeps it.
 int versionNumber(const QString &version);

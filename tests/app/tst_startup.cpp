@@ -373,8 +373,11 @@ private Q_SLOTS:
         start->menuBar()->item(QStringLiteral("HelpAbout"))->trigger();
         auto *about = start->findChild<AboutScrn *>();
         QVERIFY(about && about->isVisible());
-        QCOMPARE(about->versLabel->text(), QStringLiteral("Version 2.2.0: Build 2"));
-        QCOMPARE(s.app().getLongVers(), QStringLiteral("Tallyline Baseball v.2.2.0"));
+        // The version as the build's project declares it.
+        const QString version = QStringLiteral(TL_PROJECT_VERSION);
+        QCOMPARE(about->versLabel->text(),
+                 QStringLiteral("Version ") + version + QStringLiteral(": Build ") + version.section(u'.', 0, 0));
+        QCOMPARE(s.app().getLongVers(), QStringLiteral("Tallyline Baseball v.") + version);
         QPointer<AboutScrn> guard = about;
         QTest::mouseClick(about->creditsTxt->viewport(), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -63,7 +63,7 @@ private Q_SLOTS:
         QTest::newRow("newer") << QByteArray("<version>9.0.0</version><description>Faster</description>")
                                << "Version 9.0.0 of Tallyline Baseball is available."
                                << "Update Now";
-        QTest::newRow("same") << QByteArray("<version>2.2.0</version>")
+        QTest::newRow("same") << QByteArray("<version>" TL_PROJECT_VERSION "</version>")
                               << "Your Copy Of Tallyline Baseball Is Up To Date!"
                               << "Close";
         QTest::newRow("no page") << QByteArray() << "Your Copy Of Tallyline Baseball Is Up To Date!"
@@ -189,11 +189,11 @@ private Q_SLOTS:
         QCOMPARE(mail.scheme(), QStringLiteral("mailto"));
         const QUrlQuery query(mail);
         QCOMPARE(query.allQueryItemValues(QStringLiteral("subject"), QUrl::FullyDecoded),
-                 QStringList{QStringLiteral("2.2.0 error")});
+                 QStringList{QStringLiteral(TL_PROJECT_VERSION " error")});
         const QString body = query.queryItemValue(QStringLiteral("body"), QUrl::FullyDecoded);
         // Line ends travel as mail's CR LF.
         QVERIFY(body.startsWith(QStringLiteral("Error: OutOfBoundsException\r\nSub teamScrn.save( string )\r\n"
-                                               "Tallyline Baseball v.2.2.0\r\n")));
+                                               "Tallyline Baseball v." TL_PROJECT_VERSION "\r\n")));
         QVERIFY(body.endsWith(QStringLiteral(" *Please feel free to add your comments.\r\nTom & Jerry's #1 100%? ok")));
         QCOMPARE(report.ignoreBtn->text(), QStringLiteral("Continue"));
         QVERIFY(report.reportBtn->isHidden());

@@ -1,5 +1,7 @@
 #include "app/ui/TallylineApplication.h"
 
+#include "app/AppInfo.h"
+
 #include "platform/Services.h"
 
 #include <QIcon>
@@ -19,7 +21,7 @@ TallylineApplication::TallylineApplication(int &argc, char **argv) : QApplicatio
     setApplicationName(QStringLiteral("Tallyline Baseball"));
     setApplicationDisplayName(QStringLiteral("Tallyline Baseball"));
     setOrganizationName(QStringLiteral("QLM"));
-    setApplicationVersion(QStringLiteral("2.2.0"));
+    setApplicationVersion(appinfo::curVers);
     setQuitOnLastWindowClosed(true);
     // The desktop entry's name, so the desktop shows the installed icon for
     // the program's windows; the built-in icon serves a program run from

@@ -7,10 +7,11 @@
 // the pages the build copied, so run it again after a build when pictures
 // were new. Needs no display: QT_QPA_PLATFORM=offscreen does.
 
+#include "DemoTool.h"
+#include "SampleSeason.h"
 #include "app/App.h"
 #include "app/globals.h"
 #include "app/ui/ScreenDirectory.h"
-#include "app/ui/TallylineApplication.h"
 #include "app/ui/startScrn1.h"
 #include "gameday/ScoreGrid.h"
 #include "gameday/ui/BBScoringLB.h"
@@ -18,10 +19,8 @@
 #include "help/ui/HelpAbbrevScrn.h"
 #include "help/ui/formsScrn.h"
 #include "help/ui/helpScrn2.h"
-#include "people/TeamStore.h"
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
-#include "platform/qt/QtServices.h"
 #include "reports/ui/qlmListBox.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ui/newEventScrn.h"
@@ -68,47 +67,6 @@ QImage take(QWidget *window)
     const QImage image = window->grab().toImage();
     delete window;
     return image;
-}
-
-// A few events around the sample season's opening day, when it has none.
-void seedSchedule()
-{
-    ScheduleStore schedule(*gData);
-    if (!schedule.list(ScheduleStore::kShowAll).isEmpty())
-        return;
-    const QList<people::TeamRecord> teams = people::TeamStore(*gData).allTeams();
-    auto opponent = [&](int i) { return teams.at(qMin<int>(i, teams.size() - 1)); };
-    struct E
-    {
-        int day;
-        const char *bus, *start, *type;
-        int opp; // index of the team, -1 for none
-        std::uint8_t home;
-    };
-    const E events[] = {
-        {14, "---", "4:00 PM", "Practice", -1, 0}, {17, "2:45 PM", "4:30 PM", "Game", 1, 2},
-        {19, "---", "4:30 PM", "Game", 2, 1},      {21, "---", "10:00 AM", "Practice", -1, 0},
-        {23, "---", "7:00 PM", "Meeting", -1, 0},  {24, "3:00 PM", "4:30 PM", "Scrimmage", 3, 2},
-        {26, "---", "4:30 PM", "Game", 4, 1},      {28, "1:15 PM", "3:00 PM", "Game", 3, 2},
-    };
-    const QString homeField = opponent(0).HomeField;
-    const int year = gPrefs->prSeason.toInt() > 2000 ? gPrefs->prSeason.toInt() : 2026;
-    for (const E &e : events) {
-        eventClass ev;
-        ev.mDate = QDate(year, 3, e.day);
-        ev.busTime = QString::fromUtf8(e.bus);
-        ev.startTime = QString::fromUtf8(e.start);
-        ev.eventType = QString::fromUtf8(e.type);
-        if (e.opp >= 0) {
-            ev.opponent = opponent(e.opp).TeamName;
-            ev.oppID = opponent(e.opp).teamID;
-        } else {
-            ev.opponent = QStringLiteral("N/A");
-        }
-        ev.location = e.home == 2 ? opponent(e.opp).HomeField : homeField;
-        ev.isHome = e.home;
-        schedule.insert(ev);
-    }
 }
 
 // The grid of a game a few innings in, and the at-bat window that a click
@@ -171,22 +129,15 @@ void registerScreens()
 
 int main(int argc, char *argv[])
 {
-    TallylineApplication application(argc, argv);
-    const QStringList args = application.arguments();
-    if (args.size() < 3) {
-        std::fprintf(stderr, "usage: tl_make_help_pictures <data root> <help folder> [<docs folder>]\n");
-        return 2;
-    }
-    platform::qt::QtServices desktop;
-    platform::ScopedServices installed(desktop.services());
-    App app(args.at(1));
-    if (app.Event_Open() != App::OpenResult::Ok)
-        return 1;
+    DemoTool tool(argc, argv, 2, "tl_make_help_pictures <data root> <help folder> [<docs folder>]");
+    if (tool.failure())
+        return tool.failure();
+    const QStringList &args = tool.args();
     if (gPrefs->prHomeTeam.isEmpty()) {
         std::fprintf(stderr, "no home team: seed the season with tl_people_demo first\n");
         return 1;
     }
-    seedSchedule();
+    sample::seedSchedule();
     registerScreens();
     const QDir out(args.at(2));
 
@@ -237,6 +188,6 @@ int main(int argc, char *argv[])
         if (args.size() > 3)
             shot.save(QDir(args.at(3)).filePath(QStringLiteral("help-window.png")), "PNG");
     }
-    app.Event_Close();
+    tool.season().Event_Close();
     return 0;
 }

@@ -4,10 +4,8 @@
 // writes new-season.png, preferences.png, user-defined-stats.png and
 // backup.png there.
 
-#include "app/App.h"
+#include "DemoTool.h"
 #include "app/globals.h"
-#include "app/ui/TallylineApplication.h"
-#include "platform/qt/QtServices.h"
 #include "reports/ui/qlmListBox.h"
 #include "seasondata/ui/TransferDataScrn.h"
 #include "seasondata/ui/UDVStatsScrn.h"
@@ -19,21 +17,12 @@
 #include <QRadioButton>
 #include <QTimer>
 
-#include <cstdio>
-
 int main(int argc, char *argv[])
 {
-    TallylineApplication application(argc, argv);
-    if (argc < 3) {
-        std::fprintf(stderr, "usage: tl_seasondata_pictures <empty data root> <output folder>\n");
-        return 2;
-    }
-    platform::qt::QtServices desktop;
-    platform::ScopedServices installed(desktop.services());
-    App app{QString::fromLocal8Bit(argv[1])};
-    if (app.Event_Open() != App::OpenResult::Ok)
-        return 1;
-    const QDir out(QString::fromLocal8Bit(argv[2]));
+    DemoTool tool(argc, argv, 2, "tl_seasondata_pictures <empty data root> <output folder>");
+    if (tool.failure())
+        return tool.failure();
+    const QDir out(tool.args().at(2));
     const char *teams[][2] = {{"Lincoln High", "Lions"},
                               {"Central", "Cubs"},
                               {"O'Brien's Academy", "Owls"},
@@ -43,7 +32,7 @@ int main(int argc, char *argv[])
         gData->insert(QStringLiteral("Teams"), {{QStringLiteral("SchoolName"), QString::fromUtf8(t[0])},
                                                 {QStringLiteral("TeamName"), QString::fromUtf8(t[1])}});
     gPrefs->prHomeTeam = QStringLiteral("1");
-    const QString drive = QDir(QString::fromLocal8Bit(argv[1])).filePath(QStringLiteral("Backups"));
+    const QString drive = QDir(tool.args().at(1)).filePath(QStringLiteral("Backups"));
     QDir().mkpath(drive + QStringLiteral("/TLYN2_backup"));
     gPrefs->prDataBackupLoc = createGSI(drive);
     gPrefs->prBackupFreq = 15;
@@ -77,5 +66,5 @@ int main(int argc, char *argv[])
             });
         });
     });
-    return application.exec();
+    return QCoreApplication::exec();
 }

@@ -159,8 +159,8 @@ private Q_SLOTS:
         QTest::newRow("prGameTypes") << QString("Division,Non-Div/League,Non-Div/Non-Lg,PreSeason,Sectional,Regional,"
                                                 "State Tournament,Weather/Rain Out,Forfeit");
         QTest::newRow("prUDB") << QString("CS|Caught Stealing|RSP|Up with Runner in Scoring Position|HSP|"
-                                          "Hit w/Runner in Sc. Pos.|TOH|Two Out Hit|???|Undefined");
-        QTest::newRow("prUDF") << QString("CGL|Catches Going Left|CGR|Catches Going Right|???|Undefined");
+                                          "Hit w/Runner in Sc. Pos.|TOH|Two Out Hit|?\?\?|Undefined");
+        QTest::newRow("prUDF") << QString("CGL|Catches Going Left|CGR|Catches Going Right|?\?\?|Undefined");
         QTest::newRow("prUDP") << QString("CWO|Cool Weather Outings|DAp|Daytime Appearances|NAp|Nighttime Appearances");
         QTest::newRow("prInnings") << QString("9 Innings");
         QTest::newRow("prLineUp") << QString("9 Players");
@@ -228,14 +228,14 @@ private Q_SLOTS:
         QTest::newRow("hitting")
             << keysAndValues(myDictionaries::buildHitting(
                    "CS\tCaught Stealing\tRSP\tUp with Runner in Scoring Position\tHSP\tHit w/Runner in Sc. Pos.\t"
-                   "TOH\tTwo Out Hit\t???\tUndefined"))
+                   "TOH\tTwo Out Hit\t?\?\?\tUndefined"))
             << QString(
                    "AB=0 Avg=26 OBP=27 SP=28 B1=1 B2=2 B3=3 HR=4 BB=5 IBB=6 HBP=7 SAC=8 FO=9 GO=10 KS=11 KL=12 HDP=13 "
-                   "ROE=14 FC=15 CI=16 Runs=17 RBI=18 SB=19 LOB=20 CS=21 RSP=22 HSP=23 TOH=24 ???=25");
+                   "ROE=14 FC=15 CI=16 Runs=17 RBI=18 SB=19 LOB=20 CS=21 RSP=22 HSP=23 TOH=24 ?\?\?=25");
         QTest::newRow("fielding")
             << keysAndValues(
-                   myDictionaries::buildFielding("CGL\tCatches Going Left\tCGR\tCatches Going Right\t???\tUndefined"))
-            << QString("FPct=13 IP=0 CH=1 PO=2 Asst=3 FE=4 TE=5 DPL=6 PB=7 SBA=8 CS=9 CGL=10 CGR=11 ???=12");
+                   myDictionaries::buildFielding("CGL\tCatches Going Left\tCGR\tCatches Going Right\t?\?\?\tUndefined"))
+            << QString("FPct=13 IP=0 CH=1 PO=2 Asst=3 FE=4 TE=5 DPL=6 PB=7 SBA=8 CS=9 CGL=10 CGR=11 ?\?\?=12");
         QTest::newRow("pitching")
             << keysAndValues(myDictionaries::buildPitching(
                    "CWO\tCool Weather Outings\tDAp\tDaytime Appearances\tNAp\tNighttime Appearances"))

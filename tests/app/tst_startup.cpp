@@ -67,6 +67,7 @@ public:
             return QObject::event(e);
         static volatile int sink = 0;
         sink = std::vector<int>(2).at(std::size_t(e->type()));
+        (void)sink;
         return true;
     }
 };

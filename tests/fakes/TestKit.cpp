@@ -26,13 +26,13 @@ Season::~Season()
     closeAllWindows();
 }
 
-qint64 Season::addTeam(const QString &name, const QString &school, const QString &homeField, bool home)
+qint64 Season::addTeam(const QString &name, const QString &school, const QString &homeField, bool isHome)
 {
     const qint64 id = gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), name},
                                                               {QStringLiteral("SchoolName"), school},
                                                               {QStringLiteral("HomeField"), homeField},
                                                               {QStringLiteral("Active"), 1}});
-    if (home)
+    if (isHome)
         gPrefs->prHomeTeam = QString::number(id);
     return id;
 }

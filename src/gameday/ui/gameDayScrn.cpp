@@ -239,9 +239,9 @@ void gameDayScrn::connectGame()
         EnterRHE_Btn->setText(on ? QStringLiteral("ON") : QStringLiteral("OFF"));
         setReadOnlyFlds(!on);
     });
-    connect(m_game.get(), &GameDay::autoFillReturned, this, [this](const gameday::AutoFillData &data) {
+    connect(m_game.get(), &GameDay::autoFillReturned, this, [this](const gameday::AutoFillData &figures) {
         TeamBtn[size_t(m_game->curSelTeam())]->setChecked(true);
-        myPitchCtr->setAutoData(data);
+        myPitchCtr->setAutoData(figures);
         placePanels();
         myPitchCtr->show();
         myPitchCtr->setFocus();

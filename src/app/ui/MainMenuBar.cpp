@@ -93,14 +93,7 @@ MainMenuBar::MainMenuBar(QWidget *parent) : QMenuBar(parent)
     // that screen, or brought forward when it is open already.
     if (screens::has(ScreenId::HelpAbbrevScrn)) {
         installHandler(QStringLiteral("Abbrev"), [] {
-            QWidget *w = screens::create(ScreenId::HelpAbbrevScrn);
-            if (!w)
-                return true;
-            if (auto *opened = qobject_cast<ScreenBase *>(w))
-                opened->setReturnToStart(false);
-            w->show();
-            w->raise();
-            w->activateWindow();
+            ScreenBase::openOver(ScreenId::HelpAbbrevScrn);
             return true;
         });
     }

@@ -84,15 +84,7 @@ void ScreenBase::installHelpMenus(int topic)
         const ScreenId screen = e.screen;
         const int argument = e.argument;
         m_menus->installHandler(QString::fromLatin1(e.item), [screen, argument] {
-            QWidget *w = screens::create(screen, argument >= 0 ? QVariant(argument) : QVariant());
-            if (!w)
-                return true;
-            // Opened over this screen: closing it comes back here.
-            if (auto *opened = qobject_cast<ScreenBase *>(w))
-                opened->setReturnToStart(false);
-            w->show();
-            w->raise();
-            w->activateWindow();
+            openOver(screen, argument >= 0 ? QVariant(argument) : QVariant());
             return true;
         });
     }
@@ -107,6 +99,18 @@ void ScreenBase::showEvent(QShowEvent *event)
     QMainWindow::showEvent(event);
     if (m_options.backupTimer)
         setBackupTimer(myTimerClass::ModeMultiple);
+}
+
+void ScreenBase::openOver(ScreenId id, const QVariant &argument)
+{
+    QWidget *w = screens::create(id, argument);
+    if (!w)
+        return;
+    if (auto *opened = qobject_cast<ScreenBase *>(w))
+        opened->setReturnToStart(false);
+    w->show();
+    w->raise();
+    w->activateWindow();
 }
 
 void ScreenBase::closeEvent(QCloseEvent *event)

@@ -3,6 +3,7 @@
 #include "app/ui/ScreenId.h"
 
 #include <QMainWindow>
+#include <QVariant>
 
 class MainMenuBar;
 
@@ -40,6 +41,10 @@ public:
     MainMenuBar *menus() const { return m_menus; }
     // For a screen opened over another one rather than from the start screen.
     void setReturnToStart(bool on) { m_options.returnToStart = on; }
+    // Opens a registered window over the screen on show (closing it comes
+    // back there, not to the start screen), or brings it forward when it is
+    // open already.
+    static void openOver(ScreenId id, const QVariant &argument = {});
 
 protected:
     // Asked before the screen closes: false keeps it open. The place for a

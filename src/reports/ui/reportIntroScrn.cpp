@@ -1,6 +1,7 @@
 #include "reports/ui/reportIntroScrn.h"
 
 #include "app/ui/Form.h"
+#include "app/ui/ScreenDirectory.h"
 #include "reports/SeasonReport.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportScrn.h"
@@ -50,6 +51,9 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
     outer->addLayout(grid, 1);
     auto *buttons = new QHBoxLayout;
     cancelBtn = form::button(central, QStringLiteral("cancelBtn"), QStringLiteral("Cancel"));
+    pitchAvailBtn = form::button(central, QStringLiteral("pitchAvailBtn"), QStringLiteral("&Pitcher Availability"));
+    pitchAvailBtn->setEnabled(screens::has(ScreenId::pitcherAvailabilityScrn));
+    buttons->addWidget(pitchAvailBtn);
     buttons->addStretch(1);
     buttons->addWidget(cancelBtn);
     outer->addLayout(buttons);
@@ -57,6 +61,12 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
     resize(620, 560);
 
     connect(cancelBtn, &QPushButton::clicked, this, &QWidget::close);
+    connect(pitchAvailBtn, &QPushButton::clicked, this, [this] {
+        if (QWidget *report = screens::create(ScreenId::pitcherAvailabilityScrn))
+            report->show();
+        setReturnToStart(false);
+        close();
+    });
 }
 
 void reportIntroScrn::statsLB_Open(int which)

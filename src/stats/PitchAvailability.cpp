@@ -96,7 +96,7 @@ AvailabilityReport AvailabilityReport::make(const PitchRuleSet &set, const QList
         report.headings << english.toString(today.addDays(-back), QStringLiteral("ddd d"));
     report.headings << QStringLiteral("Rest") << QStringLiteral("May Pitch") << QStringLiteral("Left Today")
                     << QStringLiteral("Why Not");
-    report.columnWidths = QStringLiteral("130,30,40,40,40,40,40,40,40,34,110,50,*");
+    report.columnWidths = QStringLiteral("130,30,46,46,46,46,46,46,46,34,90,66,*");
 
     QList<PitcherLog> shown;
     for (const PitcherLog &log : logs) {

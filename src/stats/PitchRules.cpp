@@ -51,8 +51,11 @@ int PitchRuleSet::ageOn(const QDate &birth, const QDate &gameDate) const
     if (!birth.isValid() || !gameDate.isValid())
         return -1;
     QDate on = gameDate;
-    if (cutoffMonth > 0)
+    if (cutoffMonth > 0) {
         on = QDate(gameDate.year(), cutoffMonth, cutoffDay);
+        if (!on.isValid()) // 29 February in a common year
+            on = QDate(gameDate.year(), cutoffMonth, 28);
+    }
     int age = on.year() - birth.year();
     if (on.month() < birth.month() || (on.month() == birth.month() && on.day() < birth.day()))
         --age;

@@ -1,12 +1,14 @@
 // The "Pitcher Availability" report over a season: who is listed, the
 // figures read from the pitching and fielding rows and the line-ups, the
-// date chooser, the export, and a damaged rule set named with its line.
+// date chooser, the export and the printout, and a damaged rule set named
+// with its line.
 
 #include "app/globals.h"
 #include "app/myDB.h"
 #include "app/myPrefs.h"
 #include "app/ui/MainMenuBar.h"
 #include "fakes/TestKit.h"
+#include "fakes/TestSupport.h"
 #include "gameday/GameRecord.h"
 #include "reports/ui/pitcherAvailabilityScrn.h"
 #include "reports/ui/qlmListBox.h"
@@ -120,6 +122,10 @@ private Q_SLOTS:
         QFile written(path);
         QVERIFY(written.open(QIODevice::ReadOnly));
         QVERIFY(QString::fromUtf8(written.readAll()).contains(u"Sam Reyes\t13\t\t70\t\t\t\t\t\t0\tToday\t95"_s));
+        screen->menus()->item(u"FilePrint"_s)->trigger();
+        QCOMPARE(f.season.fake.printing.printed.size(), 1);
+        const QString printed = fakes::pdfText(f.season.fake.printing.printed.first());
+        QVERIFY(printed.contains(u"Pitcher Availability"_s) && printed.contains(u"Sam Reyes"_s));
     }
 
     void damagedSetIsNamed()

@@ -12,6 +12,7 @@
 #include "people/ui/emailInfoScrn.h"
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
+#include "reports/ui/pitcherAvailabilityScrn.h"
 #include "reports/ui/reportIntroScrn.h"
 #include "reports/ui/standingsScrn.h"
 #include "schedule/ui/eventsCalendarScrn.h"
@@ -33,6 +34,7 @@ void registerScreens()
     screens::registerScreen(ScreenId::eventsCalendarScrn, [] { return new eventsCalendarScrn; });
     screens::registerScreen(ScreenId::reportIntroScrn, [] { return new reportIntroScrn; });
     screens::registerScreen(ScreenId::standingsScrn, [] { return new standingsScrn; });
+    screens::registerScreen(ScreenId::pitcherAvailabilityScrn, [] { return new pitcherAvailabilityScrn; });
     screens::registerScreen(ScreenId::gameDayScrn,
                             [](const QVariant &eventID) { return gameDayScrn::openFor(eventID.toString()); });
     // Only a build that knows where the newest version is told can check.

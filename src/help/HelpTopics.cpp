@@ -27,6 +27,7 @@ const QStringList &topicArray()
         QStringLiteral("Additional Information:,folder"),
         QStringLiteral("The Help Menu,C_01.html"),
         QStringLiteral("Contact Info,C_02.html"),
+        QStringLiteral("Pitch Count Rules,C_03.html"),
     };
     return topics;
 }

@@ -140,12 +140,12 @@ private Q_SLOTS:
 
     void topics()
     {
-        QCOMPARE(help::topicArray().size(), 17);
+        QCOMPARE(help::topicArray().size(), 18);
         QCOMPARE(help::getTopic(7), QStringLiteral("A_07.html"));
         QVERIFY(help::isHeading(12));
         QCOMPARE(help::indexRowText(13), QStringLiteral("   Preferences"));
         QCOMPARE(help::indexRowText(14), QStringLiteral("Additional Information:"));
-        QVERIFY(help::getTopic(17).isEmpty());
+        QVERIFY(help::getTopic(18).isEmpty());
     }
 };
 

@@ -16,6 +16,7 @@
 #include "seasondata/ui/UDVStatsScrn.h"
 #include "seasondata/ui/backUpDlog.h"
 #include "seasondata/ui/prefScrn.h"
+#include "stats/PitchRules.h"
 #include "support/ui/PlusMinusContainer.h"
 #include "support/ui/qlmCheckBox.h"
 
@@ -712,6 +713,7 @@ private Q_SLOTS:
         testkit::showActive(screen);
         choose(screen->InnPerGamePop, QStringLiteral("5 Innings"));
         choose(screen->homeTeamPop, QStringLiteral("Central Cubs"));
+        choose(screen->pitchRulesPop, QStringLiteral("Youth league regular season"));
         QWidget *at = screen->findChild<QWidget *>(focus);
         at->setFocus();
         QTest::keyClick(at, Qt::Key_Return);
@@ -723,6 +725,7 @@ private Q_SLOTS:
         f.restart();
         QCOMPARE(gPrefs->prHomeTeam, cubs);
         QCOMPARE(gPrefs->prInnings, innings);
+        QCOMPARE(stats::pitchrules::chosenFile(gPrefs->strdDataLoc), QStringLiteral("youth-league.json"));
     }
 
     void userDefinedNamesAtNextStart_data()

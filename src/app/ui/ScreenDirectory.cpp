@@ -29,6 +29,8 @@ QString screenName(ScreenId id)
         return QStringLiteral("reportScrn");
     case ScreenId::standingsScrn:
         return QStringLiteral("standingsScrn");
+    case ScreenId::pitcherAvailabilityScrn:
+        return QStringLiteral("pitcherAvailabilityScrn");
     case ScreenId::formsScrn:
         return QStringLiteral("formsScrn");
     case ScreenId::prefScrn:

@@ -18,6 +18,7 @@ enum class ScreenId {
     reportIntroScrn,
     reportScrn, // opened by reportIntroScrn with the chosen columns
     standingsScrn,
+    pitcherAvailabilityScrn, // opened from reportIntroScrn
     formsScrn,
     prefScrn,
     TransferDataScrn,

@@ -4,6 +4,7 @@
 #include "app/myDB.h"
 #include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
+#include "app/ui/ScreenDirectory.h"
 #include "platform/FileDialogs.h"
 #include "platform/Services.h"
 #include "reports/ListBoxText.h"
@@ -60,6 +61,9 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
     outer->addLayout(grid, 1);
     auto *buttons = new QHBoxLayout;
     cancelBtn = form::button(central, QStringLiteral("cancelBtn"), QStringLiteral("Cancel"));
+    pitchAvailBtn = form::button(central, QStringLiteral("pitchAvailBtn"), QStringLiteral("&Pitcher Availability"));
+    pitchAvailBtn->setEnabled(screens::has(ScreenId::pitcherAvailabilityScrn));
+    buttons->addWidget(pitchAvailBtn);
     buttons->addStretch(1);
     buttons->addWidget(cancelBtn);
     outer->addLayout(buttons);
@@ -70,6 +74,12 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
     menus()->installHandler(QStringLiteral("FileExport"), [this] {
         exportSeason();
         return true;
+    });
+    connect(pitchAvailBtn, &QPushButton::clicked, this, [this] {
+        if (QWidget *report = screens::create(ScreenId::pitcherAvailabilityScrn))
+            report->show();
+        setReturnToStart(false);
+        close();
     });
 }
 

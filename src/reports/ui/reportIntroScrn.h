@@ -34,6 +34,7 @@ public:
     std::array<qlmCheckBox *, 3> checkAll{};
     std::array<QPushButton *, 3> viewBtn{};
     QPushButton *cancelBtn = nullptr;
+    QPushButton *pitchAvailBtn = nullptr; // opens "Pitcher Availability"
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -11,6 +11,7 @@
 #include "seasondata/PrefLists.h"
 #include "seasondata/SeasonTransfer.h"
 #include "seasondata/ui/UDVStatsScrn.h"
+#include "stats/PitchRules.h"
 #include "support/ui/PlusMinusContainer.h"
 #include "support/ui/qlmCheckBox.h"
 
@@ -112,6 +113,7 @@ void prefScrn::buildControls()
     maxLineupPop = rows.comboBox(QStringLiteral("maxLineupPop"), QStringLiteral("&Line-up Size:"));
     maxLineupPop->addItems(preflists::lineupRows());
     homeTeamPop = rows.comboBox(QStringLiteral("homeTeamPop"), QStringLiteral("&Home Team:"));
+    pitchRulesPop = rows.comboBox(QStringLiteral("pitchRulesPop"), QStringLiteral("Pitch &Count Rules:"));
     backupPop = rows.comboBox(QStringLiteral("backupPop"), QStringLiteral("&Backup Every:"));
     backupPop->addItems(preflists::backupFreqRows());
     backupLocFld = form::valueLabel(central, QStringLiteral("backupLocFld"), QStringLiteral("Backup location"));
@@ -177,6 +179,12 @@ void prefScrn::buildControls()
         // A choice of the coach's survives a restart.
         gPrefs->prefsDirty = true;
     });
+    // Kept in the season's data folder beside the sets, not in the
+    // preference file; like the home team it holds at once.
+    connect(pitchRulesPop, &QComboBox::activated, this, [this](int row) {
+        if (row >= 0 && gPrefs)
+            stats::pitchrules::setChosenFile(gPrefs->strdDataLoc, pitchRulesPop->itemData(row).toString());
+    });
     connect(InnPerGamePop, &QComboBox::currentTextChanged, this,
             [this](const QString &text) { SelectedInnings = preflists::leadingNumber(text); });
     connect(setBULocBtn, &QPushButton::clicked, this, [this] {
@@ -207,6 +215,7 @@ void prefScrn::scrnSetup()
     InnPerGamePop->setCurrentIndex(InnPerGamePop->findText(gPrefs->prInnings, Qt::MatchExactly));
     maxLineupPop->setCurrentIndex(maxLineupPop->findText(gPrefs->prLineUp, Qt::MatchExactly));
     homeTeamPop->setCurrentIndex(int(teamIDNums.indexOf(gPrefs->prHomeTeam)));
+    fillPitchRulesPop();
     FillPositionLB();
     fillGameTypeLB();
     showBackupLocation();
@@ -231,6 +240,15 @@ void prefScrn::fillHomeTeamPop()
         homeTeamPop->addItem(team.text);
         teamIDNums.append(team.id);
     }
+}
+
+void prefScrn::fillPitchRulesPop()
+{
+    pitchRulesPop->clear();
+    stats::pitchrules::copyShipped(gPrefs->strdDataLoc);
+    for (const auto &[file, name] : stats::pitchrules::available(gPrefs->strdDataLoc))
+        pitchRulesPop->addItem(name, file);
+    pitchRulesPop->setCurrentIndex(pitchRulesPop->findData(stats::pitchrules::chosenFile(gPrefs->strdDataLoc)));
 }
 
 void prefScrn::FillPositionLB()

@@ -30,6 +30,7 @@ public:
     void scrnSetup();
     void FillPositionLB();
     void fillHomeTeamPop();
+    void fillPitchRulesPop();
     void fillGameTypeLB();
     void setValues();
     void setPositions();
@@ -44,6 +45,7 @@ public:
     QComboBox *InnPerGamePop = nullptr;
     QComboBox *maxLineupPop = nullptr;
     QComboBox *homeTeamPop = nullptr;
+    QComboBox *pitchRulesPop = nullptr; // the home team's pitch-count rules
     qlmListBox *PositionLB = nullptr;
     PlusMinusContainer *PlusMinusPositions = nullptr;
     qlmListBox *gameTypeLB = nullptr;

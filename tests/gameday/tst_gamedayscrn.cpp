@@ -8,6 +8,7 @@
 #include "GameDayTestSupport.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
+#include "fakes/Golden.h"
 #include "fakes/TestSupport.h"
 #include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/BBPlayersLB.h"
@@ -328,15 +329,7 @@ private Q_SLOTS:
         QVERIFY(m_scr->close());
         m_scr = nullptr;
 
-        QFile golden(qEnvironmentVariable("TL_TEST_DATA") + QStringLiteral("/gameday-played.txt"));
-        const QString stored = storedStrings(season.schedID());
-        if (qEnvironmentVariableIsSet("TL_UPDATE_GOLDEN")) {
-            QVERIFY(golden.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            golden.write(stored.toUtf8());
-        } else {
-            QVERIFY(golden.open(QIODevice::ReadOnly));
-            QCOMPARE(stored, QString::fromUtf8(golden.readAll()));
-        }
+        TL_COMPARE_GOLDEN(QStringLiteral("gameday-played.txt"), storedStrings(season.schedID()));
 
         // Open it again: every string, cell and box as it was.
         openFromSchedule(season);

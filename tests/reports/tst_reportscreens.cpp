@@ -4,6 +4,7 @@
 #include "ReportsFixture.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/startScrn1.h"
+#include "fakes/Golden.h"
 #include "fakes/TestSupport.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportIntroScrn.h"
@@ -169,9 +170,7 @@ private Q_SLOTS:
         QCOMPARE(f.platform.files.calls.first().request.suggestedName, QStringLiteral("Batting Report"));
         QFile written(path);
         QVERIFY(written.open(QIODevice::ReadOnly));
-        QFile golden(qEnvironmentVariable("TL_TEST_DATA") + QStringLiteral("/reports/batting_export.txt"));
-        QVERIFY(golden.open(QIODevice::ReadOnly));
-        QCOMPARE(written.readAll(), golden.readAll());
+        TL_COMPARE_GOLDEN(QStringLiteral("reports/batting_export.txt"), written.readAll());
     }
 
     void filtersAndHeadingSort()

@@ -4,6 +4,7 @@
 #include "ReportsFixture.h"
 #include "SampleSeason.h"
 #include "app/ui/MainMenuBar.h"
+#include "fakes/Golden.h"
 #include "reports/ModernRates.h"
 #include "reports/SeasonCsv.h"
 #include "reports/ui/qlmListBox.h"
@@ -45,11 +46,6 @@ QList<double> figuresOf(reports::ReportKind kind, const QString &text)
     return out;
 }
 
-QByteArray golden(const QString &name)
-{
-    return readAll(qEnvironmentVariable("TL_TEST_DATA") + QStringLiteral("/reports/") + name);
-}
-
 } // namespace
 
 class TestSeasonExport : public QObject
@@ -70,7 +66,7 @@ private Q_SLOTS:
         intro->menus()->item(QStringLiteral("FileExport"))->trigger();
         QCOMPARE(f.platform.files.calls.first().request.suggestedName, QStringLiteral("Season Statistics.csv"));
         const QByteArray written = readAll(path + QStringLiteral(".csv"));
-        QCOMPARE(written, golden(QStringLiteral("season.csv")));
+        TL_COMPARE_GOLDEN(QStringLiteral("reports/season.csv"), written);
         // Every line ends in CR LF, and there is no lone LF.
         QVERIFY(written.endsWith("\r\n"));
         QCOMPARE(written.count("\n"), written.count("\r\n"));
@@ -183,15 +179,15 @@ private Q_SLOTS:
 
         const qsizetype shownBefore = f.platform.messages.shown.size();
         auto *screen = new boxScoreScrn(played.first().schedID);
-        const QByteArray text = golden(QStringLiteral("box_score.txt"));
-        QCOMPARE(screen->boxText->toPlainText().toUtf8(), text);
+        const QByteArray text = screen->boxText->toPlainText().toUtf8();
+        TL_COMPARE_GOLDEN(QStringLiteral("reports/box_score.txt"), text);
         const QString base = f.home.filePath(QStringLiteral("box"));
         f.platform.files.answers.enqueue(base + QStringLiteral("-text"));
         QTest::mouseClick(screen->textBtn, Qt::LeftButton);
         QCOMPARE(readAll(base + QStringLiteral("-text.txt")), text);
         f.platform.files.answers.enqueue(base + QStringLiteral("-rows.txt"));
         QTest::mouseClick(screen->rowsBtn, Qt::LeftButton);
-        QCOMPARE(readAll(base + QStringLiteral("-rows.txt")), golden(QStringLiteral("box_score_rows.txt")));
+        TL_COMPARE_GOLDEN(QStringLiteral("reports/box_score_rows.txt"), readAll(base + QStringLiteral("-rows.txt")));
 
         f.platform.files.answers.enqueue(base + QStringLiteral(".pdf"));
         QTest::mouseClick(screen->pdfBtn, Qt::LeftButton);
@@ -220,7 +216,7 @@ private Q_SLOTS:
         f.platform.files.answers.enqueue(path);
         screen->menus()->item(QStringLiteral("FileExportCalendar"))->trigger();
         const QByteArray written = readAll(path + QStringLiteral(".ics"));
-        QCOMPARE(written, golden(QStringLiteral("season.ics")));
+        TL_COMPARE_GOLDEN(QStringLiteral("reports/season.ics"), written);
 
         const QList<schedule::CalendarEvent> events = schedule::readCalendar(written);
         QCOMPARE(events.size(), schedule.size());

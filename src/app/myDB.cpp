@@ -1,9 +1,9 @@
 #include "app/myDB.h"
 
 #include "app/Schema.h"
-#include "app/globals.h"
 #include "app/myPrefs.h"
 #include "platform/Messages.h"
+#include "platform/Services.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -55,7 +55,7 @@ myDB::myDB(const QString &dataFolder, const QString &season)
         check4Database(dataFolder, season);
     } catch (const std::exception &) {
         tlynData.reset();
-        gMsgBox(QStringLiteral("There was an error connecting to the Database."));
+        platform::messages().msgBox(QStringLiteral("There was an error connecting to the Database."));
     }
 }
 
@@ -88,7 +88,7 @@ void myDB::notOpened(const QString &message, const QString &explanation)
     // on without a connection, the start screen names the file, and every
     // write says that nothing was saved.
     tlynData.reset();
-    gShowMsgDlog(message, explanation, QStringLiteral("OK"));
+    platform::messages().showMsgDlog(message, explanation, QStringLiteral("OK"), {});
 }
 
 bool myDB::verifyIntegrity()
@@ -109,11 +109,12 @@ bool myDB::verifyIntegrity()
         // Held by another program past the busy timeout: the file may well be
         // sound, and restoring a backup over it would lose good data.
         if (code == SQLITE_BUSY || code == SQLITE_LOCKED) {
-            if (gShowMsgDlog(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
-                                 QStringLiteral("\" is in use by another program."),
-                             QStringLiteral("Nothing was changed in it. Close the other program, or wait until it "
-                                            "has finished, and try again."),
-                             QStringLiteral("Try Again")) == platform::MsgAction)
+            if (platform::messages().showMsgDlog(
+                    QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
+                        QStringLiteral("\" is in use by another program."),
+                    QStringLiteral("Nothing was changed in it. Close the other program, or wait until it "
+                                   "has finished, and try again."),
+                    QStringLiteral("Try Again"), {}) == platform::MsgAction)
                 continue;
             tlynData.reset();
             return false;
@@ -207,8 +208,8 @@ bool myDB::createDBFile(const QString &file)
 
 void myDB::creationFailed(const QString &file)
 {
-    gMsgBox(QStringLiteral("Database Error\nThere was an error when creating the database at <") +
-            QDir::toNativeSeparators(file) + u'>');
+    platform::messages().msgBox(QStringLiteral("Database Error\nThere was an error when creating the database at <") +
+                                QDir::toNativeSeparators(file) + u'>');
 }
 
 void myDB::rememberError(int code, const QString &message)
@@ -228,7 +229,8 @@ bool myDB::DisplayDatabaseError()
     // them, and 0 is no error: both stay quiet.
     if (m_lastErrorCode == 0 || m_lastErrorCode == SQLITE_CONSTRAINT)
         return false;
-    gMsgBox(QStringLiteral("Database Error: ") + QString::number(m_lastErrorCode) + u'\n' + m_lastErrorMessage);
+    platform::messages().msgBox(QStringLiteral("Database Error: ") + QString::number(m_lastErrorCode) + u'\n' +
+                                m_lastErrorMessage);
     return true;
 }
 
@@ -279,10 +281,10 @@ void myDB::fail(const SQLite::Exception &e)
 bool myDB::refuseWriteWithoutSeason()
 {
     rememberError(SQLITE_CANTOPEN, QStringLiteral("No season is open."));
-    gShowMsgDlog(QStringLiteral("Nothing was saved: no season is open."),
-                 QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
-                     QStringLiteral("\" could not be opened. Choose a season on the start screen."),
-                 QStringLiteral("OK"));
+    platform::messages().showMsgDlog(QStringLiteral("Nothing was saved: no season is open."),
+                                     QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
+                                         QStringLiteral("\" could not be opened. Choose a season on the start screen."),
+                                     QStringLiteral("OK"), {});
     return false;
 }
 
@@ -399,7 +401,8 @@ bool myDB::runInTransaction(const std::function<void()> &body)
         // The transaction's destructor has rolled the step back. The error
         // is shown even for a constraint: the coach's step did not happen.
         rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
-        gMsgBox(QStringLiteral("Database Error: ") + QString::number(m_lastErrorCode) + u'\n' + m_lastErrorMessage);
+        platform::messages().msgBox(QStringLiteral("Database Error: ") + QString::number(m_lastErrorCode) + u'\n' +
+                                    m_lastErrorMessage);
         return false;
     }
 }

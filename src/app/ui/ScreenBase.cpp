@@ -4,7 +4,6 @@
 #include "app/myTimerClass.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
-#include "app/ui/startScrn1.h"
 
 #include <QCloseEvent>
 
@@ -125,5 +124,5 @@ void ScreenBase::closeEvent(QCloseEvent *event)
         setBackupTimer(myTimerClass::ModeOff);
     // The start screen reads the home team and seasons afresh when it shows.
     if (m_options.returnToStart)
-        startScrn1::showStartScreen();
+        screens::goHome();
 }

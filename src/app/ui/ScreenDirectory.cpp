@@ -85,6 +85,23 @@ bool has(ScreenId id)
     return directory().contains(id);
 }
 
+std::function<void()> &home()
+{
+    static std::function<void()> show;
+    return show;
+}
+
+void setHome(std::function<void()> show)
+{
+    home() = std::move(show);
+}
+
+void goHome()
+{
+    if (home())
+        home()();
+}
+
 QWidget *create(ScreenId id, const QVariant &argument)
 {
     const auto it = directory().constFind(id);

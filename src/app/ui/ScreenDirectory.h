@@ -27,4 +27,10 @@ bool has(ScreenId id);
 // shows it; windows delete themselves on close.
 QWidget *create(ScreenId id, const QVariant &argument = {});
 
+// The start screen, which a closing screen comes back to: set by the start
+// screen itself, so that the screens it opens needn't know it.
+void setHome(std::function<void()> show);
+// Shows the start screen, when there is one.
+void goHome();
+
 } // namespace screens

@@ -203,6 +203,14 @@ startScrn1 *startScrn1::instance()
     return g_startScreen;
 }
 
+namespace {
+// Every screen that closes comes back here.
+[[maybe_unused]] const bool g_homeSet = [] {
+    screens::setHome([] { startScrn1::showStartScreen(); });
+    return true;
+}();
+} // namespace
+
 startScrn1 *startScrn1::showStartScreen()
 {
     if (!g_startScreen)

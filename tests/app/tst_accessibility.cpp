@@ -90,6 +90,10 @@ class TestAccessibility : public QObject
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void initTestCase() { registerScreens(); }
 
     void windows_data()

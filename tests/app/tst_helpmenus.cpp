@@ -21,6 +21,10 @@ class TestHelpMenus : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void initTestCase()
     {
         registerScreens();

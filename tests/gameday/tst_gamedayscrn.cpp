@@ -9,6 +9,7 @@
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
 #include "fakes/Golden.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/BBPlayersLB.h"
@@ -172,6 +173,14 @@ class TestGameDayScrn : public QObject
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup()
+    {
+        testkit::closeAllWindows();
+        m_scr = nullptr;
+    }
+
     void initTestCase()
     {
         qRegisterMetaType<AutoFillData>();

@@ -4,6 +4,7 @@
 // does what the mouse does.
 
 #include "GridTestSupport.h"
+#include "fakes/TestKit.h"
 #include "gameday/ui/BBScoringLB.h"
 #include "gameday/ui/PopoverCodeList.h"
 #include "gameday/ui/battingPOP.h"
@@ -97,6 +98,10 @@ class TestGridWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void pickedCodePaintsTheCell_data()
     {
         QTest::addColumn<QString>("startText");

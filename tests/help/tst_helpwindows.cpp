@@ -8,6 +8,7 @@
 #include "app/ui/TallylineApplication.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "help/Abbreviations.h"
 #include "help/HelpTopics.h"
@@ -99,6 +100,10 @@ class tst_HelpWindows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void everyPageOpensWhole_data()
     {
         QTest::addColumn<int>("topic");

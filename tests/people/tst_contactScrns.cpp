@@ -61,6 +61,10 @@ class TestContactScrns : public QObject
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     // Selecting in one list clears the other; two players get one message
     // with the team's name as subject, read back exactly.
     void selectAndMail()

@@ -46,6 +46,10 @@ class TestInventoryScrn : public QObject
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     // Typing and keys: Enter adds, Tab goes round the three fields, "+"
     // steps the count, a letter in the count beeps; a selected row edits.
     void keyboardEntry()

@@ -88,6 +88,10 @@ class TestPersonnelScrn : public QObject
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     // A player typed in, found in the list, shown back as typed and edited.
     void addAndEditPlayer()
     {

@@ -68,6 +68,10 @@ class TestTeamScrn : public QObject
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     // The first home team needs no question; a second one asks, and only
     // "Change" moves the mark.
     void homeTeams_data()

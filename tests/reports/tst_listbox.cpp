@@ -2,6 +2,7 @@
 // check boxes, the shaded even rows and reordering by drag and by keyboard.
 
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "reports/ui/qlmListBox.h"
 
 #include <QAbstractItemModelTester>
@@ -47,6 +48,10 @@ private:
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void modelPassesQtsChecks()
     {
         ListBoxModel model;

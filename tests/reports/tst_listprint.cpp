@@ -3,6 +3,7 @@
 
 #include "app/globals.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "reports/ui/qlmListBox.h"
 
@@ -86,6 +87,10 @@ class TestListPrint : public QObject
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void init() { gPrinterSettings.clear(); }
 
     void equalColumnsAndRowPitch()

@@ -80,6 +80,10 @@ class TestSeasonEndToEnd : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void twoGamesFromTheGameScreen()
     {
         ReportsFixture f;

@@ -5,6 +5,7 @@
 #include "SampleSeason.h"
 #include "app/ui/MainMenuBar.h"
 #include "fakes/Golden.h"
+#include "fakes/TestKit.h"
 #include "reports/ModernRates.h"
 #include "reports/SeasonCsv.h"
 #include "reports/ui/qlmListBox.h"
@@ -53,6 +54,10 @@ class TestSeasonExport : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     // The sample season's three games, exported from the report chooser's
     // File > Export Data.
     void seasonCsvMatchesGoldenFile()

@@ -4,6 +4,7 @@
 
 #include "ReportsFixture.h"
 #include "app/ui/MainMenuBar.h"
+#include "fakes/TestKit.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/standingsScrn.h"
 
@@ -58,6 +59,10 @@ class TestStandingsScrn : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void percentageAndGamesBack_data()
     {
         QTest::addColumn<QStringList>("records"); // "Team W L T", or "Team" with none

@@ -6,6 +6,7 @@
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/startScrn1.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "schedule/EventsCalendar.h"
 #include "schedule/ScheduleStore.h"
@@ -121,6 +122,10 @@ class TestEventsCalendar : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void init() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
 
     void opensBesideTheStartScreenAndFromTheSchedule()

@@ -2,6 +2,7 @@
 // event editor and the schedule list with its printout and export.
 
 #include "ScheduleTestSupport.h"
+#include "fakes/TestKit.h"
 #include "schedule/CalendarMonth.h"
 #include "schedule/EventDates.h"
 #include "schedule/ScheduleStore.h"
@@ -66,6 +67,10 @@ class TestScheduleUi : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void init() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
 
     // ---- the date picker ----

@@ -133,6 +133,10 @@ class TestSeasonDataUi : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void initTestCase()
     {
         screens::registerScreen(ScreenId::TransferDataScrn, [] { return new TransferDataScrn; });

@@ -88,6 +88,10 @@ class TestRecordScrn : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void recordFromScreen_data()
     {
         QTest::addColumn<int>("view");

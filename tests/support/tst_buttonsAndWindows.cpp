@@ -3,6 +3,7 @@
 // with the mouse and the keyboard.
 
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "support/HelpRequests.h"
 #include "support/ui/NumberKeyFilter.h"
 #include "support/ui/PlusMinusContainer.h"
@@ -47,6 +48,10 @@ private:
     };
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void plusMinusHalvesApart()
     {
         PairWindow w;

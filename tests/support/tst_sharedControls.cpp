@@ -2,6 +2,7 @@
 // text pasted, clicks and Space on the drawn check boxes.
 
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "support/ui/iPhoneField.h"
 #include "support/ui/qlmCheckBox.h"
 
@@ -29,6 +30,10 @@ private:
     }
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void phoneTypedKeyByKey_data()
     {
         QTest::addColumn<QString>("typed");

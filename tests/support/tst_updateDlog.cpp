@@ -2,6 +2,7 @@
 // report's mail.
 
 #include "fakes/FakePlatform.h"
+#include "fakes/TestKit.h"
 #include "platform/qt/QtHttp.h"
 #include "support/cAutoUpdate.h"
 #include "support/ui/expReporterScrn.h"
@@ -55,6 +56,10 @@ class tst_UpdateDlog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup() { testkit::closeAllWindows(); }
+
     void check_data()
     {
         QTest::addColumn<QByteArray>("page");

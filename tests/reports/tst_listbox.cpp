@@ -39,7 +39,8 @@ private:
         list->resize(400, 300);
         list->show();
         list->activateWindow();
-        QTest::qWaitForWindowActive(list.get());
+        // Keys reach the list either way; the wait only lets it settle.
+        (void)QTest::qWaitForWindowActive(list.get());
         return list;
     }
     static QPoint cellCenter(qlmListBox &list, int row, int column)

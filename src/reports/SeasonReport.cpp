@@ -7,6 +7,7 @@
 #include "reports/SeasonCsv.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace reports {
 
@@ -213,6 +214,10 @@ QList<int> figureIndices(const QStringList &headers, qsizetype from, const StatD
     return out;
 }
 
+// How many figures a reporter keeps: the length of its own array.
+template<typename Reporter>
+constexpr int kFigureCount = int(std::tuple_size_v<decltype(Reporter::mData)>);
+
 // A figure as plain number text: stored counts are whole numbers.
 QString plainNumber(double value)
 {
@@ -238,17 +243,17 @@ QList<QStringList> SeasonReport::rows(const ReportFilter &filter) const
 {
     switch (m_kind) {
     case Batting: {
-        const QList<int> indices = figureIndices(m_headers, 7, hitD, 29);
+        const QList<int> indices = figureIndices(m_headers, 7, hitD, kFigureCount<hitReporter>);
         return filtered(hData, filter, [&](const hitReporter &r) { return displayHitData(r, indices); });
     }
     case Fielding: {
-        const QList<int> indices = figureIndices(m_headers, 4, fieldD, 14);
+        const QList<int> indices = figureIndices(m_headers, 4, fieldD, kFigureCount<fldReporter>);
         return filtered(fData, filter, [&](const fldReporter &r) { return displayFldData(r, indices); });
     }
     case Pitching:
         break;
     }
-    const QList<int> indices = figureIndices(m_headers, 4, pitchD, 28);
+    const QList<int> indices = figureIndices(m_headers, 4, pitchD, kFigureCount<pitchReporter>);
     return filtered(pData, filter, [&](const pitchReporter &r) { return displayPitchData(r, indices); });
 }
 

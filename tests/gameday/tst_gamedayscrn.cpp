@@ -338,7 +338,8 @@ private Q_SLOTS:
         QVERIFY(m_scr->close());
         m_scr = nullptr;
 
-        TL_COMPARE_GOLDEN(QStringLiteral("gameday-played.txt"), storedStrings(season.schedID()));
+        const QString stored = storedStrings(season.schedID());
+        TL_COMPARE_GOLDEN(QStringLiteral("gameday-played.txt"), stored);
 
         // Open it again: every string, cell and box as it was.
         openFromSchedule(season);

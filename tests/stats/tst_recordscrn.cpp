@@ -189,7 +189,7 @@ private Q_SLOTS:
         scr->findChild<QRadioButton *>(QStringLiteral("TeamBtn_1"))->click();
         s.fake.messages.answers.enqueue(platform::MsgCancel);
         s.fake.messages.answers.enqueue(platform::MsgCancel);
-        for (const QString &pos : {"C", "B1"}) {
+        for (const QString pos : {"C", "B1"}) {
             for (int i = 0; i < game.roster().size(); ++i) {
                 if (game.roster().at(i).pos == pos) {
                     game.addPlayerToLineup(i);

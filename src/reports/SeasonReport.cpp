@@ -153,7 +153,7 @@ bool SeasonReport::load(myDB &db)
 
 QStringList SeasonReport::moreHeaders() const
 {
-    QStringList out{QStringLiteral("First Name"), QStringLiteral("Last Name")};
+    QStringList out{QStringLiteral("First Name"), QStringLiteral("Last Name"), teamHeading()};
     for (const RateColumn &c : moreColumns(m_kind))
         out.append(c.key);
     return out;
@@ -168,7 +168,7 @@ QList<QStringList> SeasonReport::moreRows(const ReportFilter &filter) const
             const auto &r = data.at(i);
             if (!filter.passes(r.tID, r.mLeague, r.mDivision))
                 continue;
-            QStringList cells{r.FName, r.LName};
+            QStringList cells{r.FName, r.LName, r.mTeam};
             for (qsizetype c = 0; c < columns.size(); ++c)
                 cells.append(formatMask(m_more.at(i).value(c), columns.at(c).mask));
             out.append(cells);

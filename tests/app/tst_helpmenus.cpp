@@ -39,13 +39,29 @@ private Q_SLOTS:
     {
         // The topic each screen's Help opens; -1 for a window without a Help menu.
         const QMap<QString, int> topics{
-            {u"teamScrn"_s, 2},           {u"personnelScrn"_s, 3},    {u"scheduleScrn"_s, 6},
-            {u"gameDayScrn"_s, 7},        {u"practicePlanScrn"_s, 8}, {u"InventoryScrn"_s, 10},
-            {u"eventsCalendarScrn"_s, 6}, {u"contactInfoScrn"_s, 4},  {u"emailInfoScrn"_s, -1},
-            {u"reportIntroScrn"_s, 9},    {u"reportScrn"_s, 9},       {u"standingsScrn"_s, 5},
-            {u"formsScrn"_s, 11},         {u"prefScrn"_s, 13},        {u"TransferDataScrn"_s, -1},
-            {u"backUpDlog"_s, -1},        {u"restoreDlog"_s, -1},     {u"updateDlog"_s, -1},
-            {u"helpScrn2"_s, -1},         {u"HelpAbbrevScrn"_s, -1},  {u"startScrn1"_s, -1},
+            {u"teamScrn"_s, 2},
+            {u"personnelScrn"_s, 3},
+            {u"scheduleScrn"_s, 6},
+            {u"gameDayScrn"_s, 7},
+            {u"practicePlanScrn"_s, 8},
+            {u"InventoryScrn"_s, 10},
+            {u"eventsCalendarScrn"_s, 6},
+            {u"contactInfoScrn"_s, 4},
+            {u"emailInfoScrn"_s, -1},
+            {u"reportIntroScrn"_s, 9},
+            {u"reportScrn"_s, 9},
+            {u"standingsScrn"_s, 5},
+            {u"formsScrn"_s, 11},
+            {u"prefScrn"_s, 13},
+            {u"TransferDataScrn"_s, -1},
+            {u"backUpDlog"_s, -1},
+            {u"restoreDlog"_s, -1},
+            {u"updateDlog"_s, -1},
+            {u"helpScrn2"_s, -1},
+            {u"HelpAbbrevScrn"_s, -1},
+            {u"startScrn1"_s, -1},
+            {u"boxScoreScrn"_s, 9},
+            {u"pitcherAvailabilityScrn"_s, 17},
         };
         QTest::addColumn<int>("id");
         QTest::addColumn<int>("topic");

@@ -160,12 +160,13 @@ private Q_SLOTS:
         auto *report = new reportScrn(0, {"First Name", "Last Name", "AB", "Avg", "OBP", "SP"});
         report->columnSetPop->setCurrentIndex(1);
         QCOMPARE(report->reportBox->headings(),
-                 (QStringList{"First Name", "Last Name", "OBP2", "OPS", "ISO", "BABIP", "K%", "BB%"}));
+                 (QStringList{"First Name", "Last Name", "Team", "OBP2", "OPS", "ISO", "BABIP", "K%", "BB%"}));
         QCOMPARE(report->reportBox->rowCells(0),
-                 (QStringList{"Al", "Ames", ".533", "1.333", ".400", ".429", "18.8", "18.8"}));
+                 (QStringList{"Al", "Ames", "Eagles", ".533", "1.333", ".400", ".429", "18.8", "18.8"}));
         report->columnSetPop->setCurrentIndex(0);
-        QCOMPARE(report->reportBox->headings(), (QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP"}));
-        QCOMPARE(report->reportBox->rowCells(0), (QStringList{"Al", "Ames", "10", ".400", ".467", ".800"}));
+        QCOMPARE(report->reportBox->headings(),
+                 (QStringList{"First Name", "Last Name", "Team", "AB", "Avg", "OBP", "SP"}));
+        QCOMPARE(report->reportBox->rowCells(0), (QStringList{"Al", "Ames", "Eagles", "10", ".400", ".467", ".800"}));
         delete report;
     }
 
@@ -358,8 +359,8 @@ private Q_SLOTS:
         const QString path = f.home.filePath(QStringLiteral("batting.csv"));
         f.platform.files.answers.enqueue(path);
         report->menus()->item(QStringLiteral("FileExport"))->trigger();
-        QCOMPARE(readAll(path), QByteArray("First Name,Last Name,AB,Avg,OBP,SP,BB\r\n"
-                                           "Al,\"Ames, Jr.\",4,.250,.400,.250,1\r\n"));
+        QCOMPARE(readAll(path), QByteArray("First Name,Last Name,Team,AB,Avg,OBP,SP,BB\r\n"
+                                           "Al,\"Ames, Jr.\",Eagles,4,.250,.400,.250,1\r\n"));
         delete report;
     }
 };

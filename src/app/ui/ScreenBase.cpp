@@ -55,6 +55,7 @@ void ScreenBase::installHelpMenus(int topic)
             break;
         case ScreenId::reportIntroScrn:
         case ScreenId::reportScrn:
+        case ScreenId::boxScoreScrn:
             topic = 9;
             break;
         case ScreenId::InventoryScrn:

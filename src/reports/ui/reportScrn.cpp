@@ -107,7 +107,7 @@ void reportScrn::showColumnSet()
         reportBox->setColumnCount(int(headers.size()));
         reportBox->setHeadings(headers);
         QStringList widths(headers.size(), QStringLiteral("42"));
-        widths[0] = widths[1] = QStringLiteral("84");
+        widths[0] = widths[1] = widths[2] = QStringLiteral("84");
         reportBox->setColumnWidths(widths.join(u','));
     } else {
         reportBox->setColumnCount(int(m_report.curHeaders().size()));

@@ -20,6 +20,7 @@
 #include "seasondata/ui/TransferDataScrn.h"
 #include "seasondata/ui/backUpDlog.h"
 #include "seasondata/ui/prefScrn.h"
+#include "stats/ui/boxScoreScrn.h"
 #include "support/HelpRequests.h"
 #include "support/cAutoUpdate.h"
 #include "support/ui/updateDlog.h"
@@ -45,6 +46,8 @@ void registerScreens()
     screens::registerScreen(ScreenId::contactInfoScrn, [] { return new contactInfoScrn; });
     // A modal dialog: the opener runs it, reads "rtrnEmail" and deletes it.
     screens::registerScreen(ScreenId::emailInfoScrn, [] { return new emailInfoScrn; });
+    screens::registerScreen(ScreenId::boxScoreScrn,
+                            [](const QVariant &eventID) { return new boxScoreScrn(eventID.toString()); });
     screens::registerScreen(ScreenId::practicePlanScrn,
                             [](const QVariant &eventID) { return new practicePlanScrn(eventID.toString()); });
     screens::registerScreen(ScreenId::TransferDataScrn, [] { return new TransferDataScrn; });

@@ -27,7 +27,7 @@ const QStringList &atBatCodes()
                                       QStringLiteral("HBP"), QStringLiteral("SAC"), QStringLiteral("FO"),
                                       QStringLiteral("GO"),  QStringLiteral("KS"),  QStringLiteral("KL"),
                                       QStringLiteral("HDP"), QStringLiteral("ROE"), QStringLiteral("FC"),
-                                      QStringLiteral("CI")};
+                                      QStringLiteral("CI"),  QStringLiteral("SF")};
     return codes;
 }
 
@@ -48,7 +48,7 @@ const QStringList &commandCaptions()
 
 bool countABs(QStringView code)
 {
-    return !(code == u"BB" || code == u"IBB" || code == u"SAC" || code == u"HBP" || code == u"CI");
+    return !(code == u"BB" || code == u"IBB" || code == u"SAC" || code == u"SF" || code == u"HBP" || code == u"CI");
 }
 
 bool isHitCode(QStringView code)

@@ -51,7 +51,7 @@ void ScoreGrid::initDict()
     const QString out = bkg(kBkgOut);
     for (const char *code : {"B1", "B2", "B3", "BB", "IBB", "HBP", "ROE", "FC", "CI"})
         actionDict.insert(QString::fromLatin1(code), none);
-    for (const char *code : {"SAC", "FO", "GO", "KS", "KL", "HDP", "xCS", "xPOB", "xFrcO", "xOUT"})
+    for (const char *code : {"SAC", "SF", "FO", "GO", "KS", "KL", "HDP", "xCS", "xPOB", "xFrcO", "xOUT"})
         actionDict.insert(QString::fromLatin1(code), out);
     actionDict.insert(QStringLiteral("HR"), bkg(kBkgRun));
     actionDict.insert(QStringLiteral("xRUN"), bkg(kBkgRun));
@@ -650,7 +650,9 @@ std::array<int, 21> ScoreGrid::getHittingStats(int row) const
             ++stats[0];
         // A user-defined abbreviation may take over a code's key with an
         // index past this array; such a key counts nowhere here.
-        const int index = hitD.value(text, -1);
+        // A sacrifice fly is a sacrifice: it adds to SAC (and is counted
+        // apart as well, by the recorder).
+        const int index = hitD.value(text == u"SF" ? QStringLiteral("SAC") : text, -1);
         if (index >= 0 && index < int(stats.size()))
             ++stats[index];
     }

@@ -1,6 +1,7 @@
 #include "reports/ListBoxText.h"
 
 #include "reports/ListBoxModel.h"
+#include "reports/SeasonCsv.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -53,6 +54,15 @@ QString exportText(const ListBoxModel &list, const QString &title)
     for (int row = 0; row < list.rowCount(); ++row)
         out += tabbedLine(list.rowCells(row)) + u'\n';
     return out;
+}
+
+QByteArray exportCsv(const ListBoxModel &list)
+{
+    QList<QStringList> rows;
+    rows.reserve(list.rowCount());
+    for (int row = 0; row < list.rowCount(); ++row)
+        rows.append(list.rowCells(row));
+    return reports::rowsCsv(list.headings(), rows);
 }
 
 QString dataAsString(const ListBoxModel &list, const QString &prefix, int skipColumn, bool withTags)

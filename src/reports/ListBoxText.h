@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -13,6 +14,9 @@ namespace ListBoxText {
 // end). Cells are followed by a tab, and the trailing tabs of each line are
 // cut, so a row ending in empty cells is shorter than the heading line.
 QString exportText(const ListBoxModel &list, const QString &title);
+
+// The headings and every row as CSV (CR LF line ends, UTF-8).
+QByteArray exportCsv(const ListBoxModel &list);
 
 // `prefix`, then each row's cells joined by tabs (a skipped column leaves
 // its text out but keeps its tab), with "\t" + row tag when `withTags`;

@@ -2,7 +2,9 @@
 
 #include "app/myDB.h"
 #include "app/myDictionaries.h"
+#include "reports/ModernRates.h"
 #include "reports/NumberMask.h"
+#include "reports/SeasonCsv.h"
 
 #include <algorithm>
 
@@ -113,15 +115,66 @@ bool SeasonReport::load(myDB &db)
     hData.clear();
     fData.clear();
     pData.clear();
+    m_more.clear();
+    const QHash<qint64, double> flies = m_kind == Batting ? sacrificeFlies(db) : QHash<qint64, double>{};
+    const auto more = [this, &flies](const SeasonRow &row) {
+        m_more.append(moreRates(m_kind, row.figures, flies.value(row.playerID)));
+    };
     switch (m_kind) {
     case Batting:
-        return readSeasonRows(db, m_kind, [this](const SeasonRow &row) { hData.append(hitReporter(row)); });
+        return readSeasonRows(db, m_kind, [&](const SeasonRow &row) {
+            hData.append(hitReporter(row));
+            more(row);
+        });
     case Fielding:
-        return readSeasonRows(db, m_kind, [this](const SeasonRow &row) { fData.append(fldReporter(row)); });
+        return readSeasonRows(db, m_kind, [&](const SeasonRow &row) {
+            fData.append(fldReporter(row));
+            more(row);
+        });
     case Pitching:
         break;
     }
-    return readSeasonRows(db, m_kind, [this](const SeasonRow &row) { pData.append(pitchReporter(row)); });
+    return readSeasonRows(db, m_kind, [&](const SeasonRow &row) {
+        pData.append(pitchReporter(row));
+        more(row);
+    });
+}
+
+QStringList SeasonReport::moreHeaders() const
+{
+    QStringList out{QStringLiteral("First Name"), QStringLiteral("Last Name")};
+    for (const RateColumn &c : moreColumns(m_kind))
+        out.append(c.key);
+    return out;
+}
+
+QList<QStringList> SeasonReport::moreRows(const ReportFilter &filter) const
+{
+    const QList<RateColumn> &columns = moreColumns(m_kind);
+    QList<QStringList> out;
+    const auto take = [&](const auto &data) {
+        for (qsizetype i = 0; i < data.size() && i < m_more.size(); ++i) {
+            const auto &r = data.at(i);
+            if (!filter.passes(r.tID, r.mLeague, r.mDivision))
+                continue;
+            QStringList cells{r.FName, r.LName};
+            for (qsizetype c = 0; c < columns.size(); ++c)
+                cells.append(formatMask(m_more.at(i).value(c), columns.at(c).mask));
+            out.append(cells);
+        }
+    };
+    switch (m_kind) {
+    case Batting:
+        take(hData);
+        break;
+    case Fielding:
+        take(fData);
+        break;
+    case Pitching:
+        take(pData);
+        break;
+    }
+    return out;
 }
 
 namespace {

@@ -74,6 +74,11 @@ public:
     // cell as shown: names, then the figures through their masks.
     QList<QStringList> rows(const ReportFilter &filter) const;
 
+    // The "More" column set: the name columns, then the modern rates of the
+    // report (ModernRates), each line as rows() gives it.
+    QStringList moreHeaders() const;
+    QList<QStringList> moreRows(const ReportFilter &filter) const;
+
     QList<hitReporter> hData;
     QList<fldReporter> fData;
     QList<pitchReporter> pData;
@@ -87,6 +92,8 @@ private:
 
     ReportKind m_kind;
     QStringList m_headers;
+    // The "More" rates of each reporter, in the order of hData, fData or pData.
+    QList<QList<double>> m_more;
 };
 
 } // namespace reports

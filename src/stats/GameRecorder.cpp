@@ -6,6 +6,7 @@
 #include "gameday/GridCodes.h"
 #include "gameday/ScoreGrid.h"
 #include "stats/GameResultClass.h"
+#include "stats/SacrificeFlies.h"
 #include "stats/SeasonFold.h"
 
 #include <SQLiteCpp/Database.h>
@@ -229,6 +230,12 @@ GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game
         }
         fold.addResult(outcome);
         fold.write(db);
+        QHash<qint64, qint64> flies;
+        for (int t = 0; t < 2; ++t) {
+            for (const PlayerAdditions &p : additions[t].players)
+                flies[idValue(p.playerID)] += p.sacrificeFlies;
+        }
+        addSacrificeFlies(db, flies);
         gameday::GameStore::writeWithin(m_db, recorded);
     });
     if (refused) {

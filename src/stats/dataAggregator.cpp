@@ -87,6 +87,10 @@ TeamAdditions dataAggregator::collect(const gameday::ScoreGrid &grid, const QStr
         const std::array<int, 21> counted = grid.getHittingStats(r);
         for (std::size_t i = 0; i < counted.size(); ++i)
             player.hitting[i] += counted[i];
+        for (int c = 0; c < grid.columnCount(); ++c) {
+            if (grid.cellText(r, c) == u"SF")
+                ++player.sacrificeFlies;
+        }
         // The row's backgrounds are its runs and its times left on base.
         for (int c = 0; c < qMin(grid.columnCount(), gameday::kBkgCols); ++c) {
             const QString bkg = grid.cellBkg(r, c);

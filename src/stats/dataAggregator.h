@@ -31,6 +31,7 @@ struct PlayerAdditions
     QString playerID;
     QString name;
     HitArray hitting{};
+    qint64 sacrificeFlies = 0;          // "SF" cells, also counted in SAC
     std::optional<FldArray> fielding;   // only with a fielding panel row
     std::optional<PitchArray> pitching; // only with a pitching panel row
 };

@@ -51,7 +51,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expBkg");
 
         // Every code on a blank cell: its own text and the background of the table.
-        const QStringList outs = {"SAC", "FO", "GO", "KS", "KL", "HDP"};
+        const QStringList outs = {"SAC", "SF", "FO", "GO", "KS", "KL", "HDP"};
         for (const QString &code : gameday::atBatCodes()) {
             const QString b = code == u"HR" ? "G" : outs.contains(code) ? "R" : "";
             QTest::addRow("blank + %s", qPrintable(code)) << ""

@@ -133,7 +133,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, typed);
         QFETCH(QString, meaning);
-        QCOMPARE(help::abbreviationRows().size(), 57);
+        QCOMPARE(help::abbreviationRows().size(), 74);
         const int row = help::findAbbreviation(typed);
         QCOMPARE(row < 0 ? QStringLiteral("-") : help::abbreviationRows().at(row).second, meaning);
     }

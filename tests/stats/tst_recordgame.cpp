@@ -35,7 +35,7 @@ QStringList storeTwoGames(Season &s)
     Season::pitchPanel(g1, "302", {2, false, false, false, 0, 0, "4.2\t25\t7"});
 
     const QString g2 = s.storeGame(Card{home, {"B2/G", "SAC/R", "CI/Y"}, "0\t0\r1\t0\r0\t0"},
-                                   Card{bears, {"HR/G", "KL/R"}, "1\t0\r0\t0"});
+                                   Card{bears, {"HR/G", "KL/R SF/R"}, "1\t0\r0\t0"});
     Season::panel(stats::Panel::Fielding, g2, "201", "7\t2\t2");
     Season::panel(stats::Panel::Fielding, g2, "203", "9\t1\t1\t0\t0\t1");
     Season::pitchPanel(g2, "205", {1, false, false, false, 10, 12, "2.2\t9"});
@@ -85,6 +85,15 @@ private Q_SLOTS:
         QTest::newRow("home run for the other side") << 2 << "Hitting"
                                                      << "301"
                                                      << "AB=3 HR=1 GO=1 KS=1 Runs=1 RBI=1";
+        QTest::newRow("sacrifice fly is a sacrifice") << 2 << "Hitting"
+                                                      << "302"
+                                                      << "AB=3 B2=1 SAC=1 FO=1 KL=1 LOB=1";
+        QTest::newRow("and counted apart") << 2 << "SacFlies"
+                                           << "302"
+                                           << "SF=1";
+        QTest::newRow("no sacrifice fly, no table") << 1 << "SacFlies"
+                                                    << "302"
+                                                    << "";
         QTest::newRow("fielding first in the second game") << 2 << "Fielding"
                                                            << "201"
                                                            << "IP=7 CH=2 PO=2";
@@ -119,6 +128,15 @@ private Q_SLOTS:
 
         if (table == u"GameResultsByTeam") {
             QCOMPARE(Season::record(player == u"home" ? s.homeID : s.bearsID), expected);
+            return;
+        }
+        if (table == u"SacFlies") {
+            const bool made = gData->tlynData->tableExists("SacFlies");
+            QCOMPARE(made ? QStringLiteral("SF=") +
+                                gData->scalar(QStringLiteral("SELECT SF FROM SacFlies WHERE playerID = ?"), {player})
+                                    .toString()
+                          : QString(),
+                     expected);
             return;
         }
         const QString team = player.startsWith(u'3') ? s.bearsID : s.homeID;

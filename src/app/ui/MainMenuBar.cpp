@@ -37,6 +37,8 @@ MainMenuBar::MainMenuBar(QWidget *parent) : QMenuBar(parent)
     addItem(file, QStringLiteral("FilePrint"), QStringLiteral("Print"), QKeySequence(QStringLiteral("Ctrl+P")));
     addItem(file, QStringLiteral("FileExport"), QStringLiteral("Export Data"),
             QKeySequence(QStringLiteral("Ctrl+Shift+E")));
+    addItem(file, QStringLiteral("FileExportCalendar"), QStringLiteral("Export Calendar..."));
+    addItem(file, QStringLiteral("FileImportRoster"), QStringLiteral("Import Roster..."));
     addItem(file, QStringLiteral("FileBackup"), QStringLiteral("Backup Data"));
     addItem(file, QStringLiteral("FileRestore"), QStringLiteral("Restore Data..."));
     file->addSeparator();

@@ -47,6 +47,8 @@ QString screenName(ScreenId id)
         return QStringLiteral("HelpAbbrevScrn");
     case ScreenId::startScrn1:
         return QStringLiteral("startScrn1");
+    case ScreenId::boxScoreScrn:
+        return QStringLiteral("boxScoreScrn");
     }
     return {};
 }

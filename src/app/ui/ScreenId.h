@@ -26,7 +26,8 @@ enum class ScreenId {
     updateDlog,
     helpScrn2, // argument: the topic number, or none for the index
     HelpAbbrevScrn,
-    startScrn1, // the hub; made through startScrn1::showStartScreen()
+    startScrn1,   // the hub; made through startScrn1::showStartScreen()
+    boxScoreScrn, // argument: the event id of the game
 };
 
 // The window's objectName: the name the program's design gives it.

@@ -38,7 +38,8 @@ int PopoverCodeList::indexAt(QPoint point) const
 
 void PopoverCodeList::setCurrent(int index)
 {
-    if (index < 0 || index >= m_cells.size() || index == m_current)
+    // A blank cell filling out the table is never current.
+    if (index < 0 || index >= m_cells.size() || index == m_current || m_cells.at(index).value.isEmpty())
         return;
     m_current = index;
     setAccessibleDescription(m_cells.at(index).text + u": " + m_cells.at(index).description);
@@ -72,7 +73,7 @@ void PopoverCodeList::paintEvent(QPaintEvent *)
 void PopoverCodeList::mousePressEvent(QMouseEvent *event)
 {
     const int index = indexAt(event->position().toPoint());
-    if (event->button() != Qt::LeftButton || index < 0)
+    if (event->button() != Qt::LeftButton || index < 0 || m_cells.at(index).value.isEmpty())
         return;
     setCurrent(index);
     Q_EMIT picked(m_cells.at(index).value);

@@ -18,8 +18,12 @@ constexpr int kMargin = 6;
 constexpr int kListWidth = 216;
 constexpr int kWidth = kListWidth + 2 * kMargin;
 constexpr int kButtonHeight = 22;
-constexpr int kFullHeight = 222 + kButtonHeight + kMargin;
-constexpr int kButtonsOnlyTop = -162;
+// The at-bat list has five rows of 22: sixteen codes, "SF" and three blanks.
+constexpr int kActionRows = 5;
+constexpr int kActionHeight = kActionRows * 22;
+constexpr int kBelowActions = kActionHeight - 88; // what the fifth row moved down
+constexpr int kFullHeight = 222 + kBelowActions + kButtonHeight + kMargin;
+constexpr int kButtonsOnlyTop = -162 - kBelowActions;
 constexpr int kButtonsOnlyHeight = 88;
 
 const QColor kActionColour = QColor::fromRgb(0xEEE8BD);
@@ -27,14 +31,14 @@ const QColor kResultColour = QColor::fromRgb(0xD8EECD);
 
 QList<PopoverCodeList::Cell> actionCells()
 {
-    const char *const descriptions[16] = {"single",
+    const char *const descriptions[17] = {"single",
                                           "double",
                                           "triple",
                                           "home run",
                                           "base on balls",
                                           "intentional base on balls",
                                           "hit by pitch",
-                                          "sacrifice fly",
+                                          "sacrifice",
                                           "fly out",
                                           "ground out",
                                           "strike out swinging",
@@ -42,11 +46,14 @@ QList<PopoverCodeList::Cell> actionCells()
                                           "hit into double play",
                                           "reached on error",
                                           "fielder's choice",
-                                          "catcher interference"};
+                                          "catcher interference",
+                                          "sacrifice fly: a fly out that scores a run"};
     QList<PopoverCodeList::Cell> cells;
     const QStringList &codes = gameday::atBatCodes();
     for (int i = 0; i < codes.size(); ++i)
         cells.append({codes.at(i), codes.at(i), QString::fromLatin1(descriptions[i]), kActionColour});
+    while (cells.size() < kActionRows * 4)
+        cells.append({QString(), QString(), QString(), kActionColour});
     return cells;
 }
 
@@ -75,7 +82,7 @@ battingPOP::battingPOP(QWidget *parent) : QWidget(parent, Qt::Popup)
     setAttribute(Qt::WA_NoMouseReplay);
 
     batActionLabel = new QLabel(tr("At Bat Action"), this);
-    batActionLB = new PopoverCodeList(4, 4, actionCells(), this);
+    batActionLB = new PopoverCodeList(kActionRows, 4, actionCells(), this);
     batActionLB->setObjectName(QStringLiteral("batActionLB"));
     batActionLB->setAccessibleName(batActionLabel->text());
     batActionLabel->setBuddy(batActionLB);
@@ -111,14 +118,14 @@ battingPOP::~battingPOP()
 
 void battingPOP::layOut(bool showAll)
 {
-    // Without the lists the whole layout moves up by 162, so only the three
+    // Without the lists the whole layout moves up past them, so only the three
     // pairs of buttons are in the window; the lists are also hidden so the
     // keyboard can't reach them.
     displayTop = showAll ? 0 : kButtonsOnlyTop;
     batActionLabel->setGeometry(kMargin, displayTop + 0, kListWidth, 18);
-    batActionLB->setGeometry(kMargin, displayTop + 18, kListWidth, 88);
-    resultLabel->setGeometry(kMargin, displayTop + 110, kListWidth, 18);
-    resultLB->setGeometry(kMargin, displayTop + 128, kListWidth, 44);
+    batActionLB->setGeometry(kMargin, displayTop + 18, kListWidth, kActionHeight);
+    resultLabel->setGeometry(kMargin, displayTop + 110 + kBelowActions, kListWidth, 18);
+    resultLB->setGeometry(kMargin, displayTop + 128 + kBelowActions, kListWidth, 44);
     for (QWidget *w : {static_cast<QWidget *>(batActionLabel), static_cast<QWidget *>(batActionLB),
                        static_cast<QWidget *>(resultLabel), static_cast<QWidget *>(resultLB)})
         w->setVisible(showAll);
@@ -126,7 +133,7 @@ void battingPOP::layOut(bool showAll)
     const int half = (kListWidth - 4) / 2;
     for (int i = 0; i < int(actionBtn.size()); ++i) {
         const int x = kMargin + (i % 2) * (half + 4);
-        const int y = displayTop + 174 + (i / 2) * 24;
+        const int y = displayTop + 174 + kBelowActions + (i / 2) * 24;
         actionBtn[i]->setGeometry(x, y, half, kButtonHeight);
     }
     setFixedSize(kWidth, showAll ? kFullHeight : kButtonsOnlyHeight);

@@ -5,12 +5,17 @@
 #include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/startScrn1.h"
+#include "people/MemberStore.h"
 #include "people/PeopleText.h"
 #include "people/Pictures.h"
+#include "people/RosterCsv.h"
 #include "people/ui/PeopleMenus.h"
 #include "people/ui/PictureCanvas.h"
 #include "people/ui/playerInfoCtr.h"
+#include "people/ui/rosterImportDlog.h"
+#include "platform/FileDialogs.h"
 #include "platform/Services.h"
+#include "reports/ListBoxText.h"
 #include "reports/ui/qlmListBox.h"
 #include "support/ui/PlusMinusContainer.h"
 #include "support/ui/iPhoneField.h"
@@ -19,6 +24,9 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,6 +34,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSaveFile>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -59,6 +68,14 @@ personnelScrn::personnelScrn(QWidget *parent)
     buildControls();
     installPeopleMenus(
         menus(), QStringLiteral("Print Player List"), [this] { hndlPrint(0); }, 2);
+    menus()->installHandler(QStringLiteral("FileExport"), [this] {
+        exportRoster();
+        return true;
+    });
+    menus()->installHandler(QStringLiteral("FileImportRoster"), [this] {
+        importRoster();
+        return true;
+    });
 
     fillTeamPopups();
     setPlayerMode(true);
@@ -66,6 +83,77 @@ personnelScrn::personnelScrn(QWidget *parent)
 }
 
 personnelScrn::~personnelScrn() = default;
+
+void personnelScrn::exportRoster()
+{
+    const QString team = teamIDFld->text();
+    if (team.isEmpty() || !gData)
+        return;
+    platform::FileRequest request;
+    request.title = u"Export Roster"_s;
+    request.prompt = u"Choose a location for the team's roster."_s;
+    request.suggestedName = selectTeamPop->currentText() + u" Roster.csv"_s;
+    request.nameFilters = {u"CSV files (*.csv)"_s};
+    request.initialDir = ListBoxText::exportFolder();
+    QString path = platform::files().saveFile(request);
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += u".csv"_s;
+    const QByteArray text = people::rosterCsv(people::MemberStore(*gData).players(team));
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+        return;
+    gShowMsgDlog(u"The file \""_s + QDir::toNativeSeparators(path) + u"\" couldn't be written."_s, file.errorString(),
+                 u"OK"_s);
+}
+
+void personnelScrn::importRoster()
+{
+    const QString team = teamIDFld->text();
+    if (team.isEmpty() || !gData)
+        return;
+    if (m_state.needsSaveQuestion())
+        askSaveDirty();
+    platform::FileRequest request;
+    request.title = u"Import Players"_s;
+    request.prompt = u"Choose a CSV file with a heading line and a line per player."_s;
+    request.nameFilters = {u"CSV files (*.csv)"_s, u"All files (*)"_s};
+    request.initialDir = ListBoxText::exportFolder();
+    const QString path = platform::files().openFile(request);
+    if (path.isEmpty())
+        return;
+    const QString shown = u"\""_s + QDir::toNativeSeparators(path) + u"\""_s;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        gShowMsgDlog(u"The file "_s + shown + u" can't be read."_s, file.errorString(), u"OK"_s);
+        return;
+    }
+    const people::RosterImport import = people::RosterImport::read(file.readAll());
+    if (!import.problem().isEmpty()) {
+        gShowMsgDlog(u"The file "_s + shown + u" can't be imported."_s,
+                     import.problem() + u" Nothing was added to the team."_s, u"OK"_s);
+        return;
+    }
+    if (import.players(team).isEmpty()) {
+        gShowMsgDlog(u"The file "_s + shown + u" holds no players."_s,
+                     u"It needs a heading line, then a line per player."_s, u"OK"_s);
+        return;
+    }
+    rosterImportDlog dialog(import, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const people::RosterImport::Result result = dialog.import().write(*gData, team);
+    if (!result.written)
+        return; // the database error has been shown
+    fillLists();
+    QString explanation;
+    if (!result.skipped.isEmpty())
+        explanation = u"Already on the team, so left out: "_s + result.skipped.join(u", "_s) + u'.';
+    gShowMsgDlog(result.added == 1 ? u"1 player was added."_s
+                                   : QString::number(result.added) + u" players were added."_s,
+                 explanation, u"OK"_s);
+}
 
 void personnelScrn::buildControls()
 {

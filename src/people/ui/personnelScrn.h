@@ -81,6 +81,11 @@ public:
     QToolButton *printBtn = nullptr;
     playerInfoCtr *myPlayerCtr = nullptr;
 
+    // File > Export Data: the selected team's players as CSV.
+    void exportRoster();
+    // File > Import Roster...: players for the selected team from a CSV file.
+    void importRoster();
+
 protected:
     bool mayClose() override;
 

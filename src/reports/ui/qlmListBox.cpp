@@ -7,6 +7,7 @@
 #include "reports/ListBoxText.h"
 
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -397,14 +398,23 @@ void qlmListBox::exportMe(const QString &title)
     request.title = QStringLiteral("Export A List");
     request.prompt = QStringLiteral("Choose a location for the exported list.");
     request.suggestedName = title;
-    request.nameFilters = {QStringLiteral("Text files (*.txt)")};
+    request.nameFilters = {QStringLiteral("Text files (*.txt)"), QStringLiteral("CSV files (*.csv)")};
     request.initialDir = ListBoxText::exportFolder();
     const QString path = ListBoxText::exportFilePath(platform::files().saveFile(request));
     if (path.isEmpty())
         return;
     // Written to a temporary file and renamed over the target when complete,
-    // so an existing file is never left half written. Text mode gives the
-    // platform's line ends.
+    // so an existing file is never left half written. A ".csv" name gets the
+    // heading and rows as CSV, whose line ends are CR LF everywhere.
+    if (QFileInfo(path).suffix().compare(QStringLiteral("csv"), Qt::CaseInsensitive) == 0) {
+        QSaveFile csvFile(path);
+        if (csvFile.open(QIODevice::WriteOnly)) {
+            csvFile.write(ListBoxText::exportCsv(*m_model));
+            csvFile.commit();
+        }
+        return;
+    }
+    // Text mode gives the platform's line ends.
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return;

@@ -1,15 +1,25 @@
 #include "reports/ui/reportIntroScrn.h"
 
+#include "app/globals.h"
+#include "app/myDB.h"
 #include "app/ui/Form.h"
+#include "app/ui/MainMenuBar.h"
+#include "platform/FileDialogs.h"
+#include "platform/Services.h"
+#include "reports/ListBoxText.h"
+#include "reports/SeasonCsv.h"
 #include "reports/SeasonReport.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportScrn.h"
 #include "support/ui/qlmCheckBox.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QVBoxLayout>
 
 namespace {
@@ -57,6 +67,36 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
     resize(620, 560);
 
     connect(cancelBtn, &QPushButton::clicked, this, &QWidget::close);
+    menus()->installHandler(QStringLiteral("FileExport"), [this] {
+        exportSeason();
+        return true;
+    });
+}
+
+void reportIntroScrn::exportSeason()
+{
+    if (!gData || !gData->isConnected())
+        return;
+    platform::FileRequest request;
+    request.title = QStringLiteral("Export Season Statistics");
+    request.prompt = QStringLiteral("Choose a location for the season's statistics.");
+    request.suggestedName = QStringLiteral("Season Statistics.csv");
+    request.nameFilters = {QStringLiteral("CSV files (*.csv)")};
+    request.initialDir = ListBoxText::exportFolder();
+    QString path = platform::files().saveFile(request);
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += QStringLiteral(".csv");
+    const QByteArray text = reports::seasonCsv(*gData);
+    if (text.isEmpty())
+        return;
+    // Renamed over the target only when complete.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        gShowMsgDlog(QStringLiteral("The file \"") + QDir::toNativeSeparators(path) +
+                         QStringLiteral("\" couldn't be written."),
+                     file.errorString(), QStringLiteral("OK"));
 }
 
 void reportIntroScrn::statsLB_Open(int which)

@@ -26,6 +26,8 @@ public:
     QStringList chosenHeaders(int which) const;
     // Opens the report of list `which` and closes this window.
     void viewBtn_Action(int which);
+    // File > Export Data: the whole season's statistics as one CSV file.
+    void exportSeason();
 
     std::array<QLabel *, 3> headerLbl{};
     std::array<qlmListBox *, 3> statsLB{};

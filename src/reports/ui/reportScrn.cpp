@@ -45,6 +45,10 @@ reportScrn::reportScrn(int which, const QStringList &headers, QWidget *parent)
     top->addWidget(DivisionFilter);
     top->addWidget(form::buddyLabel(teamFilter, QStringLiteral("&Team:"), central));
     top->addWidget(teamFilter);
+    columnSetPop = form::comboBox(central, QStringLiteral("columnSetPop"), QStringLiteral("Columns"));
+    columnSetPop->addItems({QStringLiteral("Standard"), QStringLiteral("More")});
+    top->addWidget(form::buddyLabel(columnSetPop, QStringLiteral("C&olumns:"), central));
+    top->addWidget(columnSetPop);
     outer->addLayout(top);
 
     reportBox = form::named(new qlmListBox(central), QStringLiteral("reportBox"), QStringLiteral("Report"));
@@ -89,10 +93,35 @@ reportScrn::reportScrn(int which, const QStringList &headers, QWidget *parent)
     scrnSetup();
 }
 
+bool reportScrn::showsMore() const
+{
+    return columnSetPop->currentIndex() == 1;
+}
+
+void reportScrn::showColumnSet()
+{
+    reportBox->deleteAllRows();
+    if (showsMore()) {
+        const QStringList headers = m_report.moreHeaders();
+        reportBox->setColumnCount(int(headers.size()));
+        reportBox->setHeadings(headers);
+        QStringList widths(headers.size(), QStringLiteral("42"));
+        widths[0] = widths[1] = QStringLiteral("84");
+        reportBox->setColumnWidths(widths.join(u','));
+    } else {
+        reportBox->setColumnCount(int(m_report.curHeaders().size()));
+        reportBox->setHeadings(m_report.curHeaders());
+        reportBox->setColumnWidths(m_report.columnWidths());
+    }
+}
+
 void reportScrn::scrnSetup()
 {
-    reportBox->setHeadings(m_report.curHeaders());
-    reportBox->setColumnWidths(m_report.columnWidths());
+    showColumnSet();
+    connect(columnSetPop, &QComboBox::currentIndexChanged, this, [this] {
+        showColumnSet();
+        displayData();
+    });
     titleLbl->setText(m_report.title());
     setWindowTitle(m_report.title() + QStringLiteral(" Report"));
     // The list is as wide as its columns, up to a screen's width.
@@ -129,7 +158,7 @@ void reportScrn::filterChanged()
 void reportScrn::displayData()
 {
     reportBox->deleteAllRows();
-    reportBox->addRows(m_report.rows(m_filter));
+    reportBox->addRows(showsMore() ? m_report.moreRows(m_filter) : m_report.rows(m_filter));
     // New lines keep the order of the heading the coach clicked last.
     const QHeaderView *heading = reportBox->header();
     if (heading->sortIndicatorSection() >= 0 && heading->isSortIndicatorShown())

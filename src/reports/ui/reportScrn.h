@@ -33,6 +33,8 @@ public:
     QComboBox *leagueFilter = nullptr;
     QComboBox *DivisionFilter = nullptr;
     QComboBox *teamFilter = nullptr;
+    // "Standard" (the chosen columns) or "More" (the modern rates).
+    QComboBox *columnSetPop = nullptr;
     QPushButton *closeBtn = nullptr;
     QPushButton *newRptBtn = nullptr;
     myInfoBtn *helpBtn = nullptr;
@@ -45,6 +47,8 @@ private:
     void scrnSetup();
     void fillFilters();
     void filterChanged();
+    void showColumnSet();
+    bool showsMore() const;
 
     reports::SeasonReport m_report;
     reports::ReportFilter m_filter;

@@ -9,6 +9,7 @@
 #include "schedule/EventDates.h"
 #include "schedule/EventsCalendar.h"
 #include "schedule/ScheduleStore.h"
+#include "schedule/ui/CalendarExport.h"
 #include "schedule/ui/monthlyEventsLayer.h"
 
 #include <QHBoxLayout>
@@ -64,6 +65,10 @@ eventsCalendarScrn::eventsCalendarScrn(QWidget *parent)
 
     menus()->installHandler(QStringLiteral("FilePrint"), [this] {
         hndlPrint();
+        return true;
+    });
+    menus()->installHandler(QStringLiteral("FileExportCalendar"), [] {
+        schedule::exportCalendar();
         return true;
     });
     menus()->installPrinterSetup();

@@ -7,6 +7,7 @@
 #include "app/ui/ScreenDirectory.h"
 #include "app/ui/startScrn1.h"
 #include "reports/ui/qlmListBox.h"
+#include "schedule/ui/CalendarExport.h"
 #include "schedule/ui/newEventScrn.h"
 
 #include <QCloseEvent>
@@ -59,12 +60,14 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     exportBtn = form::button(central, u"exportBtn"_s, u"E&xport"_s);
     viewCalendarBtn = form::button(central, u"viewCalendarBtn"_s, u"&Calendar"_s);
     outer->addLayout(form::row({newEventBtn, editBtn, deleteEvBtn, enterDataBtn}));
-    outer->addLayout(form::row({printBtn, exportBtn, viewCalendarBtn, nullptr}));
+    boxScoreBtn = form::button(central, u"boxScoreBtn"_s, u"&Box Score"_s);
+    outer->addLayout(form::row({printBtn, exportBtn, viewCalendarBtn, boxScoreBtn}));
     setCentralWidget(central);
 
     editBtn->setEnabled(false);
     deleteEvBtn->setEnabled(false);
     enterDataBtn->setEnabled(false);
+    boxScoreBtn->setEnabled(false);
     // The events calendar opens from here once it is part of the program.
     viewCalendarBtn->setEnabled(screens::has(ScreenId::eventsCalendarScrn));
 
@@ -87,6 +90,13 @@ scheduleScrn::scheduleScrn(QWidget *parent)
         if (QWidget *window = screens::create(target, ScheduleListbox->rowTag(row)))
             window->show();
     });
+    connect(boxScoreBtn, &QPushButton::clicked, this, [this] {
+        const int row = ScheduleListbox->selectedRow();
+        if (row < 0 || !boxScoreBtn->isEnabled())
+            return;
+        if (QWidget *window = screens::create(ScreenId::boxScoreScrn, ScheduleListbox->rowTag(row)))
+            window->show();
+    });
     connect(viewCalendarBtn, &QPushButton::clicked, this, [] {
         if (QWidget *calendar = screens::create(ScreenId::eventsCalendarScrn))
             calendar->show();
@@ -98,6 +108,10 @@ scheduleScrn::scheduleScrn(QWidget *parent)
     });
     menus()->installHandler(QStringLiteral("FileExport"), [this] {
         exportSchedule();
+        return true;
+    });
+    menus()->installHandler(QStringLiteral("FileExportCalendar"), [] {
+        schedule::exportCalendar();
         return true;
     });
     menus()->installPrinterSetup();
@@ -179,6 +193,7 @@ void scheduleScrn::selectionChanged()
     // The caption tells what the event has; the button opens its window.
     enterDataBtn->setEnabled((enterDataBtn->text() == u"Enter Game Data" && screens::has(ScreenId::gameDayScrn)) ||
                              (enterDataBtn->text() == u"Practice Plan" && screens::has(ScreenId::practicePlanScrn)));
+    boxScoreBtn->setEnabled(enterDataBtn->text() == u"Enter Game Data" && screens::has(ScreenId::boxScoreScrn));
     schedIDLabel->setText(row >= 0 ? QStringLiteral("Schedule ID = ") + ScheduleListbox->rowTag(row)
                                    : QStringLiteral("No Selection"));
 }

@@ -43,6 +43,7 @@ public:
     QPushButton *printBtn = nullptr;
     QPushButton *exportBtn = nullptr;
     QPushButton *viewCalendarBtn = nullptr;
+    QPushButton *boxScoreBtn = nullptr; // the selected game's box score
     QLabel *schedIDLabel = nullptr;
     MainMenuBar *menuBar() const { return menus(); }
 

@@ -1,7 +1,9 @@
 #include "cli/Commands.h"
 
 #include "cli/BackupCommand.h"
+#include "cli/BoxScoreCommand.h"
 #include "cli/CheckCommand.h"
+#include "cli/ExportCommand.h"
 #include "cli/ReportCommand.h"
 #include "cli/SeasonsCommand.h"
 
@@ -14,6 +16,8 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(std::make_unique<SeasonsCommand>());
     commands.push_back(std::make_unique<CheckCommand>());
     commands.push_back(std::make_unique<BackupCommand>());
+    commands.push_back(std::make_unique<ExportCommand>());
+    commands.push_back(std::make_unique<BoxScoreCommand>());
     return commands;
 }
 

@@ -5,6 +5,8 @@
 
 #include "reports/ReportsFixture.h"
 #include "SampleSeason.h"
+#include "schedule/CalendarFile.h"
+#include "schedule/ScheduleStore.h"
 #include "seasondata/SeasonBackup.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -101,6 +103,34 @@ private Q_SLOTS:
         // Nothing but the result on standard output; a failure says why on
         // standard error.
         QCOMPARE(run.err.isEmpty(), status == 0);
+    }
+
+    // The two exports whose bytes aren't the same from run to run: the
+    // calendar (stamped with the time of the export) read back through
+    // libical, and the box score's PDF.
+    void calendarAndPdf()
+    {
+        QTemporaryDir dir;
+        const QString ics = QDir(dir.path()).filePath(QStringLiteral("season.ics"));
+        const Run calendar =
+            runCli({QStringLiteral("export"), QStringLiteral("ics"), QStringLiteral("--data-dir"), m_folder,
+                    QStringLiteral("--output"), ics});
+        QCOMPARE(calendar.status, 0);
+        QVERIFY(calendar.out.isEmpty());
+        QFile icsFile(ics);
+        QVERIFY(icsFile.open(QIODevice::ReadOnly));
+        const QList<schedule::CalendarEvent> events = schedule::readCalendar(icsFile.readAll());
+        QCOMPARE(events.size(), ScheduleStore(*m_season->db).list(ScheduleStore::kShowAll).size());
+        QVERIFY(events.first().summary.contains(QStringLiteral("Celtics")));
+
+        const QString pdf = QDir(dir.path()).filePath(QStringLiteral("box.pdf"));
+        const Run box = runCli({QStringLiteral("box-score"), QStringLiteral("1"), QStringLiteral("--data-dir"),
+                                m_folder, QStringLiteral("--format"), QStringLiteral("pdf"), QStringLiteral("-o"), pdf});
+        QCOMPARE(box.status, 0);
+        QVERIFY(box.out.isEmpty() && box.err.isEmpty());
+        QFile pdfFile(pdf);
+        QVERIFY(pdfFile.open(QIODevice::ReadOnly));
+        QVERIFY(pdfFile.readAll().startsWith("%PDF"));
     }
 
     // A Games row the readers can't give back and innings that are no

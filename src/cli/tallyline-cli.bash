@@ -8,15 +8,22 @@ _tallyline_cli()
     verb=${COMP_WORDS[1]}
 
     if [[ $COMP_CWORD -eq 1 ]]; then
-        COMPREPLY=($(compgen -W "report seasons check backup --help" -- "$cur"))
+        COMPREPLY=($(compgen -W "report seasons check backup export box-score --help" -- "$cur"))
         return
     fi
     case $prev in
+        --output|-o)
+            COMPREPLY=($(compgen -f -- "$cur"))
+            return ;;
         --data-dir|--to)
             COMPREPLY=($(compgen -d -- "$cur"))
             return ;;
         --format)
-            COMPREPLY=($(compgen -W "text csv json" -- "$cur"))
+            if [[ $verb == box-score ]]; then
+                COMPREPLY=($(compgen -W "text pdf rows" -- "$cur"))
+            else
+                COMPREPLY=($(compgen -W "text csv json" -- "$cur"))
+            fi
             return ;;
         --season)
             local dir=${XDG_DATA_HOME:-$HOME/.local/share}/QLM/TLYN2 i
@@ -41,6 +48,8 @@ _tallyline_cli()
         seasons) words+=" --data-dir --format" ;;
         check) words+=" --data-dir --season" ;;
         backup) words+=" --data-dir --season --to" ;;
+        export) words+=" season-csv ics roster --data-dir --season --team --output" ;;
+        box-score) words+=" --data-dir --season --format --output" ;;
     esac
     COMPREPLY=($(compgen -W "$words" -- "$cur"))
 }

@@ -45,8 +45,7 @@ int BoxScoreCommand::execute(const QCommandLineParser &parser, QTextStream &out,
         return Failed;
     const QString schedID =
         db->scalar(QStringLiteral("SELECT schedID FROM Games WHERE gameID = ?"), {gameID}).toString();
-    const std::optional<stats::BoxScore> box =
-        schedID.isEmpty() ? std::nullopt : stats::BoxScore::read(*db, schedID);
+    const std::optional<stats::BoxScore> box = schedID.isEmpty() ? std::nullopt : stats::BoxScore::read(*db, schedID);
     if (!box) {
         err << "box-score: the season has no game " << gameID << Qt::endl;
         return Failed;

@@ -36,9 +36,9 @@ QStringList teamProblems(const gameday::TeamStrings &team)
 void checkGames(myDB &db, QStringList &problems)
 {
     const gameday::GameStore store(db);
-    const QList<Record> rows = db.select(QStringLiteral(
-        "SELECT g.gameID, g.schedID, s.eventID IS NOT NULL AS scheduled FROM Games AS g "
-        "LEFT JOIN Schedule AS s ON s.eventID = g.schedID ORDER BY g.gameID"));
+    const QList<Record> rows = db.select(
+        QStringLiteral("SELECT g.gameID, g.schedID, s.eventID IS NOT NULL AS scheduled FROM Games AS g "
+                       "LEFT JOIN Schedule AS s ON s.eventID = g.schedID ORDER BY g.gameID"));
     for (const Record &row : rows) {
         const QString where = QStringLiteral("Games row ") + row.text(QStringLiteral("gameID")) +
                               QStringLiteral(" (schedule entry ") + row.text(QStringLiteral("schedID")) +

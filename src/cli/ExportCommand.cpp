@@ -30,8 +30,8 @@ int ExportCommand::execute(const QCommandLineParser &parser, QTextStream &out, Q
 {
     const QStringList words = parser.positionalArguments();
     const QString what = words.value(0);
-    if (words.size() != 1 || !QStringList{QStringLiteral("season-csv"), QStringLiteral("ics"), QStringLiteral("roster")}
-                                  .contains(what)) {
+    if (words.size() != 1 ||
+        !QStringList{QStringLiteral("season-csv"), QStringLiteral("ics"), QStringLiteral("roster")}.contains(what)) {
         err << "export: name one export: season-csv, ics or roster" << Qt::endl;
         return Usage;
     }
@@ -68,8 +68,8 @@ int ExportCommand::execute(const QCommandLineParser &parser, QTextStream &out, Q
     } else if (what == QLatin1String("ics")) {
         if (teamName.isEmpty())
             teamName = ScheduleList(*db).homeTeamName();
-        bytes = schedule::calendarFile(ScheduleStore(*db).list(ScheduleStore::kShowAll), teamName,
-                                       season.season(), platform::clock().now());
+        bytes = schedule::calendarFile(ScheduleStore(*db).list(ScheduleStore::kShowAll), teamName, season.season(),
+                                       platform::clock().now());
     } else {
         bytes = people::rosterCsv(people::MemberStore(*db).players(teamID));
     }

@@ -3,8 +3,8 @@
 // standard output; the damaged season, the backup under writes and the
 // program's lock are tested on their own.
 
-#include "reports/ReportsFixture.h"
 #include "SampleSeason.h"
+#include "reports/ReportsFixture.h"
 #include "schedule/CalendarFile.h"
 #include "schedule/ScheduleStore.h"
 #include "seasondata/SeasonBackup.h"
@@ -112,9 +112,8 @@ private Q_SLOTS:
     {
         QTemporaryDir dir;
         const QString ics = QDir(dir.path()).filePath(QStringLiteral("season.ics"));
-        const Run calendar =
-            runCli({QStringLiteral("export"), QStringLiteral("ics"), QStringLiteral("--data-dir"), m_folder,
-                    QStringLiteral("--output"), ics});
+        const Run calendar = runCli({QStringLiteral("export"), QStringLiteral("ics"), QStringLiteral("--data-dir"),
+                                     m_folder, QStringLiteral("--output"), ics});
         QCOMPARE(calendar.status, 0);
         QVERIFY(calendar.out.isEmpty());
         QFile icsFile(ics);
@@ -125,7 +124,8 @@ private Q_SLOTS:
 
         const QString pdf = QDir(dir.path()).filePath(QStringLiteral("box.pdf"));
         const Run box = runCli({QStringLiteral("box-score"), QStringLiteral("1"), QStringLiteral("--data-dir"),
-                                m_folder, QStringLiteral("--format"), QStringLiteral("pdf"), QStringLiteral("-o"), pdf});
+                                m_folder, QStringLiteral("--format"), QStringLiteral("pdf"), QStringLiteral("-o"),
+                                pdf});
         QCOMPARE(box.status, 0);
         QVERIFY(box.out.isEmpty() && box.err.isEmpty());
         QFile pdfFile(pdf);
@@ -154,9 +154,7 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), 2);
         QVERIFY2(lines[0].startsWith("Games row 2 ") && lines[0].contains("team B's line-up"), lines[0]);
         const QByteArray pitching = "Pitching row " + QByteArray::number(pitchingRow) + ' ';
-        QVERIFY2(lines[1].startsWith(pitching) &&
-                     lines[1].contains("65"),
-                 lines[1]);
+        QVERIFY2(lines[1].startsWith(pitching) && lines[1].contains("65"), lines[1]);
     }
 
     // The backup is taken while this process writes to the season, and is
@@ -165,8 +163,8 @@ private Q_SLOTS:
     {
         QTemporaryDir target;
         QProcess backup;
-        backup.start(QStringLiteral(TL_CLI_BINARY), {QStringLiteral("backup"), QStringLiteral("--data-dir"),
-                                                     m_folder, QStringLiteral("--to"), target.path()});
+        backup.start(QStringLiteral(TL_CLI_BINARY), {QStringLiteral("backup"), QStringLiteral("--data-dir"), m_folder,
+                                                     QStringLiteral("--to"), target.path()});
         QVERIFY(backup.waitForStarted());
         int written = 0;
         while (!backup.waitForFinished(5) && written < 5000) {
@@ -187,8 +185,8 @@ private Q_SLOTS:
 
         QLockFile program(QDir(m_folder).filePath(QStringLiteral(".tallyline.lock")));
         QVERIFY(program.tryLock());
-        const Run refused = runCli({QStringLiteral("backup"), QStringLiteral("--data-dir"), m_folder,
-                                    QStringLiteral("--to"), target.path()});
+        const Run refused = runCli(
+            {QStringLiteral("backup"), QStringLiteral("--data-dir"), m_folder, QStringLiteral("--to"), target.path()});
         QCOMPARE(refused.status, 3);
         QVERIFY(refused.out.isEmpty());
         QVERIFY(refused.err.contains("quit it first"));

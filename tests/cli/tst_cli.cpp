@@ -13,6 +13,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLockFile>
 #include <QProcess>
 #include <QTest>
@@ -103,6 +105,52 @@ private Q_SLOTS:
         // Nothing but the result on standard output; a failure says why on
         // standard error.
         QCOMPARE(run.err.isEmpty(), status == 0);
+        // JSON that a program can read: an array of objects.
+        if (args.contains(QStringLiteral("json"))) {
+            QJsonParseError error;
+            const QJsonDocument json = QJsonDocument::fromJson(run.out, &error);
+            QCOMPARE(error.error, QJsonParseError::NoError);
+            QVERIFY(json.isArray() && !json.array().isEmpty() && json.array().first().isObject());
+        }
+    }
+
+    // Every verb explains itself on standard output, naming itself.
+    void help_data()
+    {
+        QTest::addColumn<QString>("verb");
+        for (const char *verb : {"report", "seasons", "check", "backup", "export", "box-score"})
+            QTest::newRow(verb) << QString::fromLatin1(verb);
+    }
+    void help()
+    {
+        QFETCH(QString, verb);
+        const Run run = runCli({verb, QStringLiteral("--help")});
+        QCOMPARE(run.status, 0);
+        QVERIFY(run.err.isEmpty());
+        const QByteArray usage = "Usage: tallyline-cli " + verb.toUtf8() + ' ';
+        QVERIFY2(run.out.startsWith(usage), run.out.constData());
+        QVERIFY(run.out.contains("--help"));
+    }
+
+    // Another folder is only read: no preference file is made there, a
+    // season that isn't there is not made either, and its backup goes
+    // where it is told.
+    void otherFolderIsOnlyRead()
+    {
+        QTemporaryDir dir;
+        const QString season = QDir(dir.path()).filePath(myDB::getCurDBFileName(QStringLiteral("2026")));
+        QVERIFY(QFile::copy(QDir(m_folder).filePath(myDB::getCurDBFileName(m_season->prefs->prSeason)), season));
+        for (const QStringList &args : {QStringList{QStringLiteral("report"), QStringLiteral("standings"),
+                                                    QStringLiteral("--team"), QStringLiteral("Celtics")},
+                                        QStringList{QStringLiteral("check")}, QStringList{QStringLiteral("seasons")}}) {
+            const Run run = runCli(args + QStringList{QStringLiteral("--data-dir"), dir.path()});
+            QVERIFY2(run.status == 0, run.err.constData());
+        }
+        const Run missing = runCli({QStringLiteral("report"), QStringLiteral("batting"), QStringLiteral("--data-dir"),
+                                    dir.path(), QStringLiteral("--season"), QStringLiteral("1999")});
+        QCOMPARE(missing.status, 1);
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{myDB::getCurDBFileName(QStringLiteral("2026"))});
     }
 
     // The two exports whose bytes aren't the same from run to run: the

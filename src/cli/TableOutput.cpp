@@ -2,6 +2,7 @@
 
 #include "reports/SeasonCsv.h"
 
+#include <QIODevice>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -71,9 +72,17 @@ void writeTable(QTextStream &out, TableFormat format, const QStringList &heading
     case TableFormat::Text:
         writeText(out, headings, rows);
         return;
-    case TableFormat::Csv:
-        out << QString::fromUtf8(reports::rowsCsv(headings, rows));
+    case TableFormat::Csv: {
+        // The export's bytes go out as they are, not through the stream's
+        // text encoding a second time.
+        const QByteArray csv = reports::rowsCsv(headings, rows);
+        out.flush();
+        if (out.device())
+            out.device()->write(csv);
+        else
+            out << QString::fromUtf8(csv);
         return;
+    }
     case TableFormat::Json:
         break;
     }

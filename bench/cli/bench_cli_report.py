@@ -5,7 +5,7 @@ processes, interleaved. Prints each one's median and the ratio (goal: 2x).
 
     bench/cli/bench_cli_report.py [build folder]   (default: build)
 """
-import os, random, sqlite3, statistics, subprocess, sys, tempfile, time
+import os, random, shutil, sqlite3, statistics, subprocess, sys, tempfile, time
 
 build = sys.argv[1] if len(sys.argv) > 1 else "build"
 cli = os.path.join(build, "src/cli/tallyline-cli")
@@ -52,3 +52,4 @@ o, b = statistics.median(ours), statistics.median(base)
 print(f"tallyline-cli report batting --format csv: {o * 1000:.1f} ms")
 print(f"sqlite3 -csv, the same join:               {b * 1000:.1f} ms")
 print(f"ratio: {o / b:.2f}x (goal: within 2x)")
+shutil.rmtree(root)

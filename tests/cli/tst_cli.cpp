@@ -4,6 +4,7 @@
 // program's lock are tested on their own.
 
 #include "SampleSeason.h"
+#include "fakes/Golden.h"
 #include "reports/ReportsFixture.h"
 #include "schedule/CalendarFile.h"
 #include "schedule/ScheduleStore.h"
@@ -69,7 +70,7 @@ private Q_SLOTS:
 
     // A case file: "args: <words>", "exit: <status>", "---", then the
     // standard output expected. --data-dir comes after the verb. With
-    // TL_WRITE_GOLDEN=1 the output of the run is written into the file.
+    // TL_UPDATE_GOLDEN=1 the output of the run is written into the file.
     void golden_data()
     {
         QTest::addColumn<QString>("file");
@@ -93,14 +94,9 @@ private Q_SLOTS:
         args.insert(args.isEmpty() ? 0 : 1, QStringLiteral("--data-dir"));
         args.insert(2, m_folder);
         const int status = head[1].mid(6).toInt();
-        const QByteArray expected = text.mid(split + 5);
 
         const Run run = runCli(args);
-        if (qEnvironmentVariable("TL_WRITE_GOLDEN") == QLatin1String("1")) {
-            QVERIFY(caseFile.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            caseFile.write(text.left(split + 5) + run.out);
-        }
-        QCOMPARE(run.out, expected);
+        TL_COMPARE_GOLDEN(QStringLiteral("cli/") + QFileInfo(file).fileName(), text.left(split + 5) + run.out);
         QCOMPARE(run.status, status);
         // Nothing but the result on standard output; a failure says why on
         // standard error.

@@ -160,11 +160,11 @@ QList<CalendarEvent> readCalendar(const QByteArray &text)
     for (icalcomponent *event = icalcomponent_get_first_component(calendar.get(), ICAL_VEVENT_COMPONENT); event;
          event = icalcomponent_get_next_component(calendar.get(), ICAL_VEVENT_COMPONENT)) {
         CalendarEvent e;
-        const auto fromIcal = [](const char *value) { return value ? QString::fromUtf8(value) : QString(); };
-        e.uid = fromIcal(icalcomponent_get_uid(event));
-        e.summary = fromIcal(icalcomponent_get_summary(event));
-        e.location = fromIcal(icalcomponent_get_location(event));
-        e.description = fromIcal(icalcomponent_get_description(event));
+        const auto utf8 = [](const char *value) { return value ? QString::fromUtf8(value) : QString(); };
+        e.uid = utf8(icalcomponent_get_uid(event));
+        e.summary = utf8(icalcomponent_get_summary(event));
+        e.location = utf8(icalcomponent_get_location(event));
+        e.description = utf8(icalcomponent_get_description(event));
         const icaltimetype start = icalcomponent_get_dtstart(event);
         e.allDay = start.is_date != 0;
         e.day = QDate(start.year, start.month, start.day);

@@ -11,6 +11,7 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include <QRegularExpression>
 #include <QTest>
 
 using recordtest::Card;
@@ -51,6 +52,28 @@ int runsOf(const QString &schedID, int team)
 GameRecorder::Result recordWithBoard(const QString &schedID)
 {
     return GameRecorder(*gData).record(schedID, runsOf(schedID, 0), runsOf(schedID, 1));
+}
+
+// Every row of every season table and the games' recorded flags, one line
+// a row. The `gameID` stamp of a player's row names the last game folded
+// into it and is left out: a correction can't know the one before.
+QString seasonDump()
+{
+    QStringList lines;
+    for (const QString table : {"Hitting", "Fielding", "Pitching", "GameResultsByTeam", "SacFlies", "Games"}) {
+        if (!gData->tlynData->tableExists(table.toStdString()))
+            continue;
+        const QString what = table == u"Games" ? QStringLiteral("schedID, recorded") : QStringLiteral("*");
+        for (const Record &r : gData->select(QStringLiteral("SELECT ") + what + QStringLiteral(" FROM ") + table)) {
+            QStringList cells = {table};
+            for (int c = 0; c < r.columns.size(); ++c) {
+                if (r.columns.at(c) != u"gameID")
+                    cells.append(r.columns.at(c) + u'=' + r.values.at(c).toString());
+            }
+            lines.append(cells.join(u' '));
+        }
+    }
+    return lines.join(u'\n');
 }
 
 } // namespace
@@ -313,6 +336,81 @@ private Q_SLOTS:
         }
         QCOMPARE(failed, writes);
         QVERIFY(Season::isRecorded(game));
+    }
+
+    // Correcting a recorded game takes back exactly what recording added,
+    // the thirds of its innings included, and reopens it.
+    void correctTakesBackTheGame_data()
+    {
+        QTest::addColumn<int>("earlier"); // games recorded before it
+        QTest::addColumn<int>("carried"); // a season innings code before any game, 0 for none
+        QTest::newRow("first game: its rows and records go") << 0 << 0;
+        QTest::newRow("second game: a tie and a sacrifice fly") << 1 << 0;
+        QTest::newRow("6.1 + 4.1 - 4.1 = 6.1") << 0 << 61;
+    }
+    void correctTakesBackTheGame()
+    {
+        QFETCH(int, earlier);
+        QFETCH(int, carried);
+        Season s;
+        const QStringList ids = storeTwoGames(s);
+        if (carried)
+            gData->insert("Pitching", {{"playerID", 205}, {"teamID", s.homeID}, {"IP", carried}});
+        for (int g = 0; g < earlier; ++g)
+            QCOMPARE(recordWithBoard(ids.at(g)), GameRecorder::Result::Recorded);
+        const QString game = ids.at(earlier);
+        const QString before = seasonDump();
+        QCOMPARE(recordWithBoard(game), GameRecorder::Result::Recorded);
+        QVERIFY(seasonDump() != before);
+
+        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Cancelled);
+        QVERIFY(Season::isRecorded(game));
+        s.fake.messages.clear();
+        QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Corrected);
+        QCOMPARE(s.fake.messages.texts(), QStringList{QStringLiteral("Correct this recorded game?")});
+        QCOMPARE(seasonDump(), before);
+        QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::NotRecorded);
+    }
+
+    // A corrected at bat recorded again leaves the season as recording the
+    // game that way from the start does, `gameID` stamps included.
+    void correctedGameRecordsAsNew()
+    {
+        auto played = [](bool correctLater, QString &dump) {
+            Season s;
+            const QStringList ids = storeTwoGames(s);
+            const QString g1 = ids.first();
+            auto walkToSingle = [&] {
+                auto game = gameday::GameStore(*gData).load(g1);
+                gameday::ScoreGrid grid;
+                GameRecorder::loadGrid(grid, game->teams[0]);
+                gridtest::fill(grid, {"B1/G GO/R", "KS/R B1/Y", "HR/G FO/R"});
+                game->teams[0].actions = grid.getMyData();
+                game->teams[0].outcomes = grid.getMyBkgArray();
+                gameday::GameStore(*gData).save(*game);
+            };
+            if (!correctLater)
+                walkToSingle();
+            QCOMPARE(recordWithBoard(g1), GameRecorder::Result::Recorded);
+            if (correctLater) {
+                QCOMPARE(GameRecorder(*gData).correct(g1), GameRecorder::Correction::Corrected);
+                walkToSingle();
+                QCOMPARE(recordWithBoard(g1), GameRecorder::Result::Recorded);
+            }
+            // Rows taken back and inserted again have new recIDs.
+            dump = seasonDump().remove(QRegularExpression(QStringLiteral("recID=\\d+ ")));
+            for (const QString table : {"Hitting", "Fielding", "Pitching"}) {
+                for (const Record &r : gData->select(QStringLiteral("SELECT playerID, gameID FROM ") + table))
+                    dump += u'\n' + table + u' ' + r.text("playerID") + u' ' + r.text("gameID");
+            }
+        };
+        QString fromTheStart;
+        QString corrected;
+        played(false, fromTheStart);
+        played(true, corrected);
+        QVERIFY(fromTheStart.contains(QRegularExpression(QStringLiteral("Hitting .*playerID=203 .*B1=1 .*BB=0 "))));
+        QCOMPARE(corrected, fromTheStart);
     }
 };
 

@@ -81,6 +81,12 @@ QString seasonDump(const QString &home, const QString &bears, const QString &gam
         .replace("team=" + bears, "team=B");
 }
 
+QString untouchedSeason()
+{
+    return QStringList{"H1: ", "H2: ", "H13: ", "H14: ", "H15: ", "H16: ", "F1: ", "P16: ", "home ", "bears ", "open"}
+        .join(u'\n');
+}
+
 } // namespace
 
 class TestRecordScrn : public QObject
@@ -106,9 +112,7 @@ private Q_SLOTS:
                         "bears 0-1-0",
                         "recorded"}
                 .join(u'\n');
-        const QString untouched = QStringList{"H1: ", "H2: ",  "H13: ", "H14: ",  "H15: ", "H16: ",
-                                              "F1: ", "P16: ", "home ", "bears ", "open"}
-                                      .join(u'\n');
+        const QString untouched = untouchedSeason();
         QTest::newRow("from the home team's view, panel open") << 0 << "recordBtn" << recorded;
         QTest::newRow("from the Bears' view") << 1 << "recordBtn" << recorded;
         QTest::newRow("cancel") << 1 << "cancelBtn" << untouched;
@@ -166,6 +170,22 @@ private Q_SLOTS:
         QCOMPARE(s.fake.messages.texts().contains("The game data has been successfully recorded."), done);
         if (answer == u"fail")
             QVERIFY(s.fake.messages.texts().last().startsWith("Database Error"));
+
+        // A recorded game is corrected from the keyboard: the season is as
+        // before and the game opens for changes.
+        auto *correct = testkit::child<QPushButton>(scr, "correctGameBtn");
+        QCOMPARE(correct->isVisible(), done);
+        if (done) {
+            QVERIFY(!correct->accessibleName().isEmpty());
+            correct->setFocus();
+            QTest::keyClick(correct, Qt::Key_Space);
+            QCOMPARE(s.fake.messages.texts().last(), QStringLiteral("Correct this recorded game?"));
+            QCOMPARE(seasonDump(home, bears, s.schedID()), untouchedSeason());
+            QVERIFY(!correct->isVisible());
+            QVERIFY(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible());
+            QVERIFY(testkit::child<QComboBox>(scr, "gameTypePop")->isEnabled());
+            QVERIFY(!game.isReadOnly());
+        }
         scr->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -185,7 +205,7 @@ private Q_SLOTS:
         scr->findChild<QRadioButton *>(QStringLiteral("TeamBtn_1"))->click();
         s.fake.messages.answers.enqueue(platform::MsgCancel);
         s.fake.messages.answers.enqueue(platform::MsgCancel);
-        for (const QString &pos : {"C", "B1"}) {
+        for (const QString pos : {"C", "B1"}) {
             for (int i = 0; i < game.roster().size(); ++i) {
                 if (game.roster().at(i).pos == pos) {
                     game.addPlayerToLineup(i);

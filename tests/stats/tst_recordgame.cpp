@@ -6,6 +6,7 @@
 
 #include "app/myDB.h"
 #include "gameday/GameStore.h"
+#include "stats/BoxProof.h"
 #include "stats/GameRecorder.h"
 #include "stats/SeasonFigures.h"
 
@@ -74,6 +75,32 @@ QString seasonDump()
         }
     }
     return lines.join(u'\n');
+}
+
+// The played game of the game screen's golden file, as stored.
+gameday::GameRecord goldenGame()
+{
+    QFile file(qEnvironmentVariable("TL_TEST_DATA") + QStringLiteral("/gameday-played.txt"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no golden game");
+    gameday::GameRecord game;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
+        const QString key = line.section(u'=', 0, 0);
+        const QString value = line.section(u'=', 1)
+                                  .replace(QStringLiteral("\\t"), QStringLiteral("\t"))
+                                  .replace(QStringLiteral("\\r"), QStringLiteral("\r"));
+        gameday::TeamStrings &team = game.teams[key.startsWith(QStringLiteral("TeamB")) ? 1 : 0];
+        const QString field = key.mid(5);
+        if (field == u"Headings")
+            team.headings = value;
+        else if (field == u"Players")
+            team.players = value;
+        else if (field == u"Actions")
+            team.actions = value;
+        else if (field == u"Outcomes")
+            team.outcomes = value;
+    }
+    return game;
 }
 
 } // namespace
@@ -411,6 +438,42 @@ private Q_SLOTS:
         played(true, corrected);
         QVERIFY(fromTheStart.contains(QRegularExpression(QStringLiteral("Hitting .*playerID=203 .*B1=1 .*BB=0 "))));
         QCOMPARE(corrected, fromTheStart);
+    }
+
+    // The fifth line of the final check: plate appearances against runs,
+    // runners left and the other side's putouts, inning by inning.
+    void boxProof_data()
+    {
+        QTest::addColumn<int>("team");
+        QTest::addColumn<int>("row"); // a cell whose out is taken off the card, -1 for none
+        QTest::addColumn<int>("col");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("golden game, visitors")
+            << 0 << -1 << -1 << "A: 12 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 13; 2 R + 2 LOB + 9 PO = 13";
+        QTest::newRow("golden game, home: an out on base is a putout")
+            << 1 << -1 << -1 << "B: 9 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 10; 3 R + 1 LOB + 6 PO = 10";
+        QTest::newRow("missing out in the third")
+            << 0 << 4 << 2
+            << "A: 12 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 13; 2 R + 2 LOB + 8 PO = 12. Does not balance in inning 3";
+        QTest::newRow("missing out in the doubled first")
+            << 1 << 0 << 1
+            << "B: 9 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 10; 3 R + 1 LOB + 5 PO = 9. Does not balance in inning 1";
+    }
+    void boxProof()
+    {
+        QFETCH(int, team);
+        QFETCH(int, row);
+        QFETCH(int, col);
+        gameday::GameRecord game = goldenGame();
+        if (row >= 0) {
+            gameday::ScoreGrid card;
+            GameRecorder::loadGrid(card, game.teams[team]);
+            card.setCellBkg(row, col, QString());
+            game.teams[team].outcomes = card.getMyBkgArray();
+        }
+        const stats::BoxProof proof = stats::proveBoxScores(game)[team];
+        QTEST(proof.text(team == 0 ? QStringLiteral("A") : QStringLiteral("B")), "line");
+        QCOMPARE(proof.balances(), row < 0);
     }
 };
 

@@ -56,6 +56,8 @@ void answerChecks(const QString &answer, QString &marks)
             poll->deleteLater();
             for (const CheckMark *mark : check->checkCnv)
                 marks += mark->passed() ? u'1' : u'0';
+            for (const CheckMark *mark : check->proofCnv)
+                marks += mark->passed() ? u'1' : u'0';
             if (answer == u"escape")
                 return QTest::keyClick(check, Qt::Key_Escape);
             auto *target = check->findChild<QPushButton *>(answer);
@@ -159,8 +161,9 @@ private Q_SLOTS:
         QTest::keyClick(testkit::child<QPushButton>(scr, "finalizeBtn"), Qt::Key_Space);
 
         // RBI 1 against 2 runs for the home team, whose first inning has no
-        // outs; every at bat has its result; both panels saved.
-        QCOMPARE(marks, QStringLiteral("0011"));
+        // outs; every at bat has its result; both panels saved; both cards
+        // prove.
+        QCOMPARE(marks, QStringLiteral("001111"));
         QVERIFY(!testkit::child<FieldingCtr>(scr, "myFldCtr")->isVisible());
         QCOMPARE(seasonDump(home, bears, s.schedID()), season);
         const bool done = season.endsWith("recorded");

@@ -12,6 +12,7 @@
 #include "platform/Services.h"
 #include "reports/ui/qlmListBox.h"
 #include "schedule/EventDates.h"
+#include "stats/BoxProof.h"
 #include "stats/GameStats.h"
 #include "stats/RecordGameData.h"
 #include "stats/ui/FieldingCtr.h"
@@ -264,6 +265,8 @@ void gameDayScrn::connectGame()
             finalCheckScrn check(this);
             const gameday::Scoreboard &b = m_game->board();
             check.setScore(m_game->teamInfo(0).name, b.runs[0], m_game->teamInfo(1).name, b.runs[1]);
+            check.setBoxProofs(stats::proveBoxScores(m_game->record()),
+                               {m_game->teamInfo(0).name, m_game->teamInfo(1).name});
             return check.showMe(checks);
         });
         showFinalize();

@@ -188,6 +188,14 @@ private Q_SLOTS:
             QVERIFY(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible());
             QVERIFY(testkit::child<QComboBox>(scr, "gameTypePop")->isEnabled());
             QVERIFY(!game.isReadOnly());
+            testkit::child<BBPlayersLB>(scr, "Names_PosLB")->setSelectedRow(0);
+            QVERIFY(testkit::child<QPushButton>(scr, "fldStatsBtn")->isEnabled());
+            // Recorded again, the season is as after the first recording.
+            QString again;
+            answerChecks(QStringLiteral("recordBtn"), again);
+            QTest::keyClick(testkit::child<QPushButton>(scr, "finalizeBtn"), Qt::Key_Space);
+            QCOMPARE(seasonDump(home, bears, s.schedID()), season);
+            QVERIFY(correct->isVisible());
         }
         scr->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

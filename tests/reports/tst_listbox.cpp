@@ -38,7 +38,8 @@ private:
         list->resize(400, 300);
         list->show();
         list->activateWindow();
-        QTest::qWaitForWindowActive(list.get());
+        if (!QTest::qWaitForWindowActive(list.get()))
+            qWarning("the list window did not become active");
         return list;
     }
     static QPoint cellCenter(qlmListBox &list, int row, int column)

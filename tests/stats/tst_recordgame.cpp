@@ -369,11 +369,13 @@ private Q_SLOTS:
     // the thirds of its innings included, and reopens it.
     void correctTakesBackTheGame_data()
     {
-        QTest::addColumn<int>("earlier"); // games recorded before it
-        QTest::addColumn<int>("carried"); // a season innings code before any game, 0 for none
-        QTest::newRow("first game: its rows and records go") << 0 << 0;
-        QTest::newRow("second game: a tie and a sacrifice fly") << 1 << 0;
-        QTest::newRow("6.1 + 4.1 - 4.1 = 6.1") << 0 << 61;
+        QTest::addColumn<int>("earlier");   // games recorded before it
+        QTest::addColumn<int>("carried");   // a season innings code before any game, 0 for none
+        QTest::addColumn<bool>("tampered"); // the season's at bats cut after recording
+        QTest::newRow("first game: its rows and records go") << 0 << 0 << false;
+        QTest::newRow("second game: a tie and a sacrifice fly") << 1 << 0 << false;
+        QTest::newRow("6.1 + 4.1 - 4.1 = 6.1") << 0 << 61 << false;
+        QTest::newRow("season holds less than the game: refused") << 0 << 0 << true;
     }
     void correctTakesBackTheGame()
     {
@@ -394,6 +396,15 @@ private Q_SLOTS:
         QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Cancelled);
         QVERIFY(Season::isRecorded(game));
         s.fake.messages.clear();
+        if (QFETCH(bool, tampered); tampered) {
+            gData->exec("UPDATE Hitting SET AB = 0 WHERE playerID = 205");
+            const QByteArray stored = Season::fileBytes();
+            QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Mismatch);
+            QCOMPARE(s.fake.messages.texts().last(),
+                     QStringLiteral("This game can't be taken back out of the season."));
+            QCOMPARE(Season::fileBytes(), stored);
+            return;
+        }
         QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Corrected);
         QCOMPARE(s.fake.messages.texts(), QStringList{QStringLiteral("Correct this recorded game?")});
         QCOMPARE(seasonDump(), before);

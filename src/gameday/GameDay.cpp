@@ -234,6 +234,17 @@ void GameDay::setRecorded()
     Q_EMIT teamShown();
 }
 
+void GameDay::setCorrected()
+{
+    m_rec.recorded = false;
+    m_lock = Lock::None;
+    m_finalizeVisible = true;
+    applyClickLock();
+    Q_EMIT finalizeVisibleChanged(true);
+    Q_EMIT instructionChanged();
+    Q_EMIT teamShown();
+}
+
 void GameDay::setGameType(const QString &type)
 {
     if (type == m_rec.gameType)

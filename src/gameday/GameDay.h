@@ -85,6 +85,9 @@ public:
     // Marks the game recorded (after the season totals were written); it
     // is read-only from then on.
     void setRecorded();
+    // The game was taken back out of the season to be corrected: it is
+    // open for changes again and "Record Game Data" shows.
+    void setCorrected();
 
     QString gameType() const { return m_rec.gameType; }
     void setGameType(const QString &type);

@@ -185,12 +185,9 @@ GameRecorder::Result GameRecorder::record(const gameday::GameRecord &game, int r
     return result;
 }
 
-GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game, int runsA, int runsB)
+GameRecorder::Result GameRecorder::collectAdditions(const gameday::GameRecord &game, const GamePanels &panels,
+                                                    std::array<TeamAdditions, 2> &additions, QList<qint64> &playerIDs)
 {
-    // Everything is worked out before the first write.
-    const GamePanels panels = loadPanels(game.schedID);
-    std::array<TeamAdditions, 2> additions;
-    QList<qint64> playerIDs;
     for (int t = 0; t < 2; ++t) {
         gameday::ScoreGrid grid;
         if (!loadGrid(grid, game.teams[t]))
@@ -212,6 +209,17 @@ GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game
         for (const PlayerAdditions &p : additions[t].players)
             playerIDs.append(idValue(p.playerID));
     }
+    return Result::Recorded;
+}
+
+GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game, int runsA, int runsB)
+{
+    // Everything is worked out before the first write.
+    const GamePanels panels = loadPanels(game.schedID);
+    std::array<TeamAdditions, 2> additions;
+    QList<qint64> playerIDs;
+    if (const Result refused = collectAdditions(game, panels, additions, playerIDs); refused != Result::Recorded)
+        return refused;
     const GameResultClass outcome(game.teamIDs[0], game.teamIDs[1], runsA, runsB);
     const qint64 gameID = idValue(game.schedID);
     gameday::GameRecord recorded = game;
@@ -263,6 +271,73 @@ GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game
     }
     // A database failure has been shown by the transaction.
     return written ? Result::Recorded : Result::Failed;
+}
+
+GameRecorder::Correction GameRecorder::correct(const QString &schedID)
+{
+    const std::optional<gameday::GameRecord> game = gameday::GameStore(m_db).load(schedID);
+    if (!game) {
+        showMissing();
+        return Correction::NoGame;
+    }
+    if (!game->recorded)
+        return Correction::NotRecorded;
+    if (gShowMsgDlog(QStringLiteral("Correct this recorded game?"),
+                     QStringLiteral("Its statistics and result are taken back out of the season so you can change "
+                                    "the game; click 'Record' again when it is right."),
+                     QStringLiteral("Correct")) != platform::MsgAction)
+        return Correction::Cancelled;
+
+    // The additions are worked out exactly as recording did, from the same
+    // strings and panel rows: a recorded game can't be changed on the screen.
+    const GamePanels panels = loadPanels(schedID);
+    std::array<TeamAdditions, 2> additions;
+    QList<qint64> playerIDs;
+    try {
+        if (collectAdditions(*game, panels, additions, playerIDs) != Result::Recorded)
+            return Correction::Failed;
+    } catch (const std::exception &) {
+        gMsgBox(QStringLiteral("There was an error in correcting this game."));
+        return Correction::Failed;
+    }
+    const GameResultClass outcome(game->teamIDs[0], game->teamIDs[1], scoreboardRuns(game->teams[0]),
+                                  scoreboardRuns(game->teams[1]));
+    const qint64 gameID = idValue(schedID);
+    gameday::GameRecord reopened = *game;
+    reopened.recorded = false;
+
+    bool mismatch = false;
+    const bool written = m_db.runInTransaction([&] {
+        SQLite::Database &db = *m_db.tlynData;
+        SeasonFold fold(db, playerIDs, {idValue(game->teamIDs[0]), idValue(game->teamIDs[1])});
+        for (const TeamAdditions &team : additions) {
+            for (const PlayerAdditions &p : team.players) {
+                if (!fold.takeBack(p, gameID)) {
+                    mismatch = true;
+                    return;
+                }
+            }
+        }
+        if (!fold.takeBackResult(outcome)) {
+            mismatch = true;
+            return;
+        }
+        fold.write(db);
+        QHash<qint64, qint64> flies;
+        for (const TeamAdditions &team : additions) {
+            for (const PlayerAdditions &p : team.players)
+                flies[idValue(p.playerID)] += p.sacrificeFlies;
+        }
+        takeBackSacrificeFlies(db, flies);
+        gameday::GameStore::writeWithin(m_db, reopened);
+    });
+    if (mismatch) {
+        gShowMsgDlog(QStringLiteral("This game can't be taken back out of the season."),
+                     QStringLiteral("The season's totals hold less than the game added; nothing was changed."),
+                     QStringLiteral("OK"));
+        return Correction::Mismatch;
+    }
+    return written ? Correction::Corrected : Correction::Failed;
 }
 
 } // namespace stats

@@ -67,7 +67,26 @@ public:
     // The same for the game as stored.
     Result record(const QString &schedID, int runsA, int runsB);
 
+    enum class Correction {
+        Corrected,
+        NoGame,
+        NotRecorded, // nothing to take back
+        Cancelled,   // the coach said no
+        Mismatch,    // the season holds less than the game added; nothing changed
+        Failed,      // an error or a database failure; already shown
+    };
+
+    // Takes a recorded game back out of the season so the coach can correct
+    // it and record it again: after the coach's yes, what recording added to
+    // both teams' `Hitting`, `Fielding`, `Pitching` rows, their records and
+    // the sacrifice-fly counts is worked out again from the stored game and
+    // subtracted, and the game's `recorded` is set to 0, in one transaction.
+    Correction correct(const QString &schedID);
+
 private:
+    // Every player's additions of both teams, or the refusal to show.
+    Result collectAdditions(const gameday::GameRecord &game, const GamePanels &panels,
+                            std::array<TeamAdditions, 2> &additions, QList<qint64> &playerIDs);
     Result recordChecked(const gameday::GameRecord &game, int runsA, int runsB);
 
     myDB &m_db;

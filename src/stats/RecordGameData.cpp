@@ -34,4 +34,12 @@ RecordOutcome recordGameData(myDB &db, gameday::GameDay &game,
     return RecordOutcome::Recorded;
 }
 
+bool correctGameData(myDB &db, gameday::GameDay &game)
+{
+    if (!game.isRecorded() || GameRecorder(db).correct(game.schedID()) != GameRecorder::Correction::Corrected)
+        return false;
+    game.setCorrected();
+    return true;
+}
+
 } // namespace stats

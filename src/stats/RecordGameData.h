@@ -29,4 +29,9 @@ enum class RecordOutcome {
 RecordOutcome recordGameData(myDB &db, gameday::GameDay &game,
                              const std::function<bool(const std::array<bool, 4> &)> &askToRecord);
 
+// The "Correct Game" action of a recorded game: on the coach's word its
+// additions are taken back out of the season and the game opens for
+// changes. True when it did.
+bool correctGameData(myDB &db, gameday::GameDay &game);
+
 } // namespace stats

@@ -26,4 +26,20 @@ void addSacrificeFlies(SQLite::Database &db, const QHash<qint64, qint64> &flies)
     }
 }
 
+void takeBackSacrificeFlies(SQLite::Database &db, const QHash<qint64, qint64> &flies)
+{
+    if (!db.tableExists("SacFlies"))
+        return;
+    SQLite::Statement take(db, "UPDATE SacFlies SET SF = max(SF - ?, 0) WHERE playerID = ?");
+    for (auto it = flies.cbegin(); it != flies.cend(); ++it) {
+        if (it.value() <= 0)
+            continue;
+        take.bind(1, static_cast<int64_t>(it.value()));
+        take.bind(2, static_cast<int64_t>(it.key()));
+        take.exec();
+        take.reset();
+    }
+    db.exec("DELETE FROM SacFlies WHERE SF = 0");
+}
+
 } // namespace stats

@@ -98,4 +98,14 @@ std::optional<qint64> getInningsPitchedVal(qint64 a, qint64 b)
     return (outs / 3) * 10 + outs % 3;
 }
 
+std::optional<qint64> subtractInningsPitched(qint64 a, qint64 b)
+{
+    if (!isInningsCode(a) || !isInningsCode(b))
+        return std::nullopt;
+    const qint64 outs = (a / 10) * 3 + a % 10 - ((b / 10) * 3 + b % 10);
+    if (outs < 0)
+        return std::nullopt;
+    return (outs / 3) * 10 + outs % 3;
+}
+
 } // namespace stats

@@ -52,5 +52,8 @@ bool isInningsCode(qint64 code);
 // gives 71. A code whose thirds digit is above 2 has no sum: nothing is
 // given back, so a bad code can never reach a season total.
 std::optional<qint64> getInningsPitchedVal(qint64 a, qint64 b);
+// The difference a - b of two innings codes, borrowed in thirds: 61 - 22
+// gives 32. Nothing when either is no code or b is the larger.
+std::optional<qint64> subtractInningsPitched(qint64 a, qint64 b);
 
 } // namespace stats

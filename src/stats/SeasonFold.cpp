@@ -87,10 +87,21 @@ void writeRows(SQLite::Database &db, const char *table, const std::array<const c
 {
     std::optional<SQLite::Statement> insert;
     std::optional<SQLite::Statement> update;
+    std::optional<SQLite::Statement> remove;
     for (const qint64 player : order) {
         const auto it = rows.constFind(player);
         if (it == rows.cend() || !it->changed)
             continue;
+        if (it->removed) {
+            if (it->recID < 0)
+                continue;
+            if (!remove)
+                remove.emplace(db, std::string("DELETE FROM ") + table + " WHERE recID = ?");
+            remove->reset();
+            remove->bind(1, static_cast<int64_t>(it->recID));
+            remove->exec();
+            continue;
+        }
         const bool isUpdate = it->recID >= 0;
         std::optional<SQLite::Statement> &statement = isUpdate ? update : insert;
         if (!statement)
@@ -115,6 +126,35 @@ SeasonRow<N> &rowFor(QHash<qint64, SeasonRow<N>> &rows, qint64 player, qint64 te
     row.gameID = gameID;
     row.changed = true;
     return row;
+}
+
+// Subtracts `figures` from the row, or nothing when any figure would go
+// below zero.
+template<std::size_t N>
+bool canSubtract(const QHash<qint64, SeasonRow<N>> &rows, qint64 player, const std::array<qint64, N> &figures,
+                 int skip = -1)
+{
+    const auto it = rows.constFind(player);
+    if (it == rows.cend() || it->removed)
+        return false;
+    for (std::size_t i = 0; i < N; ++i) {
+        if (int(i) != skip && it->figures[i] < figures[i])
+            return false;
+    }
+    return true;
+}
+
+template<std::size_t N>
+void subtract(SeasonRow<N> &row, const std::array<qint64, N> &figures, qint64 gameID, int skip = -1)
+{
+    bool empty = true;
+    for (std::size_t i = 0; i < N; ++i) {
+        if (int(i) != skip)
+            row.figures[i] -= figures[i];
+        empty = empty && row.figures[i] == 0;
+    }
+    row.changed = true;
+    row.removed = empty && row.gameID == gameID;
 }
 
 } // namespace
@@ -200,6 +240,60 @@ void SeasonFold::addResult(const GameResultClass &result)
         bump(team, &TeamRecordRow::Tie);
 }
 
+bool SeasonFold::takeBack(const PlayerAdditions &player, qint64 gameID)
+{
+    const qint64 id = idValue(player.playerID);
+    std::optional<qint64> innings;
+    if (!canSubtract(m_hitting, id, player.hitting))
+        return false;
+    if (player.fielding && !canSubtract(m_fielding, id, *player.fielding))
+        return false;
+    if (player.pitching) {
+        if (!canSubtract(m_pitching, id, *player.pitching, kPitchIP))
+            return false;
+        innings = subtractInningsPitched(m_pitching[id].figures[kPitchIP], (*player.pitching)[kPitchIP]);
+        if (!innings)
+            return false;
+    }
+
+    if (!m_order.contains(id))
+        m_order.append(id);
+    subtract(m_hitting[id], player.hitting, gameID);
+    if (player.fielding)
+        subtract(m_fielding[id], *player.fielding, gameID);
+    if (player.pitching) {
+        SeasonRow<kPitchingFigures> &pch = m_pitching[id];
+        pch.figures[kPitchIP] = *innings;
+        subtract(pch, *player.pitching, gameID, kPitchIP);
+    }
+    return true;
+}
+
+bool SeasonFold::takeBackResult(const GameResultClass &result)
+{
+    QList<std::pair<qint64, qint64 TeamRecordRow::*>> counts;
+    if (!result.winner.isEmpty())
+        counts.append({idValue(result.winner), &TeamRecordRow::W});
+    if (!result.loser.isEmpty())
+        counts.append({idValue(result.loser), &TeamRecordRow::L});
+    for (const QString &team : result.tie)
+        counts.append({idValue(team), &TeamRecordRow::Tie});
+    for (const auto &[team, count] : counts) {
+        const auto it = m_records.constFind(team);
+        if (it == m_records.cend() || (*it).*count < 1)
+            return false;
+    }
+    for (const auto &[team, count] : counts) {
+        if (!m_teamOrder.contains(team))
+            m_teamOrder.append(team);
+        TeamRecordRow &row = m_records[team];
+        row.*count -= 1;
+        row.changed = true;
+        row.removed = row.W == 0 && row.L == 0 && row.Tie == 0;
+    }
+    return true;
+}
+
 void SeasonFold::write(SQLite::Database &db) const
 {
     writeRows(db, "Hitting", hittingColumns(), m_order, m_hitting);
@@ -209,7 +303,11 @@ void SeasonFold::write(SQLite::Database &db) const
         const TeamRecordRow &row = m_records[team];
         if (!row.changed)
             continue;
-        if (row.recID >= 0) {
+        if (row.removed) {
+            SQLite::Statement remove(db, "DELETE FROM GameResultsByTeam WHERE recID = ?");
+            remove.bind(1, static_cast<int64_t>(row.recID));
+            remove.exec();
+        } else if (row.recID >= 0) {
             SQLite::Statement update(db, "UPDATE GameResultsByTeam SET W = ?, L = ?, Tie = ? WHERE recID = ?");
             update.bind(1, static_cast<int64_t>(row.W));
             update.bind(2, static_cast<int64_t>(row.L));

@@ -30,6 +30,7 @@ struct SeasonRow
     qint64 gameID = 0;
     std::array<qint64, N> figures{};
     bool changed = false;
+    bool removed = false; // taken back to nothing: the row is deleted
 };
 
 struct TeamRecordRow
@@ -39,6 +40,7 @@ struct TeamRecordRow
     qint64 L = 0;
     qint64 Tie = 0;
     bool changed = false;
+    bool removed = false;
 };
 
 class SeasonFold
@@ -55,7 +57,18 @@ public:
     bool add(const PlayerAdditions &player, qint64 teamID, qint64 gameID, bool carryThirds = false);
     void addResult(const GameResultClass &result);
 
-    // Writes every row that changed: an update by its recID, or an insert.
+    // The inverse of add, for a game taken back from the season: the same
+    // additions are subtracted. A row that is left with nothing and was last
+    // folded by this game was made by it, and is deleted. False, with
+    // nothing changed, when the player's rows hold less than the game added
+    // (the season no longer holds this game).
+    bool takeBack(const PlayerAdditions &player, qint64 gameID);
+    // The inverse of addResult; a record left at 0-0-0 is deleted. False,
+    // with nothing changed, when a record holds less than the game added.
+    bool takeBackResult(const GameResultClass &result);
+
+    // Writes every row that changed: an update by its recID, an insert, or
+    // a delete of a row taken back to nothing.
     // Throws SQLite::Exception on a database error; the caller's
     // transaction then takes everything back.
     void write(SQLite::Database &db) const;

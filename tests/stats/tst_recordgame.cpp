@@ -6,11 +6,13 @@
 
 #include "app/myDB.h"
 #include "gameday/GameStore.h"
+#include "stats/BoxProof.h"
 #include "stats/GameRecorder.h"
 #include "stats/SeasonFigures.h"
 
 #include <SQLiteCpp/Database.h>
 
+#include <QRegularExpression>
 #include <QTest>
 
 using recordtest::Card;
@@ -51,6 +53,54 @@ int runsOf(const QString &schedID, int team)
 GameRecorder::Result recordWithBoard(const QString &schedID)
 {
     return GameRecorder(*gData).record(schedID, runsOf(schedID, 0), runsOf(schedID, 1));
+}
+
+// Every row of every season table and the games' recorded flags, one line
+// a row. The `gameID` stamp of a player's row names the last game folded
+// into it and is left out: a correction can't know the one before.
+QString seasonDump()
+{
+    QStringList lines;
+    for (const QString table : {"Hitting", "Fielding", "Pitching", "GameResultsByTeam", "SacFlies", "Games"}) {
+        if (!gData->tlynData->tableExists(table.toStdString()))
+            continue;
+        const QString what = table == u"Games" ? QStringLiteral("schedID, recorded") : QStringLiteral("*");
+        for (const Record &r : gData->select(QStringLiteral("SELECT ") + what + QStringLiteral(" FROM ") + table)) {
+            QStringList cells = {table};
+            for (int c = 0; c < r.columns.size(); ++c) {
+                if (r.columns.at(c) != u"gameID")
+                    cells.append(r.columns.at(c) + u'=' + r.values.at(c).toString());
+            }
+            lines.append(cells.join(u' '));
+        }
+    }
+    return lines.join(u'\n');
+}
+
+// The played game of the game screen's golden file, as stored.
+gameday::GameRecord goldenGame()
+{
+    QFile file(qEnvironmentVariable("TL_TEST_DATA") + QStringLiteral("/gameday-played.txt"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no golden game");
+    gameday::GameRecord game;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
+        const QString key = line.section(u'=', 0, 0);
+        const QString value = line.section(u'=', 1)
+                                  .replace(QStringLiteral("\\t"), QStringLiteral("\t"))
+                                  .replace(QStringLiteral("\\r"), QStringLiteral("\r"));
+        gameday::TeamStrings &team = game.teams[key.startsWith(QStringLiteral("TeamB")) ? 1 : 0];
+        const QString field = key.mid(5);
+        if (field == u"Headings")
+            team.headings = value;
+        else if (field == u"Players")
+            team.players = value;
+        else if (field == u"Actions")
+            team.actions = value;
+        else if (field == u"Outcomes")
+            team.outcomes = value;
+    }
+    return game;
 }
 
 } // namespace
@@ -313,6 +363,128 @@ private Q_SLOTS:
         }
         QCOMPARE(failed, writes);
         QVERIFY(Season::isRecorded(game));
+    }
+
+    // Correcting a recorded game takes back exactly what recording added,
+    // the thirds of its innings included, and reopens it.
+    void correctTakesBackTheGame_data()
+    {
+        QTest::addColumn<int>("earlier");   // games recorded before it
+        QTest::addColumn<int>("carried");   // a season innings code before any game, 0 for none
+        QTest::addColumn<bool>("tampered"); // the season's at bats cut after recording
+        QTest::newRow("first game: its rows and records go") << 0 << 0 << false;
+        QTest::newRow("second game: a tie and a sacrifice fly") << 1 << 0 << false;
+        QTest::newRow("6.1 + 4.1 - 4.1 = 6.1") << 0 << 61 << false;
+        QTest::newRow("season holds less than the game: refused") << 0 << 0 << true;
+    }
+    void correctTakesBackTheGame()
+    {
+        QFETCH(int, earlier);
+        QFETCH(int, carried);
+        Season s;
+        const QStringList ids = storeTwoGames(s);
+        if (carried)
+            gData->insert("Pitching", {{"playerID", 205}, {"teamID", s.homeID}, {"IP", carried}});
+        for (int g = 0; g < earlier; ++g)
+            QCOMPARE(recordWithBoard(ids.at(g)), GameRecorder::Result::Recorded);
+        const QString game = ids.at(earlier);
+        const QString before = seasonDump();
+        QCOMPARE(recordWithBoard(game), GameRecorder::Result::Recorded);
+        QVERIFY(seasonDump() != before);
+
+        s.fake.messages.answers.enqueue(platform::MsgCancel);
+        QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Cancelled);
+        QVERIFY(Season::isRecorded(game));
+        s.fake.messages.clear();
+        if (QFETCH(bool, tampered); tampered) {
+            gData->exec("UPDATE Hitting SET AB = 0 WHERE playerID = 205");
+            const QByteArray stored = Season::fileBytes();
+            QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Mismatch);
+            QCOMPARE(s.fake.messages.texts().last(),
+                     QStringLiteral("This game can't be taken back out of the season."));
+            QCOMPARE(Season::fileBytes(), stored);
+            return;
+        }
+        QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::Corrected);
+        QCOMPARE(s.fake.messages.texts(), QStringList{QStringLiteral("Correct this recorded game?")});
+        QCOMPARE(seasonDump(), before);
+        QCOMPARE(GameRecorder(*gData).correct(game), GameRecorder::Correction::NotRecorded);
+    }
+
+    // A corrected at bat recorded again leaves the season as recording the
+    // game that way from the start does, `gameID` stamps included.
+    void correctedGameRecordsAsNew()
+    {
+        auto played = [](bool correctLater, QString &dump) {
+            Season s;
+            const QStringList ids = storeTwoGames(s);
+            const QString g1 = ids.first();
+            auto walkToSingle = [&] {
+                auto game = gameday::GameStore(*gData).load(g1);
+                gameday::ScoreGrid grid;
+                GameRecorder::loadGrid(grid, game->teams[0]);
+                gridtest::fill(grid, {"B1/G GO/R", "KS/R B1/Y", "HR/G FO/R"});
+                game->teams[0].actions = grid.getMyData();
+                game->teams[0].outcomes = grid.getMyBkgArray();
+                gameday::GameStore(*gData).save(*game);
+            };
+            if (!correctLater)
+                walkToSingle();
+            QCOMPARE(recordWithBoard(g1), GameRecorder::Result::Recorded);
+            if (correctLater) {
+                QCOMPARE(GameRecorder(*gData).correct(g1), GameRecorder::Correction::Corrected);
+                walkToSingle();
+                QCOMPARE(recordWithBoard(g1), GameRecorder::Result::Recorded);
+            }
+            // Rows taken back and inserted again have new recIDs.
+            dump = seasonDump().remove(QRegularExpression(QStringLiteral("recID=\\d+ ")));
+            for (const QString table : {"Hitting", "Fielding", "Pitching"}) {
+                for (const Record &r : gData->select(QStringLiteral("SELECT playerID, gameID FROM ") + table))
+                    dump += u'\n' + table + u' ' + r.text("playerID") + u' ' + r.text("gameID");
+            }
+        };
+        QString fromTheStart;
+        QString corrected;
+        played(false, fromTheStart);
+        played(true, corrected);
+        QVERIFY(fromTheStart.contains(QRegularExpression(QStringLiteral("Hitting .*playerID=203 .*B1=1 .*BB=0 "))));
+        QCOMPARE(corrected, fromTheStart);
+    }
+
+    // The fifth line of the final check: plate appearances against runs,
+    // runners left and the other side's putouts, inning by inning.
+    void boxProof_data()
+    {
+        QTest::addColumn<int>("team");
+        QTest::addColumn<int>("row"); // a cell whose out is taken off the card, -1 for none
+        QTest::addColumn<int>("col");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("golden game, visitors")
+            << 0 << -1 << -1 << "A: 12 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 13; 2 R + 2 LOB + 9 PO = 13";
+        QTest::newRow("golden game, home: an out on base is a putout")
+            << 1 << -1 << -1 << "B: 9 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 10; 3 R + 1 LOB + 6 PO = 10";
+        QTest::newRow("missing out in the third")
+            << 0 << 4 << 2
+            << "A: 12 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 13; 2 R + 2 LOB + 8 PO = 12. Does not balance in inning 3";
+        QTest::newRow("missing out in the doubled first")
+            << 1 << 0 << 1
+            << "B: 9 AB + 1 BB + 0 HBP + 0 SAC + 0 CI = 10; 3 R + 1 LOB + 5 PO = 9. Does not balance in inning 1";
+    }
+    void boxProof()
+    {
+        QFETCH(int, team);
+        QFETCH(int, row);
+        QFETCH(int, col);
+        gameday::GameRecord game = goldenGame();
+        if (row >= 0) {
+            gameday::ScoreGrid card;
+            GameRecorder::loadGrid(card, game.teams[team]);
+            card.setCellBkg(row, col, QString());
+            game.teams[team].outcomes = card.getMyBkgArray();
+        }
+        const stats::BoxProof proof = stats::proveBoxScores(game)[team];
+        QTEST(proof.text(team == 0 ? QStringLiteral("A") : QStringLiteral("B")), "line");
+        QCOMPARE(proof.balances(), row < 0);
     }
 };
 

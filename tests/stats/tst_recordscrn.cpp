@@ -56,6 +56,8 @@ void answerChecks(const QString &answer, QString &marks)
             poll->deleteLater();
             for (const CheckMark *mark : check->checkCnv)
                 marks += mark->passed() ? u'1' : u'0';
+            for (const CheckMark *mark : check->proofCnv)
+                marks += mark->passed() ? u'1' : u'0';
             if (answer == u"escape")
                 return QTest::keyClick(check, Qt::Key_Escape);
             auto *target = check->findChild<QPushButton *>(answer);
@@ -79,6 +81,12 @@ QString seasonDump(const QString &home, const QString &bears, const QString &gam
         .replace("game=" + game, "game=G")
         .replace("team=" + home, "team=H")
         .replace("team=" + bears, "team=B");
+}
+
+QString untouchedSeason()
+{
+    return QStringList{"H1: ", "H2: ", "H13: ", "H14: ", "H15: ", "H16: ", "F1: ", "P16: ", "home ", "bears ", "open"}
+        .join(u'\n');
 }
 
 } // namespace
@@ -110,9 +118,7 @@ private Q_SLOTS:
                         "bears 0-1-0",
                         "recorded"}
                 .join(u'\n');
-        const QString untouched = QStringList{"H1: ", "H2: ",  "H13: ", "H14: ",  "H15: ", "H16: ",
-                                              "F1: ", "P16: ", "home ", "bears ", "open"}
-                                      .join(u'\n');
+        const QString untouched = untouchedSeason();
         QTest::newRow("from the home team's view, panel open") << 0 << "recordBtn" << recorded;
         QTest::newRow("from the Bears' view") << 1 << "recordBtn" << recorded;
         QTest::newRow("cancel") << 1 << "cancelBtn" << untouched;
@@ -159,8 +165,9 @@ private Q_SLOTS:
         QTest::keyClick(testkit::child<QPushButton>(scr, "finalizeBtn"), Qt::Key_Space);
 
         // RBI 1 against 2 runs for the home team, whose first inning has no
-        // outs; every at bat has its result; both panels saved.
-        QCOMPARE(marks, QStringLiteral("0011"));
+        // outs; every at bat has its result; both panels saved; both cards
+        // prove.
+        QCOMPARE(marks, QStringLiteral("001111"));
         QVERIFY(!testkit::child<FieldingCtr>(scr, "myFldCtr")->isVisible());
         QCOMPARE(seasonDump(home, bears, s.schedID()), season);
         const bool done = season.endsWith("recorded");
@@ -170,6 +177,30 @@ private Q_SLOTS:
         QCOMPARE(s.fake.messages.texts().contains("The game data has been successfully recorded."), done);
         if (answer == u"fail")
             QVERIFY(s.fake.messages.texts().last().startsWith("Database Error"));
+
+        // A recorded game is corrected from the keyboard: the season is as
+        // before and the game opens for changes.
+        auto *correct = testkit::child<QPushButton>(scr, "correctGameBtn");
+        QCOMPARE(correct->isVisible(), done);
+        if (done) {
+            QVERIFY(!correct->accessibleName().isEmpty());
+            correct->setFocus();
+            QTest::keyClick(correct, Qt::Key_Space);
+            QCOMPARE(s.fake.messages.texts().last(), QStringLiteral("Correct this recorded game?"));
+            QCOMPARE(seasonDump(home, bears, s.schedID()), untouchedSeason());
+            QVERIFY(!correct->isVisible());
+            QVERIFY(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible());
+            QVERIFY(testkit::child<QComboBox>(scr, "gameTypePop")->isEnabled());
+            QVERIFY(!game.isReadOnly());
+            testkit::child<BBPlayersLB>(scr, "Names_PosLB")->setSelectedRow(0);
+            QVERIFY(testkit::child<QPushButton>(scr, "fldStatsBtn")->isEnabled());
+            // Recorded again, the season is as after the first recording.
+            QString again;
+            answerChecks(QStringLiteral("recordBtn"), again);
+            QTest::keyClick(testkit::child<QPushButton>(scr, "finalizeBtn"), Qt::Key_Space);
+            QCOMPARE(seasonDump(home, bears, s.schedID()), season);
+            QVERIFY(correct->isVisible());
+        }
         scr->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

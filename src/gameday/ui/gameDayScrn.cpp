@@ -12,6 +12,7 @@
 #include "platform/Services.h"
 #include "reports/ui/qlmListBox.h"
 #include "schedule/EventDates.h"
+#include "stats/BoxProof.h"
 #include "stats/GameStats.h"
 #include "stats/RecordGameData.h"
 #include "stats/ui/FieldingCtr.h"
@@ -217,9 +218,13 @@ QLayout *gameDayScrn::buildBottom(QWidget *central)
     dataRecordedLabel = form::valueLabel(central, QStringLiteral("dataRecordedLabel"), tr("Recorded"));
     dataRecordedLabel->setText(QStringLiteral("Game data has been recorded"));
     dataRecordedLabel->hide();
+    correctGameBtn = form::button(central, QStringLiteral("correctGameBtn"), tr("Correct &Game"),
+                                  tr("Take the recorded game back out of the season to correct it"));
+    correctGameBtn->hide();
     closeBtn = form::button(central, QStringLiteral("closeBtn"), tr("&Close"));
     bottom->addWidget(finalizeBtn);
     bottom->addWidget(dataRecordedLabel);
+    bottom->addWidget(correctGameBtn);
     bottom->addStretch();
     bottom->addWidget(closeBtn);
     return bottom;
@@ -260,8 +265,15 @@ void gameDayScrn::connectGame()
             finalCheckScrn check(this);
             const gameday::Scoreboard &b = m_game->board();
             check.setScore(m_game->teamInfo(0).name, b.runs[0], m_game->teamInfo(1).name, b.runs[1]);
+            check.setBoxProofs(stats::proveBoxScores(m_game->record()),
+                               {m_game->teamInfo(0).name, m_game->teamInfo(1).name});
             return check.showMe(checks);
         });
+        showFinalize();
+    });
+    connect(correctGameBtn, &QPushButton::clicked, this, [this] {
+        if (stats::correctGameData(*gData, *m_game))
+            finalizeBtn->setFocus();
         showFinalize();
     });
 }
@@ -505,13 +517,17 @@ void gameDayScrn::showTeam()
 
 void gameDayScrn::showLock()
 {
-    // A read-only game: everything that would change it is closed.
-    if (!m_game->isReadOnly())
-        return;
-    for (QWidget *w : std::initializer_list<QWidget *>{addBtn, removeBtn, replaceBtn, PlusMinusPlayers, LBChangePos,
-                                                       EnterRHE_Btn, gameTypePop, batterStatLB})
-        w->setEnabled(false);
-    Names_PosLB->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // A read-only game: everything that would change it is closed; a
+    // corrected game opens it all again.
+    const bool writable = !m_game->isReadOnly();
+    for (QWidget *w :
+         std::initializer_list<QWidget *>{PlusMinusPlayers, LBChangePos, EnterRHE_Btn, gameTypePop, batterStatLB})
+        w->setEnabled(writable);
+    showLineupButtons();
+    if (Names_PosLB->editTriggers() != QAbstractItemView::NoEditTriggers)
+        m_lineupEditTriggers = int(Names_PosLB->editTriggers());
+    Names_PosLB->setEditTriggers(writable ? QAbstractItemView::EditTriggers(m_lineupEditTriggers)
+                                          : QAbstractItemView::NoEditTriggers);
 }
 
 void gameDayScrn::showLineupButtons()
@@ -580,6 +596,7 @@ void gameDayScrn::showFinalize()
 {
     finalizeBtn->setVisible(m_game->finalizeVisible());
     dataRecordedLabel->setVisible(m_game->isRecorded());
+    correctGameBtn->setVisible(m_game->lock() == gameday::GameDay::Lock::Recorded);
 }
 
 void gameDayScrn::setReadOnlyFlds(bool readOnly)

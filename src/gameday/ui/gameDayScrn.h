@@ -79,6 +79,7 @@ private:
     battingCtr *myBatCtr = nullptr;
     QPushButton *finalizeBtn = nullptr;
     QLabel *dataRecordedLabel = nullptr;
+    QPushButton *correctGameBtn = nullptr;
     QLabel *InstrFld = nullptr;
     QPushButton *closeBtn = nullptr;
     QTimer switchTeamTimer;
@@ -114,4 +115,5 @@ private:
     QWidget *m_gridArea = nullptr;
     bool m_opened = false;
     bool m_showing = false;
+    int m_lineupEditTriggers = 0; // the lineup's own, while the game is open for changes
 };

@@ -82,6 +82,15 @@ finalCheckScrn::finalCheckScrn(QWidget *parent) : QDialog(parent)
         grid->addWidget(checkCnv[i], i, 0);
         grid->addWidget(checkLabel[i], i, 1);
     }
+    for (int t = 0; t < 2; ++t) {
+        proofCnv[t] = form::named(new CheckMark(this), QStringLiteral("proofCnv%1").arg(t), QString());
+        proofLabel[t] = form::named(new QLabel(this), QStringLiteral("proofLabel%1").arg(t), QString());
+        proofLabel[t]->setWordWrap(true);
+        grid->addWidget(proofCnv[t], 4 + t, 0);
+        grid->addWidget(proofLabel[t], 4 + t, 1);
+        proofCnv[t]->hide();
+        proofLabel[t]->hide();
+    }
     grid->setColumnStretch(1, 1);
     layout->addLayout(grid);
 
@@ -121,6 +130,20 @@ void finalCheckScrn::setScore(const QString &teamA, const QString &runsA, const 
                                  runsB.isEmpty() ? QStringLiteral("0") : runsB));
     scoreLabel->setAccessibleName(QStringLiteral("Score to be recorded: ") + scoreLabel->text());
     scoreLabel->show();
+}
+
+void finalCheckScrn::setBoxProofs(const std::array<stats::BoxProof, 2> &proofs, const std::array<QString, 2> &teams)
+{
+    for (size_t t = 0; t < 2; ++t) {
+        const QString line = QStringLiteral("Box score proof, ") + proofs[t].text(teams[t]);
+        proofLabel[t]->setText(line);
+        proofLabel[t]->setAccessibleName(line);
+        proofCnv[t]->setPassed(proofs[t].balances());
+        proofCnv[t]->setAccessibleName(proofs[t].balances() ? QStringLiteral("Passed: box score proof")
+                                                            : QStringLiteral("Failed: box score proof"));
+        proofCnv[t]->show();
+        proofLabel[t]->show();
+    }
 }
 
 bool finalCheckScrn::showMe(const std::array<bool, 4> &checks)

@@ -1,8 +1,11 @@
 #pragma once
 
-// The window shown before a game is recorded: four checks, each with a
-// green tick or a red cross, and a warning that recording can't be undone.
-// The checks warn and don't bar: the coach records or cancels.
+// The window shown before a game is recorded: four checks and each team's
+// box-score proof, each with a green tick or a red cross, and a warning
+// about recording. The checks warn and don't bar: the coach records or
+// cancels.
+
+#include "stats/BoxProof.h"
 
 #include <QDialog>
 
@@ -39,6 +42,8 @@ public:
     // The score that will be recorded, shown under the title: team A
     // (batting first) and its runs, then team B.
     void setScore(const QString &teamA, const QString &runsA, const QString &teamB, const QString &runsB);
+    // The box-score proof line of each team, team A first.
+    void setBoxProofs(const std::array<stats::BoxProof, 2> &proofs, const std::array<QString, 2> &teams);
     // Shows the checks modally; true when the coach chose to record.
     bool showMe(const std::array<bool, 4> &checks);
 
@@ -49,6 +54,8 @@ public:
     QLabel *scoreLabel = nullptr;
     std::array<QLabel *, 4> checkLabel{};
     std::array<CheckMark *, 4> checkCnv{};
+    std::array<QLabel *, 2> proofLabel{};
+    std::array<CheckMark *, 2> proofCnv{};
     QLabel *warnLabel = nullptr;
     QPushButton *cancelBtn = nullptr;
     QPushButton *recordBtn = nullptr;

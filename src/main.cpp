@@ -26,5 +26,5 @@ int main(int argc, char *argv[])
 
     auto *splash = new splashScrn;
     splash->show();
-    return application.exec();
+    return QApplication::exec();
 }

@@ -59,7 +59,7 @@ public:
     void setCoverOpen(bool open);
 
     const QString &schedID() const { return m_rec.schedID; }
-    const GameEvent &event() const { return m_event; }
+    const GameEvent &gameEvent() const { return m_event; }
     const TeamInfo &teamInfo(int team) const { return m_info[size_t(team & 1)]; }
     QString teamID(int team) const { return m_rec.teamIDs[size_t(team & 1)]; }
     int curSelTeam() const { return m_cur; }

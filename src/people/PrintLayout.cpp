@@ -55,7 +55,7 @@ QFont printTextFont()
 QList<PrintBlock> teamDataBlocks(const QList<TeamRecord> &teams, bool withLogo, const QImage &placeholder,
                                  int pageWidth)
 {
-    const qreal half = pageWidth / 2;
+    const qreal half = pageWidth / 2.0;
     const qreal textWidth = withLogo ? half - kGap : pageWidth;
     QList<PrintBlock> blocks;
     for (const TeamRecord &t : teams) {
@@ -78,8 +78,8 @@ QList<PrintBlock> teamDataBlocks(const QList<TeamRecord> &teams, bool withLogo, 
 QList<PrintBlock> playerDataBlocks(const QList<MemberRecord> &players, bool withPhoto, const QImage &generic,
                                    int pageWidth)
 {
-    const qreal half = pageWidth / 2;
-    const qreal third = pageWidth / 3;
+    const qreal half = pageWidth / 2.0;
+    const qreal third = pageWidth / 3.0;
     const qreal leftWidth = half - kGap;
     const qreal columnWidth = third - kGap;
     QList<PrintBlock> blocks;

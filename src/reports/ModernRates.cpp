@@ -52,12 +52,14 @@ double pitchingWalks(const QList<double> &f)
 double inningsFromCode(double code)
 {
     const auto whole = static_cast<qint64>(code);
-    return double(whole / 10) + double(whole % 10) / 3.0;
+    const qint64 fullInnings = whole / 10;
+    return double(fullInnings) + double(whole % 10) / 3.0;
 }
 
 double inningsCode(qint64 thirds)
 {
-    return double(thirds / 3 * 10 + thirds % 3);
+    const qint64 code = thirds / 3 * 10 + thirds % 3;
+    return double(code);
 }
 
 const QList<RateColumn> &moreColumns(ReportKind kind)

@@ -161,7 +161,8 @@ void pitchReporter::acquireData(const reports::SeasonRow &row)
 {
     readCommon(*this, row);
     const auto code = static_cast<qint64>(mData[10]);
-    const double innings = double(code / 10) + double(code % 10) / 3.0;
+    const qint64 fullInnings = code / 10;
+    const double innings = double(fullInnings) + double(code % 10) / 3.0;
     ERA = ratio(9 * mData[13], innings);
     mData[27] = ERA;
 }

@@ -4,9 +4,7 @@
 
 CalendarMonth::CalendarMonth(const QDate &date)
 {
-    if (!date.isValid()) {
-        m_first = QDate(kFirstYear, 1, 1);
-    } else if (date.year() < kFirstYear) {
+    if (!date.isValid() || date.year() < kFirstYear) {
         m_first = QDate(kFirstYear, 1, 1);
     } else if (date.year() > kLastYear) {
         m_first = QDate(kLastYear, 12, 1);

@@ -91,15 +91,15 @@ QString inningsFromOuts(int outs)
     return QString::number(outs / 3) + u'.' + QString::number(outs % 3);
 }
 
-QStringList applyAutoFill(QStringList f, const gameday::AutoFillData &d)
+QStringList applyAutoFill(QStringList pitchingFields, const gameday::AutoFillData &data)
 {
-    while (f.size() < kPitchingFields)
-        f.append(QStringLiteral("0"));
-    f[0] = inningsFromOuts(d[0]);
+    while (pitchingFields.size() < kPitchingFields)
+        pitchingFields.append(QStringLiteral("0"));
+    pitchingFields[0] = inningsFromOuts(data[0]);
     static constexpr int targets[8] = {-1, 1, 2, 4, 7, 8, 10, 13};
     for (int i = 1; i < 8; ++i)
-        f[targets[i]] = QString::number(d[size_t(i)]);
-    return f;
+        pitchingFields[targets[i]] = QString::number(data[size_t(i)]);
+    return pitchingFields;
 }
 
 std::optional<QString> GameStatStore::stats(Panel panel, const QString &game, const QString &player) const
@@ -151,10 +151,12 @@ std::optional<PitchingLine> GameStatStore::pitching(const QString &game, const Q
     return p;
 }
 
-bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team, const PitchingLine &p)
+bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team,
+                                 const PitchingLine &line)
 {
-    const QVariantList values = {team,       p.gameResult, p.start ? 1 : 0, p.shutout ? 1 : 0, p.compGame ? 1 : 0,
-                                 p.totBalls, p.totKs,      p.stats};
+    const QVariantList values = {
+        team,          line.gameResult, line.start ? 1 : 0, line.shutout ? 1 : 0, line.compGame ? 1 : 0,
+        line.totBalls, line.totKs,      line.stats};
     return m_db.runInTransaction([&] {
         const int changed = run(m_db,
                                 QStringLiteral("UPDATE GamesIndivPitching SET teamID = ?, gameResult = ?, start = ?, "

@@ -25,6 +25,6 @@ struct Table
 // field, bytes that aren't UTF-8 or a row with another number of fields
 // than the first damage the text: reading stops there, and `badLine` names
 // the line where the damaged row starts.
-Table parse(const QByteArray &text);
+Table parse(const QByteArray &bytes);
 
 } // namespace support::csv

@@ -332,7 +332,7 @@ QStringList framesOfThrow(const std::exception_ptr &error)
     // the one its throw was noted with.
     static_assert(sizeof(std::exception_ptr) == sizeof(void *));
     const void *object = nullptr;
-    std::memcpy(&object, &error, sizeof object);
+    std::memcpy(&object, &error, sizeof object); // NOLINT(bugprone-undefined-memory-manipulation): read, not copied
     if (!error || !object || object != t_thrownObject)
         return {};
     return framesOfLastThrow();

@@ -27,6 +27,7 @@ ThrowFunction libraryThrow()
 
 extern "C" {
 
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the C++ runtime's own entry, defined here on purpose
 [[noreturn]] void __cxa_throw(void *exception, void *type, void (*destroy)(void *))
 {
     StackCleaner::recordThrow(exception);

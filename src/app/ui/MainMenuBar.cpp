@@ -110,12 +110,12 @@ QAction *MainMenuBar::addItem(QMenu *menu, const QString &name, const QString &t
     return action;
 }
 
-void MainMenuBar::installHandler(const QString &item, Handler handler)
+void MainMenuBar::installHandler(const QString &item, const Handler &handler)
 {
     QAction *action = m_items.value(item);
     if (!action)
         return;
-    m_handlers.insert(item, std::move(handler));
+    m_handlers.insert(item, handler);
     action->setEnabled(true);
 }
 

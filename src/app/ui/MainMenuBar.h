@@ -20,7 +20,7 @@ public:
 
     using Handler = std::function<bool()>;
     // Enables `item` and runs `handler` when it is chosen.
-    void installHandler(const QString &item, Handler handler);
+    void installHandler(const QString &item, const Handler &handler);
     void removeHandler(const QString &item);
     // Enables "Printer Setup": it shows the page set-up dialog (or, without
     // `forceDialog`, only when no set-up is remembered yet).

@@ -65,9 +65,9 @@ QHash<ScreenId, Factory> &directory()
 }
 } // namespace
 
-void registerScreen(ScreenId id, Factory factory)
+void registerScreen(ScreenId id, const Factory &factory)
 {
-    directory().insert(id, std::move(factory));
+    directory().insert(id, factory);
 }
 
 void registerScreen(ScreenId id, std::function<QWidget *()> factory)

@@ -18,7 +18,7 @@ namespace screens {
 // help topic), or an invalid QVariant.
 using Factory = std::function<QWidget *(const QVariant &argument)>;
 
-void registerScreen(ScreenId id, Factory factory);
+void registerScreen(ScreenId id, const Factory &factory);
 // For windows that take no argument.
 void registerScreen(ScreenId id, std::function<QWidget *()> factory);
 void unregisterScreen(ScreenId id);

@@ -372,7 +372,7 @@ void gameDayScrn::openGame(const QString &schedID)
         QTimer::singleShot(0, this, &QWidget::close);
         return;
     }
-    const gameday::GameEvent &event = m_game->event();
+    const gameday::GameEvent &event = m_game->gameEvent();
     dateFld->setText(EventDates::shortDate(event.date));
     fieldFld->setText(event.location);
     for (int t = 0; t < 2; ++t) {

@@ -6,7 +6,7 @@
 #include <cstdio>
 
 DemoTool::DemoTool(int &argc, char **argv, int minArgs, const char *usage)
-    : m_application(argc, argv), m_args(m_application.arguments()), m_installed(m_desktop.services())
+    : m_application(argc, argv), m_args(QCoreApplication::arguments()), m_installed(m_desktop.services())
 {
     if (m_args.size() <= minArgs) {
         std::fprintf(stderr, "usage: %s\n", usage);
@@ -34,7 +34,7 @@ int DemoTool::show(QWidget *window)
             QCoreApplication::quit();
         });
     }
-    const int result = m_application.exec();
+    const int result = QApplication::exec();
     m_season->Event_Close();
     return result;
 }

@@ -41,7 +41,7 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
-    const QStringList args = application.arguments();
+    const QStringList args = QCoreApplication::arguments();
     platform::qt::QtServices desktop;
     ConsoleMessages messages;
     platform::Services services = desktop.services();

@@ -120,8 +120,11 @@ void UDVStatsScrn::setupScrn()
 {
     if (!gPrefs)
         return;
-    const bool ok = fill(gPrefs->prUDB, batAbbrev, batDesc) & fill(gPrefs->prUDF, fldAbbrev, fldDesc) &
-                    fill(gPrefs->prUDP, pitchAbbrev, pitchDesc);
+    // Every list is filled, whether or not the one before it read well.
+    const bool batting = fill(gPrefs->prUDB, batAbbrev, batDesc);
+    const bool fielding = fill(gPrefs->prUDF, fldAbbrev, fldDesc);
+    const bool pitching = fill(gPrefs->prUDP, pitchAbbrev, pitchDesc);
+    const bool ok = batting && fielding && pitching;
     if (!ok)
         gMsgBox(QStringLiteral("There was an error in reading the User-Defined Values."));
 }

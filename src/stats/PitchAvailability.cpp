@@ -160,8 +160,8 @@ QList<PitcherLog> read(myDB &db, const QString &teamID, const QDate &from, const
 
     // Games of the days asked, by the date of their event.
     const QVariantList range{from.toString(Qt::ISODate), to.addDays(1).toString(Qt::ISODate)};
-    const QString games = QStringLiteral(" JOIN Games g ON g.gameID = CAST(x.gameID AS INTEGER)"
-                                         " JOIN Schedule s ON CAST(s.eventID AS TEXT) = g.schedID"
+    // A panel's row names its game by the event's id, as the Games row does.
+    const QString games = QStringLiteral(" JOIN Schedule s ON CAST(s.eventID AS TEXT) = x.gameID"
                                          " WHERE s.SchedDate >= ? AND s.SchedDate < ?");
     for (const Record &r : db.select(QStringLiteral("SELECT x.playerID, x.totBalls, x.totKs, s.SchedDate"
                                                     " FROM GamesIndivPitching x") +
@@ -176,14 +176,14 @@ QList<PitcherLog> read(myDB &db, const QString &teamID, const QDate &from, const
     // A catcher is a player the line-up puts at "C"; his innings there are
     // the innings of his fielding row for that game.
     QSet<std::pair<QString, QString>> catchers; // game, player
-    for (const Record &r : db.select(QStringLiteral("SELECT g.gameID, g.TeamAPlayers, g.TeamBPlayers FROM Games g"
+    for (const Record &r : db.select(QStringLiteral("SELECT g.schedID, g.TeamAPlayers, g.TeamBPlayers FROM Games g"
                                                     " JOIN Schedule s ON CAST(s.eventID AS TEXT) = g.schedID"
                                                     " WHERE s.SchedDate >= ? AND s.SchedDate < ?"),
                                      range)) {
         for (const char *column : {"TeamAPlayers", "TeamBPlayers"}) {
             for (const gameday::LineupLine &line : gameday::readPlayers(r.text(QString::fromLatin1(column)))) {
                 if (line.pos.trimmed() == u"C")
-                    catchers.insert({r.text(QStringLiteral("gameID")), line.playerID});
+                    catchers.insert({r.text(QStringLiteral("schedID")), line.playerID});
             }
         }
     }

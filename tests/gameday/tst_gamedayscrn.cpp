@@ -571,6 +571,50 @@ private Q_SLOTS:
             QCOMPARE(stats::GameStatStore(*gData).pitching(season.schedID(), player)->gameResult, 1);
         m_scr->close();
     }
+
+    // The pitch counter from the keyboard with the grid focused, and by
+    // click; the pitching panel over the grid holds it and shows its count.
+    void pitchCounter()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        auto *ball = ctl<QPushButton>("ballBtn");
+        QVERIFY(!ball->isEnabled());
+        QCOMPARE(ctl<QLabel>("pitcherFld")->text(), QStringLiteral("No pitcher in the lineup"));
+        addByPos({"C", "RHP"});
+        QVERIFY(ball->isEnabled());
+        QCOMPARE(ctl<QLabel>("pitcherFld")->text(), QStringLiteral("Pitching: Ann10 Smith"));
+
+        m_scr->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_scr));
+        auto *grid = ctl<BBScoringLB>("scoreCardLB");
+        grid->setFocus();
+        grid->setCurrentCell(0, 0);
+        m_codes.clear();
+        m_codes.enqueue(QStringLiteral("1B")); // would be taken if the grid saw the keys
+        QTest::keyClick(grid, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(grid, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(grid, Qt::Key_B, Qt::ControlModifier | Qt::ShiftModifier);
+        ball->click();
+        QCOMPARE(m_codes.size(), 1);
+        QCOMPARE(ctl<QLabel>("pitchCountFld")->text(), QStringLiteral("4 pitches, 2 strikes"));
+        QCOMPARE(ctl<QLabel>("pitchNoticeFld")->text(), QStringLiteral("4: no rest needed"));
+        const QString pitcher = m_scr->game().lineup().at(1).playerID;
+        const auto row = stats::GameStatStore(*gData).pitching(season.schedID(), pitcher);
+        QCOMPARE(row->totBalls, 2);
+        QCOMPARE(row->totKs, 2);
+
+        ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(1);
+        ctl<QPushButton>("pitchStatsBtn")->click();
+        auto *panel = ctl<pitchingCtr>("myPitchCtr");
+        QVERIFY(!ball->isEnabled());
+        QCOMPARE(panel->pitchCtFld(0)->text(), QStringLiteral("2"));
+        QCOMPARE(panel->pitchCtFld(1)->text(), QStringLiteral("2"));
+        QTest::keyClick(panel->dataFld(0), Qt::Key_Escape);
+        QVERIFY(ball->isEnabled());
+        m_codes.clear();
+        m_scr->close();
+    }
 };
 
 QTEST_MAIN(TestGameDayScrn)

@@ -8,6 +8,7 @@
 #include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/BBPlayersLB.h"
 #include "gameday/ui/BBScoringLB.h"
+#include "gameday/ui/PitchCountBar.h"
 #include "platform/Printing.h"
 #include "platform/Services.h"
 #include "reports/ui/qlmListBox.h"
@@ -91,6 +92,9 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     connectGame();
     connectLineup();
     connectBoardAndPanels();
+    pitchCountBar = new PitchCountBar(*gData, *m_game, central);
+    pitchCountBar->watchCover({myBatCtr, myFldCtr, myPitchCtr});
+    outer->insertWidget(2, pitchCountBar); // under the instruction line
     openGame(schedID);
 }
 
@@ -343,6 +347,7 @@ void gameDayScrn::connectBoardAndPanels()
     connect(myFldCtr, &StatPanel::saved, this, [this] { m_game->recalcErrs(); });
     connect(myPitchCtr, &pitchingCtr::autoFillCalled, this, [this] {
         myPitchCtr->hide();
+        pitchCountBar->count().warnIfResting(m_game->selectedPlayerID());
         m_game->startAutoFill();
         scoreCardLB->setFocus();
     });

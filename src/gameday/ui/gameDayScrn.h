@@ -11,6 +11,7 @@
 class BBPlayersLB;
 class BBScoringLB;
 class FieldingCtr;
+class PitchCountBar;
 class PlusMinusContainer;
 class QComboBox;
 class QLabel;
@@ -82,6 +83,7 @@ private:
     QPushButton *correctGameBtn = nullptr;
     QLabel *InstrFld = nullptr;
     QPushButton *closeBtn = nullptr;
+    PitchCountBar *pitchCountBar = nullptr;
     QTimer switchTeamTimer;
 
     QLayout *buildTop(QWidget *central);

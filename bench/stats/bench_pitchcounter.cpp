@@ -1,0 +1,127 @@
+// A pitch added through the counter (read the pitcher's pitching-panel row,
+// add the pitch, write the row back, one transaction) against the leanest
+// fair baseline: one plain SQLite transaction writing the same two counts
+// to a row of the same table by its game and player. Each round adds a
+// pitch, so both write new bytes; the disk flushes of each are counted, so
+// a write SQLite skipped would show. Run at 20, 200 and 2,000 games of
+// pitching rows, on a file on disk (the working folder, or TL_BENCH_DIR)
+// and on a file in memory (/dev/shm), the two interleaved round by round;
+// medians and the ratio printed.
+
+#include "stats/PitchCounter.h"
+
+#include "SyncCounter.h"
+#include "app/App.h"
+#include "app/globals.h"
+#include "app/myDB.h"
+#include "fakes/FakePlatform.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+
+using namespace stats;
+
+class BenchPitchCounter : public QObject
+{
+    Q_OBJECT
+
+    void measure(const QString &place, const QString &folder, int games)
+    {
+        fakes::FakePlatform fake;
+        QTemporaryDir home(folder + QStringLiteral("/bench-pitchcounter-XXXXXX"));
+        QVERIFY(home.isValid());
+        App app(home.path());
+        QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+
+        // The season's games, each with two pitchers' rows; the counter
+        // counts in the last game, the baseline writes the first.
+        GameStatStore store(*gData);
+        PitchingLine line;
+        line.totBalls = 20;
+        line.totKs = 30;
+        line.stats = gatherStats(QStringList(kPitchingFields, QStringLiteral("3")));
+        QString last;
+        QVERIFY(gData->runInTransaction([&] {
+            for (int i = 0; i < games; ++i) {
+                last = QString::number(
+                    gData->insert(QStringLiteral("Schedule"),
+                                  {{QStringLiteral("SchedDate"), QStringLiteral("2026-04-15")}, {"isHome", 2}}));
+                store.savePitching(last, QStringLiteral("10"), QStringLiteral("1"), line);
+                store.savePitching(last, QStringLiteral("11"), QStringLiteral("1"), line);
+            }
+        }));
+        const QString first = gData->scalar("SELECT MIN(gameID) FROM GamesIndivPitching").toString();
+
+        PitchCounter counter(*gData, pitchrules::builtIn());
+        counter.setPitcher(last, QStringLiteral("10"), QStringLiteral("1"), QDate(2026, 4, 15));
+
+        SQLite::Database &db = *gData->tlynData;
+        int baseBalls = line.totBalls, baseStrikes = line.totKs;
+        auto plain = [&](int balls, int strikes) {
+            SQLite::Transaction tx(db);
+            SQLite::Statement st(db, "UPDATE GamesIndivPitching SET totBalls = ?, totKs = ? "
+                                     "WHERE gameID = ? AND playerID = ?");
+            myDB::bindAll(st, {balls, strikes, first, QStringLiteral("10")});
+            st.exec();
+            tx.commit();
+        };
+
+        // Medians of interleaved rounds: the machine is shared, and a mean
+        // would carry every pause of another process.
+        const int rounds = 300;
+        QList<qint64> ours, base;
+        long long ourSyncs = 0, baseSyncs = 0;
+        QElapsedTimer timer;
+        for (int i = 0; i < rounds; ++i) {
+            const Pitch pitch = i % 2 ? Pitch::Ball : Pitch::Strike;
+            long long before = bench::SyncCounter::syncs();
+            timer.start();
+            QVERIFY(counter.add(pitch).ok);
+            ours.append(timer.nsecsElapsed());
+            ourSyncs += bench::SyncCounter::syncs() - before;
+
+            (pitch == Pitch::Ball ? baseBalls : baseStrikes) += 1;
+            before = bench::SyncCounter::syncs();
+            timer.start();
+            plain(baseBalls, baseStrikes);
+            base.append(timer.nsecsElapsed());
+            baseSyncs += bench::SyncCounter::syncs() - before;
+        }
+        const PitchingLine counted = store.pitching(last, QStringLiteral("10")).value();
+        QCOMPARE(counted.totBalls + counted.totKs, line.totBalls + line.totKs + rounds);
+        QCOMPARE(store.pitching(first, QStringLiteral("10"))->totBalls, counted.totBalls);
+        auto median = [](QList<qint64> v) {
+            std::sort(v.begin(), v.end());
+            return v.at(v.size() / 2) / 1e6;
+        };
+        const double a = median(ours), b = median(base);
+        qInfo("%-6s %5d games: a pitch through the counter %.3f ms, %.1f flushes; plain transaction writing the row "
+              "%.3f ms, %.1f flushes; ratio %.2f",
+              qPrintable(place), games, a, double(ourSyncs) / rounds, b, double(baseSyncs) / rounds, a / b);
+    }
+
+private Q_SLOTS:
+    void initTestCase() { bench::SyncCounter::install(); }
+
+    void pitchAgainstPlainTransaction_data()
+    {
+        QTest::addColumn<int>("games");
+        for (int games : {20, 200, 2000})
+            QTest::addRow("%d games", games) << games;
+    }
+    void pitchAgainstPlainTransaction()
+    {
+        QFETCH(int, games);
+        const QString disk = qEnvironmentVariableIsEmpty("TL_BENCH_DIR") ? QDir::currentPath()
+                                                                         : qEnvironmentVariable("TL_BENCH_DIR");
+        measure(QStringLiteral("disk"), disk, games);
+        measure(QStringLiteral("memory"), QStringLiteral("/dev/shm"), games);
+    }
+};
+
+QTEST_GUILESS_MAIN(BenchPitchCounter)
+#include "bench_pitchcounter.moc"

@@ -130,15 +130,12 @@ bool GameStatStore::saveStats(Panel panel, const QString &game, const QString &p
     });
 }
 
-std::optional<PitchingLine> GameStatStore::pitching(const QString &game, const QString &player) const
+namespace {
+
+const QString kPitchingColumns = QStringLiteral("gameResult, start, shutout, compGame, totBalls, totKs, stats");
+
+PitchingLine readPitchingRow(const Record &r)
 {
-    const QList<Record> rows = m_db.select(
-        QStringLiteral("SELECT gameResult, start, shutout, compGame, totBalls, totKs, stats FROM GamesIndivPitching "
-                       "WHERE gameID = ? AND playerID = ? ORDER BY recID LIMIT 1"),
-        {game, player});
-    if (rows.isEmpty())
-        return std::nullopt;
-    const Record &r = rows.first();
     PitchingLine p;
     const int result = int(r.integer(QStringLiteral("gameResult")));
     p.gameResult = result < 1 || result > 4 ? 4 : result;
@@ -149,6 +146,33 @@ std::optional<PitchingLine> GameStatStore::pitching(const QString &game, const Q
     p.totKs = int(r.integer(QStringLiteral("totKs")));
     p.stats = r.text(QStringLiteral("stats"));
     return p;
+}
+
+} // namespace
+
+std::optional<PitchingLine> GameStatStore::pitching(const QString &game, const QString &player) const
+{
+    const QList<Record> rows = m_db.select(QStringLiteral("SELECT ") + kPitchingColumns +
+                                               QStringLiteral(
+                                                   " FROM GamesIndivPitching "
+                                                   "WHERE gameID = ? AND playerID = ? ORDER BY recID LIMIT 1"),
+                                           {game, player});
+    if (rows.isEmpty())
+        return std::nullopt;
+    return readPitchingRow(rows.first());
+}
+
+std::optional<PitchingLine> GameStatStore::addPitches(const QString &game, const QString &player, int balls,
+                                                      int strikes)
+{
+    const QList<Record> rows = m_db.select(
+        QStringLiteral("UPDATE GamesIndivPitching SET totBalls = totBalls + ?, totKs = totKs + ? "
+                       "WHERE gameID = ? AND playerID = ? RETURNING ") +
+            kPitchingColumns,
+        {balls, strikes, game, player});
+    if (rows.isEmpty())
+        return std::nullopt;
+    return readPitchingRow(rows.first());
 }
 
 bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team,

@@ -77,6 +77,9 @@ public:
 
     std::optional<PitchingLine> pitching(const QString &game, const QString &player) const;
     bool savePitching(const QString &game, const QString &player, const QString &team, const PitchingLine &line);
+    // Adds to the balls and strikes of the player's row in one statement;
+    // the row after it, or none when the player has no row.
+    std::optional<PitchingLine> addPitches(const QString &game, const QString &player, int balls, int strikes);
 
     // The errors of a team in a game: fields 4 and 5 (fielding and
     // throwing errors) summed over its fielding rows.

@@ -121,10 +121,20 @@ PitchWrite PitchCounter::add(Pitch pitch)
     if (!hasPitcher())
         return write;
     GameStatStore store(m_db);
+    const int ball = pitch == Pitch::Ball ? 1 : 0;
     write.ok = m_db.runInTransaction([&] {
-        write.before = store.pitching(m_game, m_player);
-        write.after = write.before.value_or(freshLine());
-        (pitch == Pitch::Ball ? write.after.totBalls : write.after.totKs) += 1;
+        // The row as it was is the row after it less the pitch: one
+        // statement where the row is there, as it is from the first pitch on.
+        if (const std::optional<PitchingLine> after = store.addPitches(m_game, m_player, ball, 1 - ball)) {
+            write.after = *after;
+            write.before = *after;
+            write.before->totBalls -= ball;
+            write.before->totKs -= 1 - ball;
+            return;
+        }
+        write.after = freshLine();
+        write.after.totBalls = ball;
+        write.after.totKs = 1 - ball;
         store.savePitching(m_game, m_player, m_team, write.after);
     });
     if (!write.ok) {
@@ -217,8 +227,8 @@ void GamePitchCount::reload()
 
 bool GamePitchCount::warnIfResting(const QString &playerID)
 {
-    const QString why =
-        pitchingWarning(m_db, m_rules, m_game.teamID(m_game.curSelTeam()), playerID, m_game.gameEvent().date);
+    const QString why = pitchingWarning(m_db, m_rules, m_game.teamID(m_game.curSelTeam()), playerID,
+                                        m_game.gameEvent().date);
     if (why.isEmpty())
         return false;
     QString name;

@@ -23,8 +23,7 @@ PitchRuleSet shipped(const QString &file)
 
 QString playerOf(qint64 team, const QString &pos)
 {
-    return gData
-        ->scalar(QStringLiteral("SELECT playerID FROM Players WHERE TeamNum = ? AND Pos1 = ?"), {team, pos})
+    return gData->scalar(QStringLiteral("SELECT playerID FROM Players WHERE TeamNum = ? AND Pos1 = ?"), {team, pos})
         .toString();
 }
 
@@ -108,7 +107,8 @@ private Q_SLOTS:
         QTest::newRow("21: one day") << league << 13 << 10 << 10 << 0 << Pitch::Ball << "21 pitches, 10 strikes"
                                      << "21: 1 day's rest" << true;
         QTest::newRow("foul is a strike, band kept")
-            << league << 13 << 19 << 27 << 0 << Pitch::Foul << "47 pitches, 28 strikes" << "36: 2 days' rest" << false;
+            << league << 13 << 19 << 27 << 0 << Pitch::Foul << "47 pitches, 28 strikes"
+            << "36: 2 days' rest" << false;
         QTest::newRow("51: three days") << league << 13 << 20 << 30 << 0 << Pitch::Foul << "51 pitches, 31 strikes"
                                         << "51: 3 days' rest" << true;
         QTest::newRow("66: four days") << league << 13 << 30 << 35 << 0 << Pitch::Ball << "66 pitches, 35 strikes"
@@ -119,16 +119,18 @@ private Q_SLOTS:
         QTest::newRow("96: over, finishing the batter")
             << league << 13 << 40 << 55 << 0 << Pitch::Foul << "96 pitches, 56 strikes"
             << "96: over the daily maximum, he may finish the batter" << true;
-        QTest::newRow("9-year-old's maximum 75") << league << 9 << 30 << 44 << 0 << Pitch::Ball
-                                                 << "75 pitches, 44 strikes"
-                                                 << "75: daily maximum reached, he may finish the batter" << true;
-        QTest::newRow("national: may not finish") << national << 13 << 40 << 54 << 0 << Pitch::Strike
-                                                  << "95 pitches, 55 strikes"
-                                                  << "95: daily maximum reached, he may not finish the batter" << true;
-        QTest::newRow("national 16: 31 owes a day") << national << 16 << 15 << 15 << 0 << Pitch::Ball
-                                                    << "31 pitches, 15 strikes" << "31: 1 day's rest" << true;
-        QTest::newRow("an earlier game of the day counts") << league << 13 << 5 << 5 << 40 << Pitch::Ball
-                                                           << "11 pitches, 5 strikes" << "51: 3 days' rest" << true;
+        QTest::newRow("9-year-old's maximum 75")
+            << league << 9 << 30 << 44 << 0 << Pitch::Ball << "75 pitches, 44 strikes"
+            << "75: daily maximum reached, he may finish the batter" << true;
+        QTest::newRow("national: may not finish")
+            << national << 13 << 40 << 54 << 0 << Pitch::Strike << "95 pitches, 55 strikes"
+            << "95: daily maximum reached, he may not finish the batter" << true;
+        QTest::newRow("national 16: 31 owes a day")
+            << national << 16 << 15 << 15 << 0 << Pitch::Ball << "31 pitches, 15 strikes"
+            << "31: 1 day's rest" << true;
+        QTest::newRow("an earlier game of the day counts")
+            << league << 13 << 5 << 5 << 40 << Pitch::Ball << "11 pitches, 5 strikes"
+            << "51: 3 days' rest" << true;
     }
     void countAndThreshold()
     {
@@ -276,10 +278,9 @@ private Q_SLOTS:
         QCOMPARE(counter.counter().playerID(), rhp);
 
         const QDate wednesday(2026, 5, 6);
-        const AvailabilityReport report =
-            AvailabilityReport::make(rules, pitchlog::read(*gData, QString::number(season.homeID),
-                                                           wednesday.addDays(-30), wednesday),
-                                     wednesday);
+        const AvailabilityReport report = AvailabilityReport::make(
+            rules, pitchlog::read(*gData, QString::number(season.homeID), wednesday.addDays(-30), wednesday),
+            wednesday);
         const auto his = std::find_if(report.rows.begin(), report.rows.end(),
                                       [](const QStringList &r) { return r.first() == u"Ann10 Smith"; });
         QVERIFY(his != report.rows.end());

@@ -87,8 +87,8 @@ void PitchCountBar::watchCover(std::initializer_list<QWidget *> panels)
 bool PitchCountBar::eventFilter(QObject *watched, QEvent *event)
 {
     if ((event->type() == QEvent::Show || event->type() == QEvent::Hide) && m_panels.contains(watched)) {
-        const bool covered =
-            std::any_of(m_panels.begin(), m_panels.end(), [](const QWidget *panel) { return !panel->isHidden(); });
+        const bool covered = std::any_of(m_panels.begin(), m_panels.end(),
+                                         [](const QWidget *panel) { return !panel->isHidden(); });
         m_count->setCovered(covered);
     }
     return QFrame::eventFilter(watched, event);

@@ -574,16 +574,36 @@ private Q_SLOTS:
 
     // The pitch counter from the keyboard with the grid focused, and by
     // click; the pitching panel over the grid holds it and shows its count.
+    // The pitcher threw 70 the day before: putting him in and starting his
+    // auto-fill each warn.
     void pitchCounter()
     {
         gamedaytest::Season season;
+        auto warnings = [&season] {
+            return std::count_if(season.fake.messages.shown.begin(), season.fake.messages.shown.end(),
+                                 [](const fakes::ShownMessage &m) {
+                                     return m.explanation == u"Threw 70 on Tuesday: may not pitch until Sunday.";
+                                 });
+        };
         openFromSchedule(season);
+        const QString yesterday = QString::number(
+            gData->insert(QStringLiteral("Schedule"), {{QStringLiteral("SchedDate"), QStringLiteral("2026-04-14")},
+                                                       {QStringLiteral("Event"), QStringLiteral("Game")},
+                                                       {QStringLiteral("isHome"), 2}}));
+        const QString ann10 =
+            gData->scalar(QStringLiteral("SELECT playerID FROM Players WHERE First = 'Ann10'")).toString();
+        stats::PitchingLine threw;
+        threw.totBalls = 30;
+        threw.totKs = 40;
+        QVERIFY(stats::GameStatStore(*gData).savePitching(yesterday, ann10, QString::number(season.homeID), threw));
+
         auto *ball = ctl<QPushButton>("ballBtn");
         QVERIFY(!ball->isEnabled());
         QCOMPARE(ctl<QLabel>("pitcherFld")->text(), QStringLiteral("No pitcher in the lineup"));
         addByPos({"C", "RHP"});
         QVERIFY(ball->isEnabled());
         QCOMPARE(ctl<QLabel>("pitcherFld")->text(), QStringLiteral("Pitching: Ann10 Smith"));
+        QCOMPARE(warnings(), 1);
 
         m_scr->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_scr));
@@ -613,6 +633,14 @@ private Q_SLOTS:
         QTest::keyClick(panel->dataFld(0), Qt::Key_Escape);
         QVERIFY(ball->isEnabled());
         m_codes.clear();
+
+        ctl<QPushButton>("pitchStatsBtn")->click();
+        continueAutoFill();
+        panel->autoFillButton()->click();
+        QVERIFY(m_scr->game().autoFillRunning());
+        QCOMPARE(warnings(), 2);
+        QVERIFY(!ball->isEnabled());
+        QTest::keyClick(grid, Qt::Key_Escape);
         m_scr->close();
     }
 };

@@ -1,5 +1,6 @@
-// A pitch added through the counter (read the pitcher's pitching-panel row,
-// add the pitch, write the row back, one transaction) against the leanest
+// A pitch added through the counter (one transaction adding it to the
+// pitcher's pitching-panel row as last read, so the row before and after
+// are known for the undo log) against the leanest
 // fair baseline: one plain SQLite transaction writing the same two counts
 // to a row of the same table by its game and player. Each round adds a
 // pitch, so both write new bytes; the disk flushes of each are counted, so

@@ -175,6 +175,17 @@ std::optional<PitchingLine> GameStatStore::addPitches(const QString &game, const
     return readPitchingRow(rows.first());
 }
 
+bool GameStatStore::addPitchesIf(const QString &game, const QString &player, const PitchingLine &expected, int balls,
+                                 int strikes)
+{
+    return run(m_db,
+               QStringLiteral("UPDATE GamesIndivPitching SET totBalls = totBalls + ?, totKs = totKs + ? "
+                              "WHERE gameID = ? AND playerID = ? AND totBalls = ? AND totKs = ? AND gameResult = ? "
+                              "AND start = ? AND shutout = ? AND compGame = ? AND stats = ?"),
+               {balls, strikes, game, player, expected.totBalls, expected.totKs, expected.gameResult,
+                expected.start ? 1 : 0, expected.shutout ? 1 : 0, expected.compGame ? 1 : 0, expected.stats}) > 0;
+}
+
 bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team,
                                  const PitchingLine &line)
 {

@@ -80,6 +80,9 @@ public:
     // Adds to the balls and strikes of the player's row in one statement;
     // the row after it, or none when the player has no row.
     std::optional<PitchingLine> addPitches(const QString &game, const QString &player, int balls, int strikes);
+    // The same where the row still holds `expected` in every value; false
+    // when it doesn't (written elsewhere since, or gone) and nothing changed.
+    bool addPitchesIf(const QString &game, const QString &player, const PitchingLine &expected, int balls, int strikes);
 
     // The errors of a team in a game: fields 4 and 5 (fielding and
     // throwing errors) summed over its fielding rows.

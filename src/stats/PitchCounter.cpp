@@ -107,9 +107,10 @@ void PitchCounter::setPitcher(const QString &game, const QString &playerID, cons
 
 void PitchCounter::reload()
 {
-    m_line = {};
-    if (hasPitcher())
-        m_line = GameStatStore(m_db).pitching(m_game, m_player).value_or(PitchingLine{});
+    const std::optional<PitchingLine> row = hasPitcher() ? GameStatStore(m_db).pitching(m_game, m_player)
+                                                         : std::nullopt;
+    m_hasRow = row.has_value();
+    m_line = row.value_or(PitchingLine{});
 }
 
 PitchWrite PitchCounter::add(Pitch pitch)
@@ -123,8 +124,17 @@ PitchWrite PitchCounter::add(Pitch pitch)
     GameStatStore store(m_db);
     const int ball = pitch == Pitch::Ball ? 1 : 0;
     write.ok = m_db.runInTransaction([&] {
-        // The row as it was is the row after it less the pitch: one
-        // statement where the row is there, as it is from the first pitch on.
+        // The row as last read, found by all its values: one plain
+        // statement, and the row before and after are known.
+        if (m_hasRow && store.addPitchesIf(m_game, m_player, m_line, ball, 1 - ball)) {
+            write.before = m_line;
+            write.after = m_line;
+            write.after.totBalls += ball;
+            write.after.totKs += 1 - ball;
+            return;
+        }
+        // Written elsewhere since: the row as it was is the row after it
+        // less the pitch.
         if (const std::optional<PitchingLine> after = store.addPitches(m_game, m_player, ball, 1 - ball)) {
             write.after = *after;
             write.before = *after;
@@ -143,6 +153,7 @@ PitchWrite PitchCounter::add(Pitch pitch)
         return write;
     }
     m_line = write.after;
+    m_hasRow = true;
     const PitchCost now = m_rules.cost(m_age, pitchesToday());
     m_crossed = now.newRestBand || now.atDailyMax || now.overDailyMax;
     return write;

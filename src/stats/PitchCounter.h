@@ -93,7 +93,8 @@ private:
     QString m_game, m_player, m_team;
     int m_age = -1;
     int m_otherGamesToday = 0;
-    PitchingLine m_line;
+    PitchingLine m_line; // the row as last read or written
+    bool m_hasRow = false;
     bool m_crossed = false;
 };
 

@@ -221,6 +221,12 @@ private Q_SLOTS:
         game.showTeam(1);
         QCOMPARE(counter.counter().playerID(), lhp);
         QCOMPARE(counter.counter().countText(), QStringLiteral("1 pitch, 1 strike"));
+        // A row written behind the counter's back is counted on from the file.
+        QVERIFY(store.savePitching(season.schedID(), lhp, QString::number(season.bearsID), counted(5, 7)));
+        const PitchWrite write = counter.add(Pitch::Ball);
+        QCOMPARE(write.before, std::optional(counted(5, 7)));
+        QCOMPARE(write.after, counted(6, 7));
+        QCOMPARE(store.pitching(season.schedID(), lhp), std::optional(counted(6, 7)));
     }
 
     // Monday's 70 pitches through the counter; on Tuesday putting him in,

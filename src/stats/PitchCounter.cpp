@@ -190,17 +190,22 @@ GamePitchCount::GamePitchCount(myDB &db, gameday::GameDay &game, const PitchRule
     followTeam();
 }
 
-QString GamePitchCount::pitcherName() const
+QString GamePitchCount::nameOf(const QString &playerID) const
 {
     for (const gameday::LineupLine &line : m_game.lineup()) {
-        if (line.playerID == m_counter.playerID() && isPitcherRow(line)) {
-            QString name = line.name.trimmed();
-            if (name.startsWith(QStringLiteral("->")))
-                name = name.mid(2).trimmed();
-            return name;
-        }
+        if (line.playerID != playerID)
+            continue;
+        QString name = line.name.trimmed();
+        if (name.startsWith(QStringLiteral("->"))) // a replacement's row
+            name = name.mid(2).trimmed();
+        return name;
     }
     return {};
+}
+
+QString GamePitchCount::pitcherName() const
+{
+    return nameOf(m_counter.playerID());
 }
 
 bool GamePitchCount::mayCount() const
@@ -242,11 +247,7 @@ bool GamePitchCount::warnIfResting(const QString &playerID)
                                         m_game.gameEvent().date);
     if (why.isEmpty())
         return false;
-    QString name;
-    for (const gameday::LineupLine &line : m_game.lineup()) {
-        if (line.playerID == playerID)
-            name = line.name.trimmed().remove(QStringLiteral("->")).trimmed();
-    }
+    QString name = nameOf(playerID);
     if (name.isEmpty())
         name = QStringLiteral("This player");
     gShowMsgDlog(QStringLiteral("%1 may not pitch on %2 under %3.")

@@ -134,6 +134,7 @@ Q_SIGNALS:
     void pitchWritten(const stats::PitchWrite &write);
 
 private:
+    QString nameOf(const QString &playerID) const;
     void followTeam();
     void followLineup();
     void takeMound();

@@ -16,7 +16,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -45,22 +44,11 @@ void playTeam(gameday::GameDay &game, const QStringList &positions, const QList<
 // Presses "Record Game Data" and answers the check window with its record button.
 void recordFromScreen(gameDayScrn *screen)
 {
-    auto *poll = new QTimer;
-    poll->setInterval(5);
-    QObject::connect(poll, &QTimer::timeout, poll, [poll] {
-        for (QWidget *w : QApplication::topLevelWidgets()) {
-            auto *check = qobject_cast<finalCheckScrn *>(w);
-            if (!check || !check->isVisible())
-                continue;
-            poll->stop();
-            poll->deleteLater();
-            auto *record = check->findChild<QPushButton *>(QStringLiteral("recordBtn"));
-            record->setFocus();
-            QTest::keyClick(record, Qt::Key_Space);
-            return;
-        }
+    testkit::whenShown<finalCheckScrn>([](finalCheckScrn *check) {
+        auto *record = testkit::child<QPushButton>(check, "recordBtn");
+        record->setFocus();
+        QTest::keyClick(record, Qt::Key_Space);
     });
-    poll->start();
     testkit::child<QPushButton>(screen, "finalizeBtn")->setFocus();
     QTest::keyClick(testkit::child<QPushButton>(screen, "finalizeBtn"), Qt::Key_Space);
 }
@@ -136,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(shown.size(), 10);
 
         auto standings = std::make_unique<standingsScrn>();
-        QCOMPARE(lines(standings->myLB),
+        QCOMPARE(lines(testkit::child<qlmListBox>(standings.get(), "myLB")),
                  (QStringList{"Patriots 1 0 0 1.000 0.0", "Celtics 1 1 0 .500 0.5", "Wildcats 0 1 0 .000 1.0",
                               "Knights .000 0.5", "Cardinals .000 0.5"}));
     }

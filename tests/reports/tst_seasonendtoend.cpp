@@ -117,7 +117,7 @@ private Q_SLOTS:
         auto batting = std::make_unique<reportScrn>(0, QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP",
                                                                    "B1", "B2", "B3", "HR", "BB", "KS", "KL", "Runs",
                                                                    "RBI"});
-        const QStringList shown = lines(batting->reportBox);
+        const QStringList shown = lines(testkit::child<qlmListBox>(batting, "reportBox"));
         QVERIFY(shown.contains("Ethan Nguyen Celtics 2 1.000 1.000 1.500 1 1 0 0 0 0 0 1 0"));
         QVERIFY(shown.contains("Caleb Washington Celtics 2 .500 .500 2.000 0 0 0 1 0 1 0 1 2"));
         // Three Celtics, three Wildcats, three Patriots and the Celtics' B3.

@@ -224,15 +224,16 @@ private Q_SLOTS:
                         {"KL", 1}});
         stats::addSacrificeFlies(*f.db->tlynData, {{player, 1}});
         auto *report = new reportScrn(0, {"First Name", "Last Name", "AB", "Avg", "OBP", "SP"});
-        report->columnSetPop->setCurrentIndex(1);
-        QCOMPARE(report->reportBox->headings(),
+        testkit::child<QComboBox>(report, "columnSetPop")->setCurrentIndex(1);
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->headings(),
                  (QStringList{"First Name", "Last Name", "Team", "OBP2", "OPS", "ISO", "BABIP", "K%", "BB%"}));
-        QCOMPARE(report->reportBox->rowCells(0),
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->rowCells(0),
                  (QStringList{"Al", "Ames", "Eagles", ".533", "1.333", ".400", ".429", "18.8", "18.8"}));
-        report->columnSetPop->setCurrentIndex(0);
-        QCOMPARE(report->reportBox->headings(),
+        testkit::child<QComboBox>(report, "columnSetPop")->setCurrentIndex(0);
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->headings(),
                  (QStringList{"First Name", "Last Name", "Team", "AB", "Avg", "OBP", "SP"}));
-        QCOMPARE(report->reportBox->rowCells(0), (QStringList{"Al", "Ames", "Eagles", "10", ".400", ".467", ".800"}));
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->rowCells(0),
+                 (QStringList{"Al", "Ames", "Eagles", "10", ".400", ".467", ".800"}));
         delete report;
     }
 
@@ -259,7 +260,7 @@ private Q_SLOTS:
         QTest::mouseClick(screen->pdfBtn, Qt::LeftButton);
         QCOMPARE(fakes::pdfPageCount(base + QStringLiteral(".pdf")), 1);
         QVERIFY(fakes::pdfText(base + QStringLiteral(".pdf")).contains(QStringLiteral("Kowalski, Noah")));
-        QTest::mouseClick(screen->printBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "printBtn"), Qt::LeftButton);
         QCOMPARE(f.platform.printing.printed.size(), 1);
         QCOMPARE(fakes::pdfPageCount(f.platform.printing.printed.first()), 1);
         QVERIFY(fakes::pdfText(f.platform.printing.printed.first()).contains(QStringLiteral("Moreno, Isaac")));

@@ -88,8 +88,8 @@ private Q_SLOTS:
         dlog->show();
         QCOMPARE(dlog->updatetext->text(), QStringLiteral("Checking..."));
         QTRY_COMPARE(dlog->updatetext->text(), shown);
-        QCOMPARE(dlog->actionBtn->text(), action);
-        QCOMPARE(dlog->cancelBtn->isVisible(), action == u"Update Now");
+        QCOMPARE(testkit::child<QPushButton>(dlog, "actionBtn")->text(), action);
+        QCOMPARE(testkit::child<QPushButton>(dlog, "cancelBtn")->isVisible(), action == u"Update Now");
         delete dlog;
     }
 
@@ -124,12 +124,12 @@ private Q_SLOTS:
         auto *dlog = new updateDlog;
         dlog->updater->documentUrl = kDocument;
         dlog->show();
-        QTRY_VERIFY(dlog->actionBtn->isEnabled());
+        QTRY_VERIFY(testkit::child<QPushButton>(dlog, "actionBtn")->isEnabled());
         // The check went through the fake; the download goes over the wire.
         platform::Services services = platform::installed();
         services.http = &network;
         platform::ScopedServices real(services);
-        QTest::mouseClick(dlog->actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(dlog, "actionBtn"), Qt::LeftButton);
         QCOMPARE(fake.files.calls.last().request.suggestedName,
                  QStringLiteral("Tallyline_Baseball_9.0.0_update.tar.gz"));
         QCOMPARE(fake.files.calls.last().request.prompt, QStringLiteral("Select the Save Location"));
@@ -187,8 +187,8 @@ private Q_SLOTS:
         const QString text = expReporterScrn::reportText(QStringLiteral("OutOfBoundsException"),
                                                          {QStringLiteral("Sub teamScrn.save( string )")});
         expReporterScrn report(text);
-        report.errFld->appendPlainText(QStringLiteral("Tom & Jerry's #1 100%? ok"));
-        QTest::mouseClick(report.reportBtn, Qt::LeftButton);
+        testkit::child<QPlainTextEdit>(&report, "errFld")->appendPlainText(QStringLiteral("Tom & Jerry's #1 100%? ok"));
+        QTest::mouseClick(testkit::child<QPushButton>(&report, "reportBtn"), Qt::LeftButton);
         QCOMPARE(fake.urls.opened.size(), 1);
         const QUrl mail = fake.urls.opened.first();
         QCOMPARE(mail.scheme(), QStringLiteral("mailto"));
@@ -200,8 +200,8 @@ private Q_SLOTS:
         QVERIFY(body.startsWith(QStringLiteral("Error: OutOfBoundsException\r\nSub teamScrn.save( string )\r\n"
                                                "Tallyline Baseball v." TL_PROJECT_VERSION "\r\n")));
         QVERIFY(body.endsWith(QStringLiteral(" *Please feel free to add your comments.\r\nTom & Jerry's #1 100%? ok")));
-        QCOMPARE(report.ignoreBtn->text(), QStringLiteral("Continue"));
-        QVERIFY(report.reportBtn->isHidden());
+        QCOMPARE(testkit::child<QPushButton>(&report, "ignoreBtn")->text(), QStringLiteral("Continue"));
+        QVERIFY(testkit::child<QPushButton>(&report, "reportBtn")->isHidden());
     }
 };
 

@@ -47,13 +47,14 @@ public:
     QString curDocName;
     bool indexVisible = false;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
     indexCtnr *myIndexCtnr = nullptr;
     QTextBrowser *myHTML = nullptr;
     HTMLField *stylFld = nullptr;
     QPushButton *hideBtn = nullptr;
     QPushButton *closeBtn = nullptr;
     QLabel *noticeFld = nullptr;
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
 };

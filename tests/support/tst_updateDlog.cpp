@@ -86,8 +86,8 @@ private Q_SLOTS:
         auto *dlog = new updateDlog;
         dlog->updater->documentUrl = kDocument;
         dlog->show();
-        QCOMPARE(dlog->updatetext->text(), QStringLiteral("Checking..."));
-        QTRY_COMPARE(dlog->updatetext->text(), shown);
+        QCOMPARE(testkit::child<QLabel>(dlog, "updatetext")->text(), QStringLiteral("Checking..."));
+        QTRY_COMPARE(testkit::child<QLabel>(dlog, "updatetext")->text(), shown);
         QCOMPARE(testkit::child<QPushButton>(dlog, "actionBtn")->text(), action);
         QCOMPARE(testkit::child<QPushButton>(dlog, "cancelBtn")->isVisible(), action == u"Update Now");
         delete dlog;
@@ -103,8 +103,9 @@ private Q_SLOTS:
         dlog->show();
         // The window answers while the check waits.
         QTest::qWait(100);
-        QCOMPARE(dlog->updatetext->text(), QStringLiteral("Checking..."));
-        QTRY_COMPARE_WITH_TIMEOUT(dlog->updatetext->text(), cAutoUpdate::upToDateMessage(), 2000);
+        QCOMPARE(testkit::child<QLabel>(dlog, "updatetext")->text(), QStringLiteral("Checking..."));
+        QTRY_COMPARE_WITH_TIMEOUT(testkit::child<QLabel>(dlog, "updatetext")->text(), cAutoUpdate::upToDateMessage(),
+                                  2000);
         delete dlog;
     }
 
@@ -138,21 +139,22 @@ private Q_SLOTS:
             if (auto *found = qobject_cast<wAutoUpdate *>(w))
                 window = found;
         QVERIFY(window);
-        QCOMPARE(window->stTitle->text(), QStringLiteral("Tallyline 9"));
+        QCOMPARE(testkit::child<QLabel>(window, "stTitle")->text(), QStringLiteral("Tallyline 9"));
         QString lastProgress;
         connect(window->Updater, &cAutoUpdate::downloadProgress, this,
-                [&] { lastProgress = window->stProgress->text(); });
+                [&] { lastProgress = testkit::child<QLabel>(window, "stProgress")->text(); });
         QPointer<wAutoUpdate> guard(window);
         // Done, it says where the file went and leads there.
-        QTRY_VERIFY_WITH_TIMEOUT(window->btnShowFolder->isVisible(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(testkit::child<QPushButton>(window, "btnShowFolder")->isVisible(), 10000);
         QCOMPARE(lastProgress, QStringLiteral("1.5 MB of 1.5 MB"));
         QCOMPARE(QFileInfo(target).size(), 1572864);
-        QCOMPARE(window->stTitle->text(), QStringLiteral("The update was saved as \"") +
-                                              QDir::toNativeSeparators(target) + QStringLiteral("\"."));
-        QTest::mouseClick(window->btnShowFolder, Qt::LeftButton);
+        QCOMPARE(testkit::child<QLabel>(window, "stTitle")->text(), QStringLiteral("The update was saved as \"") +
+                                                                        QDir::toNativeSeparators(target) +
+                                                                        QStringLiteral("\"."));
+        QTest::mouseClick(testkit::child<QPushButton>(window, "btnShowFolder"), Qt::LeftButton);
         QCOMPARE(fake.files.revealed, QStringList{target});
-        QCOMPARE(window->btnCancel->text(), QStringLiteral("Close"));
-        QTest::mouseClick(window->btnCancel, Qt::LeftButton);
+        QCOMPARE(testkit::child<QPushButton>(window, "btnCancel")->text(), QStringLiteral("Close"));
+        QTest::mouseClick(testkit::child<QPushButton>(window, "btnCancel"), Qt::LeftButton);
         QTRY_VERIFY(!guard);
         QCOMPARE(QFileInfo(target).size(), 1572864);
     }
@@ -175,7 +177,7 @@ private Q_SLOTS:
         window->show();
         updater->Update(target);
         QTest::qWait(100);
-        QTest::mouseClick(window->btnCancel, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(window, "btnCancel"), Qt::LeftButton);
         QTest::qWait(100);
         QVERIFY(!QFileInfo::exists(target));
         QVERIFY(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());

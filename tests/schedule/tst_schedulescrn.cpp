@@ -30,6 +30,8 @@ using scheduletest::makeEvent;
 using scheduletest::Season;
 using scheduletest::whenShown;
 
+using scheduletest::daySlot;
+
 namespace {
 
 struct Composed
@@ -48,7 +50,7 @@ void compose(QAbstractButton *button, const Composed &c)
     whenShown<newEventScrn>([c](newEventScrn *editor) {
         whenShown<Calendar>([c](Calendar *picker) {
             picker->setStartDate(c.date);
-            QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(c.date).slotOfDay(c.date.day())), Qt::LeftButton);
+            QTest::mouseClick(daySlot(picker, CalendarMonth(c.date).slotOfDay(c.date.day())), Qt::LeftButton);
         });
         QTest::mouseClick(testkit::child<QToolButton>(editor, "calCnv"), Qt::LeftButton);
         testkit::child<QComboBox>(editor, "eventTypeBox")->setEditText(c.type);

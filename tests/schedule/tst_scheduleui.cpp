@@ -14,19 +14,24 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QToolButton>
 
 using scheduletest::Season;
 using scheduletest::whenShown;
 
+using scheduletest::daySlot;
+
 namespace {
 
 QStringList visibleDays(const Calendar &picker)
 {
     QStringList days;
-    for (QPushButton *b : picker.BevelButton1)
+    for (int slot = 0; slot < CalendarMonth::kSlots; ++slot) {
+        const QPushButton *b = daySlot(&picker, slot);
         days.append(b->isVisible() ? b->text() : QString());
+    }
     return days;
 }
 
@@ -49,9 +54,9 @@ void typeInto(QComboBox *box, const QString &text)
 void pickDay(newEventScrn *editor, int year, int month, int day)
 {
     whenShown<Calendar>([=](Calendar *picker) {
-        picker->PopupYear->setCurrentIndex(year - 2000);
-        picker->PopupMonth->setCurrentIndex(month - 1);
-        QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(year, month).slotOfDay(day)), Qt::LeftButton);
+        testkit::child<QComboBox>(picker, "PopupYear")->setCurrentIndex(year - 2000);
+        testkit::child<QComboBox>(picker, "PopupMonth")->setCurrentIndex(month - 1);
+        QTest::mouseClick(daySlot(picker, CalendarMonth(year, month).slotOfDay(day)), Qt::LeftButton);
     });
     QTest::mouseClick(testkit::child<QToolButton>(editor, "calCnv"), Qt::LeftButton);
     // The offscreen platform doesn't hand activation back when a modal
@@ -99,21 +104,21 @@ private Q_SLOTS:
         picker.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&picker));
         QCOMPARE(picker.whichDate, QDate(start.year(), start.month(), 1));
-        QCOMPARE(picker.PopupMonth->currentIndex(), start.month() - 1);
-        QCOMPARE(picker.PopupYear->currentText(), QString::number(start.year()));
-        QCOMPARE(picker.BevelButton1.size(), 37);
+        QCOMPARE(testkit::child<QComboBox>(&picker, "PopupMonth")->currentIndex(), start.month() - 1);
+        QCOMPARE(testkit::child<QComboBox>(&picker, "PopupYear")->currentText(), QString::number(start.year()));
+        QCOMPARE(picker.findChildren<QPushButton *>(QRegularExpression(QStringLiteral("^BevelButton1_"))).size(), 37);
         const QStringList shown = visibleDays(picker);
         for (int slot = 0; slot < 37; ++slot) {
             const int day = slot - hiddenBefore + 1;
             QCOMPARE(shown.at(slot), day >= 1 && day <= days ? QString::number(day) : QString());
         }
         // The day the picker was opened on has the focus.
-        QCOMPARE(QApplication::focusWidget(), picker.BevelButton1.at(hiddenBefore + start.day() - 1));
+        QCOMPARE(QApplication::focusWidget(), daySlot(&picker, hiddenBefore + start.day() - 1));
         // ... and stands out in bold, alone.
         for (int slot = 0; slot < 37; ++slot)
-            QCOMPARE(picker.BevelButton1.at(slot)->font().bold(), slot == hiddenBefore + start.day() - 1);
-        QCOMPARE(picker.StaticText1.first()->text(), QStringLiteral("Sun"));
-        QCOMPARE(picker.BevelButton1.at(hiddenBefore)->accessibleName(),
+            QCOMPARE(daySlot(&picker, slot)->font().bold(), slot == hiddenBefore + start.day() - 1);
+        QCOMPARE(testkit::child<QLabel>(&picker, "StaticText1_0")->text(), QStringLiteral("Sun"));
+        QCOMPARE(daySlot(&picker, hiddenBefore)->accessibleName(),
                  QLocale().toString(QDate(start.year(), start.month(), 1), QLocale::LongFormat));
     }
 
@@ -123,31 +128,31 @@ private Q_SLOTS:
         Calendar picker;
         picker.setStartDate(QDate(2026, 12, 5));
         picker.show();
-        QTest::mouseClick(picker.PushButton1, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton1"), Qt::LeftButton);
         QCOMPARE(picker.whichDate, QDate(2027, 1, 1));
-        QCOMPARE(picker.PopupYear->currentText(), QStringLiteral("2027"));
-        QTest::mouseClick(picker.PushButton2, Qt::LeftButton);
-        QTest::mouseClick(picker.PushButton2, Qt::LeftButton);
+        QCOMPARE(testkit::child<QComboBox>(&picker, "PopupYear")->currentText(), QStringLiteral("2027"));
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton2"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton2"), Qt::LeftButton);
         QCOMPARE(picker.whichDate, QDate(2026, 11, 1));
 
         // The popups move the page by themselves.
-        picker.PopupYear->setCurrentIndex(39);
-        picker.PopupMonth->setCurrentIndex(11);
+        testkit::child<QComboBox>(&picker, "PopupYear")->setCurrentIndex(39);
+        testkit::child<QComboBox>(&picker, "PopupMonth")->setCurrentIndex(11);
         QCOMPARE(picker.whichDate, QDate(2039, 12, 1));
-        QVERIFY(!picker.PushButton1->isEnabled());
-        picker.PushButton1->click(); // nothing past December 2039
+        QVERIFY(!testkit::child<QPushButton>(&picker, "PushButton1")->isEnabled());
+        testkit::child<QPushButton>(&picker, "PushButton1")->click(); // nothing past December 2039
         QCOMPARE(picker.whichDate, QDate(2039, 12, 1));
 
-        picker.PopupYear->setCurrentIndex(0);
-        picker.PopupMonth->setCurrentIndex(0);
+        testkit::child<QComboBox>(&picker, "PopupYear")->setCurrentIndex(0);
+        testkit::child<QComboBox>(&picker, "PopupMonth")->setCurrentIndex(0);
         QCOMPARE(picker.whichDate, QDate(2000, 1, 1));
-        QVERIFY(!picker.PushButton2->isEnabled());
-        picker.PushButton2->click();
+        QVERIFY(!testkit::child<QPushButton>(&picker, "PushButton2")->isEnabled());
+        testkit::child<QPushButton>(&picker, "PushButton2")->click();
         QCOMPARE(picker.whichDate, QDate(2000, 1, 1));
         QCOMPARE(visibleDays(picker).at(36), QStringLiteral("31")); // January 2000 starts on a Saturday
 
         // "This Month" goes to the clock's month (the fake clock says April 2026).
-        QTest::mouseClick(picker.PushButton3, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton3"), Qt::LeftButton);
         QCOMPARE(picker.whichDate, QDate(2026, 4, 1));
     }
 
@@ -155,7 +160,7 @@ private Q_SLOTS:
     {
         Season season;
         whenShown<Calendar>([](Calendar *picker) {
-            QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(2026, 7).slotOfDay(23)), Qt::LeftButton);
+            QTest::mouseClick(daySlot(picker, CalendarMonth(2026, 7).slotOfDay(23)), Qt::LeftButton);
         });
         QCOMPARE(Calendar::GetDate(nullptr, QDate(2026, 7, 4)), std::optional<QDate>(QDate(2026, 7, 23)));
 
@@ -163,7 +168,7 @@ private Q_SLOTS:
         whenShown<Calendar>([](Calendar *picker) {
             picker->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(picker));
-            QWidget *day4 = picker->BevelButton1.at(CalendarMonth(2026, 7).slotOfDay(4));
+            QWidget *day4 = daySlot(picker, CalendarMonth(2026, 7).slotOfDay(4));
             QCOMPARE(QApplication::focusWidget(), day4); // the day the picker opened on
             day4->setFocus();
             QTest::keyClick(day4, Qt::Key_Down);

@@ -112,15 +112,15 @@ private Q_SLOTS:
         QCOMPARE(screen->newPhoneFld[0]->text(), QStringLiteral("(614) 555-1234"));
         QCOMPARE(screen->newPhoneFld[1]->text(), QStringLiteral("555-1234"));
         playerInfoCtr *ctr = testkit::child<playerInfoCtr>(screen, "myPlayerCtr");
-        typeInto(ctr->UNumFld, QStringLiteral("7"));
+        typeInto(testkit::child<QLineEdit>(ctr, "UNumFld"), QStringLiteral("7"));
         QVERIFY(testkit::choose(ctr->PositionPop[0], QStringLiteral("SS")));
-        QVERIFY(testkit::choose(ctr->batPop, QStringLiteral("Switch")));
-        ctr->DOBFld->setFocus(Qt::TabFocusReason);
-        ctr->DOBFld->home(false);
-        QTest::keyClicks(ctr->DOBFld, QStringLiteral("04162012"));
-        ctr->StudentIDFld->setFocus(Qt::TabFocusReason); // leaving the date fills the age
-        QCOMPARE(ctr->ageLabel->text(), QStringLiteral("Age: 13"));
-        ctr->plNotesFld->setPlainText(QStringLiteral("Bats\tleft; \"quick\""));
+        QVERIFY(testkit::choose(testkit::child<QComboBox>(ctr, "batPop"), QStringLiteral("Switch")));
+        testkit::child<QLineEdit>(ctr, "DOBFld")->setFocus(Qt::TabFocusReason);
+        testkit::child<QLineEdit>(ctr, "DOBFld")->home(false);
+        QTest::keyClicks(testkit::child<QLineEdit>(ctr, "DOBFld"), QStringLiteral("04162012"));
+        testkit::child<QLineEdit>(ctr, "StudentIDFld")->setFocus(Qt::TabFocusReason); // leaving the date fills the age
+        QCOMPARE(testkit::child<QLabel>(ctr, "ageLabel")->text(), QStringLiteral("Age: 13"));
+        testkit::child<QPlainTextEdit>(ctr, "plNotesFld")->setPlainText(QStringLiteral("Bats\tleft; \"quick\""));
         QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QVERIFY(s.fake.messages.shown.isEmpty());
 
@@ -136,10 +136,11 @@ private Q_SLOTS:
         QCOMPARE(testkit::child<QPushButton>(screen, "actionBtn")->text(), QStringLiteral("Edit Team Member"));
         QCOMPARE(testkit::child<QLineEdit>(screen, "FNameFld")->text(), QStringLiteral("José \"Pepe\""));
         QCOMPARE(testkit::child<QLineEdit>(screen, "addr1Fld")->text(), QStringLiteral("12 \"Main\" St., Apt; 4"));
-        QCOMPARE(ctr->batPop->currentText(), QStringLiteral("Switch"));
-        QCOMPARE(ctr->UNumFld->text(), QStringLiteral("7"));
-        QCOMPARE(ctr->plNotesFld->toPlainText(), QStringLiteral("Bats\tleft; \"quick\""));
-        QCOMPARE(ctr->ageLabel->text(), QStringLiteral("Age: 13"));
+        QCOMPARE(testkit::child<QComboBox>(ctr, "batPop")->currentText(), QStringLiteral("Switch"));
+        QCOMPARE(testkit::child<QLineEdit>(ctr, "UNumFld")->text(), QStringLiteral("7"));
+        QCOMPARE(testkit::child<QPlainTextEdit>(ctr, "plNotesFld")->toPlainText(),
+                 QStringLiteral("Bats\tleft; \"quick\""));
+        QCOMPARE(testkit::child<QLabel>(ctr, "ageLabel")->text(), QStringLiteral("Age: 13"));
         QVERIFY(!screen->editState().editDirty);
 
         typeInto(testkit::child<QLineEdit>(screen, "cityFld"), QStringLiteral("Zürich"));
@@ -218,8 +219,7 @@ private Q_SLOTS:
 
         // A change of the player fields counts too, and so does closing.
         s.fake.messages.clear();
-        QVERIFY(
-            testkit::choose(testkit::child<playerInfoCtr>(screen, "myPlayerCtr")->throwPop, QStringLiteral("Left")));
+        QVERIFY(testkit::choose(testkit::child<QComboBox>(screen, "throwPop"), QStringLiteral("Left")));
         s.fake.messages.answers.enqueue(platform::MsgAction);
         QVERIFY(screen->close());
         QCOMPARE(s.fake.messages.texts(), QStringList{"Would you like to save the changes to this member?"});

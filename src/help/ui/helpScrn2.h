@@ -19,13 +19,14 @@ class indexCtnr : public QWidget
 public:
     explicit indexCtnr(QWidget *parent = nullptr);
 
-    QListWidget *indexLB = nullptr;
-
 Q_SIGNALS:
     void linkClicked(const QString &target);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QListWidget *indexLB = nullptr;
 };
 
 // The help window: the index on the left, one page on the right. Opened

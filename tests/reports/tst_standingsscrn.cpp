@@ -48,14 +48,24 @@ QPoint cellCenter(qlmListBox *list, int row, int column)
     return list->visualRect(list->model()->index(row, column)).center();
 }
 
-std::unique_ptr<standingsScrn> openStandings()
+// The standings open and active, with the list and the edit button at hand.
+struct Opened
 {
-    auto screen = std::make_unique<standingsScrn>();
-    screen->show();
-    screen->activateWindow();
-    if (!QTest::qWaitForWindowActive(screen.get()))
-        return nullptr;
-    return screen;
+    std::unique_ptr<standingsScrn> screen;
+    qlmListBox *list = nullptr;
+    QPushButton *editWLBtn = nullptr;
+};
+
+Opened openStandings()
+{
+    Opened opened{std::make_unique<standingsScrn>()};
+    opened.screen->show();
+    opened.screen->activateWindow();
+    if (!QTest::qWaitForWindowActive(opened.screen.get()))
+        return {};
+    opened.list = testkit::child<qlmListBox>(opened.screen.get(), "myLB");
+    opened.editWLBtn = testkit::child<QPushButton>(opened.screen.get(), "editWLBtn");
+    return opened;
 }
 
 } // namespace
@@ -88,7 +98,7 @@ private Q_SLOTS:
             if (parts.at(0) == c.value(QStringLiteral("home")))
                 f.prefs->prHomeTeam = QString::number(id);
         }
-        auto screen = openStandings();
+        auto screen = openStandings().screen;
         QVERIFY(screen);
         auto *views = testkit::child<QComboBox>(screen.get(), "standSelPop");
         auto *warning = testkit::child<QLabel>(screen.get(), "noGamesWarning");
@@ -108,7 +118,7 @@ private Q_SLOTS:
         ReportsFixture f;
         f.addTeam("Hawks");
         QVERIFY(f.db->exec(QStringLiteral("DROP TABLE GameResultsByTeam")));
-        auto screen = openStandings();
+        auto screen = openStandings().screen;
         QVERIFY(screen);
         QCOMPARE(shownRows(screen.get()), QStringList{"There was an error"});
     }
@@ -123,10 +133,8 @@ private Q_SLOTS:
         f.addTeam("Elks");
         f.addRecord(home, 3, 1, 0);
         f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
+        auto [screen, list, editWLBtn] = openStandings();
         QVERIFY(screen);
-        auto *list = testkit::child<qlmListBox>(screen.get(), "myLB");
-        auto *editWLBtn = testkit::child<QPushButton>(screen.get(), "editWLBtn");
         QCOMPARE(shownRows(list), (QStringList{"Hawks 3 1 0 .750 0.0", "Owls .000 1.0", "Elks .000 1.0"}));
 
         // Without the edit button down a click selects nothing and edits nothing.
@@ -181,10 +189,8 @@ private Q_SLOTS:
         const qint64 home = f.addTeam("Hawks", "North", "East");
         f.addTeam("Owls", "North", "East");
         f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
+        auto [screen, list, editWLBtn] = openStandings();
         QVERIFY(screen);
-        auto *list = testkit::child<qlmListBox>(screen.get(), "myLB");
-        auto *editWLBtn = testkit::child<QPushButton>(screen.get(), "editWLBtn");
         QTest::mouseClick(editWLBtn, Qt::LeftButton);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cellCenter(list, 1, 1));
         QVERIFY(list->isEditingCell());
@@ -207,10 +213,8 @@ private Q_SLOTS:
         f.addRecord(home, 2, 0, 0);
         f.addRecord(elks, 1, 0, 0);
         f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
+        auto [screen, list, editWLBtn] = openStandings();
         QVERIFY(screen);
-        auto *list = testkit::child<qlmListBox>(screen.get(), "myLB");
-        auto *editWLBtn = testkit::child<QPushButton>(screen.get(), "editWLBtn");
         QTest::mouseClick(editWLBtn, Qt::LeftButton);
         list->setFocus();
         list->setSelectedRow(0);

@@ -38,9 +38,11 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPointer>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -159,7 +161,7 @@ private Q_SLOTS:
         QTest::newRow("wAutoUpdate") << Opener([] { return new wAutoUpdate; });
         QTest::newRow("TransferDataScrn, lists out") << Opener([] {
             auto *sheet = new TransferDataScrn;
-            sheet->teamArea->show();
+            testkit::child<QWidget>(sheet, "teamArea")->show();
             return sheet;
         });
     }
@@ -209,22 +211,26 @@ private Q_SLOTS:
         auto *screen = new teamScrn;
         QVERIFY(testkit::showActive(screen));
 
-        QSignalSpy plus(screen->teamListPlusMInus, &PlusMinusContainer::PlusPressed);
-        QSignalSpy minus(screen->teamListPlusMInus, &PlusMinusContainer::MinusPressed);
-        QAccessibleInterface *pair = QAccessible::queryAccessibleInterface(screen->teamListPlusMInus);
+        QSignalSpy plus(testkit::child<PlusMinusContainer>(screen, "teamListPlusMInus"),
+                        &PlusMinusContainer::PlusPressed);
+        QSignalSpy minus(testkit::child<PlusMinusContainer>(screen, "teamListPlusMInus"),
+                         &PlusMinusContainer::MinusPressed);
+        QAccessibleInterface *pair = QAccessible::queryAccessibleInterface(
+            testkit::child<PlusMinusContainer>(screen, "teamListPlusMInus"));
         QAccessibleInterface *add = childNamed(pair, QStringLiteral("Add team"));
         QAccessibleInterface *remove = childNamed(pair, QStringLiteral("Delete team"));
         QVERIFY(add && remove);
         QCOMPARE(add->role(), QAccessible::Button);
         add->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(plus.count(), 1);
-        screen->teamListPlusMInus->setMinusEnabled(false);
+        testkit::child<PlusMinusContainer>(screen, "teamListPlusMInus")->setMinusEnabled(false);
         QVERIFY(remove->state().disabled);
         remove->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(minus.count(), 0);
 
-        QSignalSpy chosen(screen->printBtn->menu(), &QMenu::triggered);
-        QAccessibleInterface *menu = QAccessible::queryAccessibleInterface(screen->printBtn)->child(0);
+        QSignalSpy chosen(testkit::child<QToolButton>(screen, "printBtn")->menu(), &QMenu::triggered);
+        QAccessibleInterface *menu =
+            QAccessible::queryAccessibleInterface(testkit::child<QToolButton>(screen, "printBtn"))->child(0);
         QAccessibleInterface *entry = childNamed(menu, QStringLiteral("Team List"));
         QVERIFY(entry);
         entry->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -272,7 +278,8 @@ private Q_SLOTS:
         season.addTeam(QStringLiteral("Bears"), QStringLiteral("Riverside High"), {}, true);
         startScrn1 *start = startScrn1::showStartScreen();
         QVERIFY(QTest::qWaitForWindowExposed(start));
-        QAccessibleInterface *name = QAccessible::queryAccessibleInterface(start->teamNameLabel);
+        QAccessibleInterface *name = QAccessible::queryAccessibleInterface(
+            testkit::child<QLabel>(start, "teamNameLabel"));
         QVERIFY(name->text(QAccessible::Name).contains(QStringLiteral("Bears")));
     }
 };

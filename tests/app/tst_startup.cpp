@@ -184,10 +184,11 @@ private Q_SLOTS:
 
         startScrn1 *start = startScrn1::showStartScreen();
         QVERIFY(QTest::qWaitForWindowExposed(start));
-        QCOMPARE(start->teamNameLabel->text(), QStringLiteral("St. Anne's Cardinals"));
+        QCOMPARE(testkit::child<QLabel>(start, "teamNameLabel")->text(), QStringLiteral("St. Anne's Cardinals"));
         QCOMPARE(start->curLogo.size(), QSize(40, 20));
-        QCOMPARE(popupItems(start->SelectSeasonPop), (QStringList{"Select Season", "2026"}));
-        QCOMPARE(start->SelectSeasonPop->currentIndex(), 1);
+        QCOMPARE(popupItems(testkit::child<QComboBox>(start, "SelectSeasonPop")),
+                 (QStringList{"Select Season", "2026"}));
+        QCOMPARE(testkit::child<QComboBox>(start, "SelectSeasonPop")->currentIndex(), 1);
 
         // Screens that aren't part of the program are disabled; About works.
         for (const char *name : {"teamScrnBtn", "ShowSchedules", "inventoryBtn", "prefBtn", "newSeasonBtn"})
@@ -201,7 +202,7 @@ private Q_SLOTS:
         // A home team that is gone leaves the label empty.
         gData->exec(QStringLiteral("DELETE FROM Teams"));
         start->setLogo_Name();
-        QCOMPARE(start->teamNameLabel->text(), QString());
+        QCOMPARE(testkit::child<QLabel>(start, "teamNameLabel")->text(), QString());
     }
 
     // An empty season says where to begin, with the team screen's button
@@ -212,14 +213,14 @@ private Q_SLOTS:
         screens::registerScreen(ScreenId::teamScrn, [] { return new QWidget; });
         startScrn1 *start = startScrn1::showStartScreen();
         QVERIFY(testkit::showActive(start));
-        QVERIFY(start->firstStepLabel->isVisible());
-        QCOMPARE(start->firstStepLabel->text(),
+        QVERIFY(testkit::child<QLabel>(start, "firstStepLabel")->isVisible());
+        QCOMPARE(testkit::child<QLabel>(start, "firstStepLabel")->text(),
                  QStringLiteral("Start with your teams: enter them under \"Create/Edit Team Data\"."));
         QCOMPARE(QApplication::focusWidget(), start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn")));
         s.addTeam(QStringLiteral("Cardinals"));
         start->hide();
         start->show();
-        QVERIFY(!start->firstStepLabel->isVisible());
+        QVERIFY(!testkit::child<QLabel>(start, "firstStepLabel")->isVisible());
         screens::unregisterScreen(ScreenId::teamScrn);
     }
 
@@ -262,22 +263,23 @@ private Q_SLOTS:
                     QDir(folder).filePath(QStringLiteral("notes.txt")));
 
         startScrn1 *start = startScrn1::showStartScreen();
-        QCOMPARE(popupItems(start->SelectSeasonPop), (QStringList{"Select Season", "2025 Fall", "2026"}));
+        QCOMPARE(popupItems(testkit::child<QComboBox>(start, "SelectSeasonPop")),
+                 (QStringList{"Select Season", "2025 Fall", "2026"}));
 
         // Choosing a season switches the open file and is kept for the next start.
-        start->SelectSeasonPop->setCurrentIndex(1);
+        testkit::child<QComboBox>(start, "SelectSeasonPop")->setCurrentIndex(1);
         QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
         QVERIFY(gData->filePath().endsWith(QStringLiteral("tlData_2025 Fall.sqlite")));
 
         // "Select Season" does nothing.
         myDB *current = gData;
-        start->SelectSeasonPop->setCurrentIndex(0);
+        testkit::child<QComboBox>(start, "SelectSeasonPop")->setCurrentIndex(0);
         QCOMPARE(gData, current);
         QCOMPARE(gPrefs->prSeason, QStringLiteral("2025 Fall"));
 
         // A file deleted behind the program's back: the message, and no change.
         QVERIFY(QFile::remove(QDir(folder).filePath(QStringLiteral("tlData_2026.sqlite"))));
-        start->SelectSeasonPop->setCurrentIndex(2);
+        testkit::child<QComboBox>(start, "SelectSeasonPop")->setCurrentIndex(2);
         QCOMPARE(s.fake.messages.shown.size(), 1);
         QCOMPARE(s.fake.messages.shown[0].message, QStringLiteral("Data for season 2026 is no longer available"));
         QCOMPARE(s.fake.messages.shown[0].explanation, QStringLiteral("Please re-select the previous season"));
@@ -317,15 +319,16 @@ private Q_SLOTS:
         auto *reports = start->findChild<QPushButton *>(QStringLiteral("reportBtn"));
         QVERIFY(!teams->isEnabled());
         QVERIFY(reports->isEnabled());
-        QVERIFY(start->seasonProblemLabel->isVisibleTo(start));
-        QCOMPARE(start->seasonProblemLabel->text(),
+        QVERIFY(testkit::child<QLabel>(start, "seasonProblemLabel")->isVisibleTo(start));
+        QCOMPARE(testkit::child<QLabel>(start, "seasonProblemLabel")->text(),
                  QStringLiteral("The season file \"") + QDir::toNativeSeparators(damaged) +
                      QStringLiteral("\" could not be opened. Choose another season above."));
 
-        start->SelectSeasonPop->setCurrentIndex(start->SelectSeasonPop->findText(QStringLiteral("2025")));
+        testkit::child<QComboBox>(start, "SelectSeasonPop")
+            ->setCurrentIndex(testkit::child<QComboBox>(start, "SelectSeasonPop")->findText(QStringLiteral("2025")));
         QVERIFY(gData->isConnected());
         QVERIFY(teams->isEnabled());
-        QVERIFY(!start->seasonProblemLabel->isVisibleTo(start));
+        QVERIFY(!testkit::child<QLabel>(start, "seasonProblemLabel")->isVisibleTo(start));
         for (ScreenId id : {ScreenId::teamScrn, ScreenId::reportIntroScrn})
             screens::unregisterScreen(id);
     }
@@ -335,8 +338,8 @@ private Q_SLOTS:
         testkit::Season s;
         QVERIFY(QFile::remove(gData->filePath()));
         startScrn1 *start = startScrn1::showStartScreen();
-        QCOMPARE(popupItems(start->SelectSeasonPop), QStringList{"Select Season"});
-        QCOMPARE(start->SelectSeasonPop->currentIndex(), 0);
+        QCOMPARE(popupItems(testkit::child<QComboBox>(start, "SelectSeasonPop")), QStringList{"Select Season"});
+        QCOMPARE(testkit::child<QComboBox>(start, "SelectSeasonPop")->currentIndex(), 0);
     }
 
     // The splash closes on a click (let go, not pressed) or by itself after
@@ -376,11 +379,11 @@ private Q_SLOTS:
         QVERIFY(about && about->isVisible());
         // The version as the build's project declares it.
         const QString version = QStringLiteral(TL_PROJECT_VERSION);
-        QCOMPARE(about->versLabel->text(),
+        QCOMPARE(testkit::child<QLabel>(about, "versLabel")->text(),
                  QStringLiteral("Version ") + version + QStringLiteral(": Build ") + version.section(u'.', 0, 0));
         QCOMPARE(s.app().getLongVers(), QStringLiteral("Tallyline Baseball v.") + version);
         QPointer<AboutScrn> guard = about;
-        QTest::mouseClick(about->creditsTxt->viewport(), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPlainTextEdit>(about, "creditsTxt")->viewport(), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!guard);
     }

@@ -1,5 +1,6 @@
 #include "Golden.h"
 
+#include <QDir>
 #include <QFile>
 #include <QList>
 #include <QSaveFile>
@@ -46,6 +47,61 @@ bool compareGolden(const QString &name, const QByteArray &actual, const char *fi
                                      QString::fromUtf8(at < got.size() ? got.at(at) : "(end of output)"));
     QTest::qFail(qPrintable(message), file, line);
     return false;
+}
+
+QString GoldenCase::value(const QString &key) const
+{
+    for (const auto &[k, v] : commands) {
+        if (k == key)
+            return v;
+    }
+    return {};
+}
+
+QStringList GoldenCase::values(const QString &key) const
+{
+    QStringList out;
+    for (const auto &[k, v] : commands) {
+        if (k == key)
+            out.append(v);
+    }
+    return out;
+}
+
+void addGoldenCases(const QStringList &folders)
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &folder : folders) {
+        const QStringList cases =
+            QDir(goldenPath(folder)).entryList({QStringLiteral("*.case")}, QDir::Files, QDir::Name);
+        if (cases.isEmpty())
+            qFatal("no cases in %s", qPrintable(goldenPath(folder)));
+        for (const QString &c : cases)
+            QTest::newRow(qPrintable(folder + u'/' + c.chopped(5))) << folder + u'/' + c;
+    }
+}
+
+bool readGoldenCase(const QString &name, GoldenCase &out, const char *file, int line)
+{
+    QFile in(goldenPath(name));
+    const QByteArray text = in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    // Where the "---" line starts.
+    qsizetype split = text.startsWith("---\n") ? 0 : text.indexOf("\n---\n");
+    if (split > 0)
+        ++split;
+    if (split < 0) {
+        QTest::qFail(qPrintable(goldenPath(name) + QStringLiteral(" has no \"---\" line")), file, line);
+        return false;
+    }
+    out.name = name;
+    out.head = text.left(split + 4);
+    for (const QByteArray &raw : text.left(split).split('\n')) {
+        const QString l = QString::fromUtf8(raw);
+        if (l.isEmpty() || l.startsWith(u'#'))
+            continue;
+        out.commands.append({l.section(u':', 0, 0).trimmed(), l.section(u':', 1).trimmed()});
+    }
+    return true;
 }
 
 } // namespace testkit

@@ -96,6 +96,11 @@ T *child(const QWidget *window, const char *name)
         qFatal("no control named %s", name);
     return found;
 }
+template<class T, class W>
+T *child(const std::unique_ptr<W> &window, const char *name)
+{
+    return child<T>(window.get(), name);
+}
 
 // Moves the keyboard focus into `field` and types `text`, as the coach does.
 void typeInto(QWidget *field, const QString &text);

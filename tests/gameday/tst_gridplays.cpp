@@ -1,38 +1,68 @@
-// Games played click by click through the grid, for the places where a
-// doubled inning or a substitution meets another rule: the auto-fill span
-// of a reliever, the walk-off question, and "Clear Column".
+// Games played click by click through the grid: each case under
+// tests/data/gridplays says what the coach does, in order, and below its
+// line the board that results.
+//
+//   rows: 4                 a team of four lineup rows
+//   slots: yes              each row holds its own lineup slot (1, 2, ...)
+//   play: 1 3:B1 0:BB>xRUN  in column 1: row 3 gets B1; row 0 BB, then xRUN
+//   replace: 1 2            a replacement row under row 1 from column 2 on
+//   clear-column: 9         "Clear Column" from the popover of column 9
+//   auto-fill: 1,1 2,1      auto-fill mode, a click on (column,row) and on another
+//
+// The board: the headings and each row's cells up to the column after the
+// last with text ("text/bkg", "." for an empty cell without background), then the
+// columns added, the walk-off questions, the columns with three outs, the
+// auto-filled figures and the messages shown.
 
 #include "GridTestSupport.h"
+#include "fakes/Golden.h"
 
 #include <QSignalSpy>
 
-using gameday::AutoFillData;
 using gameday::ScoreGrid;
 using namespace gridtest;
 
-Q_DECLARE_METATYPE(AutoFillData)
-
 namespace {
 
-// Plays one column: each entry is "row:code" or "row:code>result".
-void play(ScoreGrid &grid, ScriptedPopover &popover, int col, const QStringList &plays)
+QString cellText(const ScoreGrid &grid, int row, int col)
 {
-    for (const QString &p : plays) {
-        const int row = p.section(u':', 0, 0).toInt();
-        const QStringList codes = p.section(u':', 1).split(u'>');
-        for (const QString &code : codes) {
-            popover.script({code});
-            grid.cellClicked(row, col, false);
-        }
-    }
+    const QString text = grid.cellText(row, col);
+    const QString bkg = grid.cellBkg(row, col);
+    if (text.isEmpty() && bkg.isEmpty())
+        return QStringLiteral(".");
+    return bkg.isEmpty() ? text : text + u'/' + bkg;
 }
 
-QString figures(const AutoFillData &data)
+QStringList board(const ScoreGrid &grid)
 {
-    QStringList parts;
-    for (int v : data)
-        parts.append(QString::number(v));
-    return parts.join(u',');
+    // One column past the last with text: where the next inning opens.
+    int last = 0;
+    for (int r = 0; r < grid.rowCount(); ++r) {
+        for (int c = 0; c < grid.columnCount(); ++c) {
+            if (!grid.cellText(r, c).isEmpty())
+                last = qMin(qMax(last, c + 1), grid.columnCount() - 1);
+        }
+    }
+    QStringList headings, threeOuts;
+    for (int c = 0; c <= last; ++c) {
+        headings.append(grid.heading(c));
+        if (grid.check4ThreeOuts(c))
+            threeOuts.append(grid.heading(c));
+    }
+    QStringList out{QStringLiteral("headings: ") + headings.join(u' ')};
+    for (int r = 0; r < grid.rowCount(); ++r) {
+        QStringList cells;
+        for (int c = 0; c <= last; ++c)
+            cells.append(cellText(grid, r, c));
+        out.append(QString::number(r) + QStringLiteral(": ") + cells.join(u' '));
+    }
+    out.append(QStringLiteral("three outs: ") + threeOuts.join(u' '));
+    return out;
+}
+
+QPoint columnRow(const QString &text)
+{
+    return {text.section(u',', 0, 0).toInt(), text.section(u',', 1).toInt()};
 }
 
 } // namespace
@@ -42,108 +72,57 @@ class TestGridPlays : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<AutoFillData>(); }
-
-    // Four batters. "1": three up, three down. "2": the order goes round
-    // with nobody out and doubles into "2a", which starts at row 3.
-    // "3" (a second game shape): the first inning itself doubles, so "1a"
-    // starts at row 0.
-    void relieverCountsOnlyHisBatters_data()
+    void plays_data() { testkit::addGoldenCases({"gridplays"}); }
+    void plays()
     {
-        QTest::addColumn<bool>("firstInningDoubles");
-        QTest::addColumn<QPoint>("first"); // (col, row)
-        QTest::addColumn<QPoint>("last");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("enters in the middle of 2, ends in 2a")
-            << false << QPoint(1, 1) << QPoint(2, 1) << "3,5,1,0,0,0,1,1";
-        QTest::newRow("whole doubled inning") << false << QPoint(1, 3) << QPoint(2, 1) << "3,7,2,0,1,0,1,1";
-        QTest::newRow("span ends in 1a from row 0") << true << QPoint(0, 0) << QPoint(1, 2) << "3,7,3,1,1,0,1,0";
-        QTest::newRow("reliever of 1a alone") << true << QPoint(0, 3) << QPoint(1, 2) << "3,4,1,0,0,0,1,0";
-    }
-    void relieverCountsOnlyHisBatters()
-    {
-        QFETCH(bool, firstInningDoubles);
-        QFETCH(QPoint, first);
-        QFETCH(QPoint, last);
-        QFETCH(QString, expected);
-
+        TL_FETCH_CASE(c);
         GridEnv env;
         ScoreGrid grid;
-        loadTeam(grid, 4);
+        loadTeam(grid, c.value(QStringLiteral("rows")).toInt());
         ScriptedPopover popover;
         popover.install(grid);
         QSignalSpy added(&grid, &ScoreGrid::columnAdded);
-        if (firstInningDoubles) {
-            play(grid, popover, 0, {"0:B1>xRUN", "1:BB", "2:HR", "3:GO"});
-            play(grid, popover, 1, {"0:B1", "1:KS", "2:FO"});
-        } else {
-            play(grid, popover, 0, {"0:GO", "1:FO", "2:KS"});
-            play(grid, popover, 1, {"3:B1", "0:BB", "1:HBP", "2:B2"});
-            play(grid, popover, 2, {"3:GO", "0:KL", "1:FO"});
-        }
-        QCOMPARE(added.count(), 1);
-        QVERIFY(grid.check4ThreeOuts(firstInningDoubles ? 0 : 1));
-
-        QSignalSpy done(&grid, &ScoreGrid::autoFillDataReturn);
-        grid.setAutoFillMode(true);
-        grid.cellClicked(first.y(), first.x(), false);
-        grid.cellClicked(last.y(), last.x(), false);
-        QCOMPARE(done.count(), 1);
-        QCOMPARE(figures(grid.autoFillFigures()), expected);
-        QVERIFY(env.fake.messages.shown.isEmpty());
-    }
-
-    // After a doubling in the first inning every later inning sits one
-    // column to the right; the question follows the inning.
-    void walkoffAskedByInning_data()
-    {
-        QTest::addColumn<int>("col");
-        QTest::addColumn<bool>("asked");
-        QTest::newRow("8th inning of 9") << 8 << false;
-        QTest::newRow("9th inning") << 9 << true;
-    }
-    void walkoffAskedByInning()
-    {
-        QFETCH(int, col);
-        QFETCH(bool, asked);
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 4);
-        ScriptedPopover popover;
-        popover.install(grid);
-        play(grid, popover, 0, {"0:B1", "1:BB", "2:B2", "3:GO"});
-        QCOMPARE(grid.heading(1), QStringLiteral("1a"));
         QSignalSpy walkoff(&grid, &ScoreGrid::askIsWalkoff);
-        play(grid, popover, col, {"1:HR"});
-        QCOMPARE(grid.heading(col).toInt(), col);
-        QCOMPARE(walkoff.count(), asked ? 1 : 0);
-    }
-
-    // Row 1 is replaced after the first inning; the coach opens the tenth
-    // inning with "Clear Column". The replaced player's cell stays closed,
-    // so when the other four have batted the inning doubles.
-    void clearColumnKeepsReplacedPlayerOut()
-    {
-        GridEnv env;
-        ScoreGrid grid;
-        loadTeam(grid, 4);
-        for (int r = 0; r < 4; ++r)
-            grid.setRowSlot(r, r + 1);
-        ScriptedPopover popover;
-        popover.install(grid);
-        play(grid, popover, 0, {"0:GO", "1:FO", "2:KS"});
-        grid.insertReplacementRow(1, 2);
-        QCOMPARE(bkgRow(grid, 1, 3), QStringLiteral("RXX"));
-
-        popover.script({"Clear Column"});
-        grid.cellClicked(0, 9, false);
-        QCOMPARE(bkgColumn(grid, 9), QStringLiteral("-X---"));
-
-        QSignalSpy added(&grid, &ScoreGrid::columnAdded);
-        play(grid, popover, 9, {"3:B1", "4:BB", "0:B1", "2:GO"});
-        QCOMPARE(added.count(), 1);
-        QCOMPARE(grid.heading(10), QStringLiteral("10a"));
-        QCOMPARE(bkgColumn(grid, 10), QStringLiteral("-X---"));
+        QStringList autoFill;
+        for (const auto &[command, value] : c.commands) {
+            const QStringList words = value.split(u' ', Qt::SkipEmptyParts);
+            if (command == u"slots") {
+                for (int r = 0; r < grid.rowCount(); ++r)
+                    grid.setRowSlot(r, r + 1);
+            } else if (command == u"play") {
+                const int col = words.value(0).toInt();
+                for (const QString &p : words.mid(1)) {
+                    for (const QString &code : p.section(u':', 1).split(u'>')) {
+                        popover.script({code});
+                        grid.cellClicked(p.section(u':', 0, 0).toInt(), col, false);
+                    }
+                }
+            } else if (command == u"replace") {
+                grid.insertReplacementRow(words.value(0).toInt(), words.value(1).toInt());
+            } else if (command == u"clear-column") {
+                popover.script({QStringLiteral("Clear Column")});
+                grid.cellClicked(0, value.toInt(), false);
+            } else if (command == u"auto-fill") {
+                QSignalSpy done(&grid, &ScoreGrid::autoFillDataReturn);
+                grid.setAutoFillMode(true);
+                for (const QString &at : words)
+                    grid.cellClicked(columnRow(at).y(), columnRow(at).x(), false);
+                grid.setAutoFillMode(false);
+                QCOMPARE(done.count(), 1);
+                for (int v : grid.autoFillFigures())
+                    autoFill.append(QString::number(v));
+            } else if (command != u"rows") {
+                QFAIL(qPrintable(QStringLiteral("unknown command ") + command));
+            }
+        }
+        QStringList shown = board(grid);
+        shown.append(QStringLiteral("columns added: %1").arg(added.count()));
+        shown.append(QStringLiteral("walk-off questions: %1").arg(walkoff.count()));
+        if (!autoFill.isEmpty())
+            shown.append(QStringLiteral("auto-fill: ") + autoFill.join(u','));
+        for (const QString &message : env.fake.messages.texts())
+            shown.append(QStringLiteral("message: ") + message);
+        TL_COMPARE_CASE(c, shown.join(u'\n').toUtf8() + '\n');
     }
 };
 

@@ -32,6 +32,7 @@
 #include <QTextBrowser>
 #include <QtTest>
 
+#include <QWidget>
 #include <algorithm>
 
 namespace {
@@ -120,9 +121,9 @@ private Q_SLOTS:
         Session s;
         helpScrn2 window(topic);
         const QString fileName = help::getTopic(topic);
-        QCOMPARE(window.noticeFld->text(), QString());
+        QCOMPARE(testkit::child<QLabel>(&window, "noticeFld")->text(), QString());
         QCOMPARE(window.curDocName, fileName);
-        QCOMPARE(window.myHTML->documentTitle(), help::indexRowText(topic).trimmed());
+        QCOMPARE(testkit::child<QTextBrowser>(&window, "myHTML")->documentTitle(), help::indexRowText(topic).trimmed());
         QCOMPARE(s.fake.beeper.beeps, 0);
 
         const QString html = readPage(fileName);
@@ -179,15 +180,16 @@ private Q_SLOTS:
         helpScrn2 window(topic);
         window.show();
         if (clickedRow >= 0) {
-            QTest::mouseClick(window.hideBtn, Qt::LeftButton); // bring the index back
-            const QListWidget *list = window.myIndexCtnr->indexLB;
+            QTest::mouseClick(testkit::child<QPushButton>(&window, "hideBtn"), Qt::LeftButton); // bring the index back
+            const QListWidget *list = testkit::child<QListWidget>(&window, "indexLB");
             QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                               list->visualItemRect(list->item(clickedRow)).center());
         }
-        QCOMPARE(window.myIndexCtnr->isVisible(), indexShown);
-        QCOMPARE(window.hideBtn->text(), indexShown ? QStringLiteral("Hide Index") : QStringLiteral("Show Index"));
+        QCOMPARE(testkit::child<indexCtnr>(&window, "myIndexCtnr")->isVisible(), indexShown);
+        QCOMPARE(testkit::child<QPushButton>(&window, "hideBtn")->text(),
+                 indexShown ? QStringLiteral("Hide Index") : QStringLiteral("Show Index"));
         QCOMPARE(window.curDocName, page);
-        QCOMPARE(window.myHTML->source().isEmpty(), page.isEmpty());
+        QCOMPARE(testkit::child<QTextBrowser>(&window, "myHTML")->source().isEmpty(), page.isEmpty());
     }
 
     void printing_data()
@@ -214,7 +216,8 @@ private Q_SLOTS:
         Session s;
         helpScrn2 window(topic);
         if (!link.isEmpty()) // as the page follows a click on the link
-            window.myHTML->setSource(window.myHTML->source().resolved(QUrl(link)));
+            testkit::child<QTextBrowser>(&window, "myHTML")
+                ->setSource(testkit::child<QTextBrowser>(&window, "myHTML")->source().resolved(QUrl(link)));
         window.menus()->item(QStringLiteral("FilePrint"))->trigger();
         QCOMPARE(s.fake.messages.texts(), messages);
         if (!messages.isEmpty())
@@ -258,10 +261,10 @@ private Q_SLOTS:
         QVERIFY(form.save(gFormFiles.first()));
         s.fake.printing.copies = copies;
         formsScrn screen;
-        QCOMPARE(screen.formsList->cell(0, 0), QStringLiteral("Form.png"));
+        QCOMPARE(testkit::child<qlmListBox>(&screen, "formsList")->cell(0, 0), QStringLiteral("Form.png"));
         if (shown.isValid())
-            QCOMPARE(screen.displayCnv->size(), shown);
-        QTest::mouseClick(screen.printBtn, Qt::LeftButton);
+            QCOMPARE(testkit::child<QWidget>(&screen, "displayCnv")->size(), shown);
+        QTest::mouseClick(testkit::child<QPushButton>(&screen, "printBtn"), Qt::LeftButton);
         QCOMPARE(s.fake.printing.printed.size(), 1);
         const QString pdf = s.fake.printing.printed.first();
         QCOMPARE(fakes::pdfPageCount(pdf), copies);
@@ -276,20 +279,21 @@ private Q_SLOTS:
         Session s;
         loadFormPics();
         formsScrn screen;
-        QCOMPARE(screen.formsList->rowCount(), 3);
-        QCOMPARE(screen.formsList->cell(0, 0), QStringLiteral("Line-up Card.png"));
+        QCOMPARE(testkit::child<qlmListBox>(&screen, "formsList")->rowCount(), 3);
+        QCOMPARE(testkit::child<qlmListBox>(&screen, "formsList")->cell(0, 0), QStringLiteral("Line-up Card.png"));
         for (int row = 0; row < 3; ++row)
             QVERIFY(!screen.picture(row).isNull());
-        QVERIFY(screen.printBtn->isEnabled());
+        QVERIFY(testkit::child<QPushButton>(&screen, "printBtn")->isEnabled());
     }
 
     void formsWithoutFolder()
     {
         Session s;
         formsScrn screen;
-        QCOMPARE(screen.formsList->rowCount(), 1);
-        QCOMPARE(screen.formsList->cell(0, 0), QStringLiteral("tlynForms folder not available"));
-        QVERIFY(!screen.printBtn->isEnabled());
+        QCOMPARE(testkit::child<qlmListBox>(&screen, "formsList")->rowCount(), 1);
+        QCOMPARE(testkit::child<qlmListBox>(&screen, "formsList")->cell(0, 0),
+                 QStringLiteral("tlynForms folder not available"));
+        QVERIFY(!testkit::child<QPushButton>(&screen, "printBtn")->isEnabled());
         screen.menus()->item(QStringLiteral("FilePrint"))->trigger(); // the menu entry stays on: nothing prints
         QCOMPARE(s.fake.printing.printDialogs, 0);
     }
@@ -331,12 +335,14 @@ private Q_SLOTS:
         Session s;
         HelpAbbrevScrn *window = HelpAbbrevScrn::instance();
         window->show();
-        window->termsLB->setSelectedRow(0);
-        QTest::keyClicks(window->searchFld, QStringLiteral("ip"));
-        QCOMPARE(window->searchFld->text(), QStringLiteral("ip"));
-        QCOMPARE(window->termsLB->selectedRow(), 0);
-        QTRY_COMPARE_WITH_TIMEOUT(window->searchFld->text(), QString(), 3000);
-        QCOMPARE(window->termsLB->cell(window->termsLB->selectedRow(), 0), QStringLiteral("IP"));
+        testkit::child<qlmListBox>(window, "termsLB")->setSelectedRow(0);
+        QTest::keyClicks(testkit::child<QLineEdit>(window, "searchFld"), QStringLiteral("ip"));
+        QCOMPARE(testkit::child<QLineEdit>(window, "searchFld")->text(), QStringLiteral("ip"));
+        QCOMPARE(testkit::child<qlmListBox>(window, "termsLB")->selectedRow(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(testkit::child<QLineEdit>(window, "searchFld")->text(), QString(), 3000);
+        QCOMPARE(testkit::child<qlmListBox>(window, "termsLB")
+                     ->cell(testkit::child<qlmListBox>(window, "termsLB")->selectedRow(), 0),
+                 QStringLiteral("IP"));
         delete window;
     }
 };

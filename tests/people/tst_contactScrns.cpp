@@ -51,8 +51,8 @@ class TestContactScrns : public QObject
         bool closed = false;
         QTimer::singleShot(0, &dialog, [&] {
             fill(&dialog);
-            QTest::mouseClick(dialog.acceptBtn, Qt::LeftButton);
-            message = dialog.InfoFld->text();
+            QTest::mouseClick(testkit::child<QPushButton>(&dialog, "acceptBtn"), Qt::LeftButton);
+            message = testkit::child<QLabel>(&dialog, "InfoFld")->text();
             closed = !dialog.isVisible();
             dialog.reject();
         });
@@ -76,18 +76,18 @@ private Q_SLOTS:
         s.person("Coaches", QStringLiteral("Dee"), QStringLiteral("dee@example.org"));
         auto *screen = new contactInfoScrn;
         QVERIFY(testkit::showActive(screen));
-        QCOMPARE(screen->teamIDFld->text(), s.team);
-        QCOMPARE(screen->playersList->rowCount(), 3);
-        QCOMPARE(screen->playersList->cell(0, 2), QStringLiteral("(614) 555-1234"));
-        QVERIFY(!screen->emailBtn->isEnabled());
+        QCOMPARE(testkit::child<QLabel>(screen, "teamIDFld")->text(), s.team);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 3);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->cell(0, 2), QStringLiteral("(614) 555-1234"));
+        QVERIFY(!testkit::child<QPushButton>(screen, "emailBtn")->isEnabled());
 
-        screen->coachesList->setSelectedRow(0);
-        QVERIFY(screen->emailBtn->isEnabled());
-        screen->playersList->setRowSelected(0, true);
-        screen->playersList->setRowSelected(1, true);
-        screen->playersList->setRowSelected(2, true); // Cy has no address
-        QVERIFY(screen->coachesList->selectedRows().isEmpty());
-        QTest::mouseClick(screen->emailBtn, Qt::LeftButton);
+        testkit::child<qlmListBox>(screen, "coachesList")->setSelectedRow(0);
+        QVERIFY(testkit::child<QPushButton>(screen, "emailBtn")->isEnabled());
+        testkit::child<qlmListBox>(screen, "playersList")->setRowSelected(0, true);
+        testkit::child<qlmListBox>(screen, "playersList")->setRowSelected(1, true);
+        testkit::child<qlmListBox>(screen, "playersList")->setRowSelected(2, true); // Cy has no address
+        QVERIFY(testkit::child<qlmListBox>(screen, "coachesList")->selectedRows().isEmpty());
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "emailBtn"), Qt::LeftButton);
         QCOMPARE(s.fake.messages.texts(),
                  QStringList{QStringLiteral("Some of the people selected have no e-mail address.")});
         QCOMPARE(s.fake.messages.shown.first().explanation, QStringLiteral("Left out of the message: Cy Zed."));
@@ -101,15 +101,16 @@ private Q_SLOTS:
                  QStringLiteral("Ann & Bo's #1 Nine?"));
 
         // Back to the coaches; the other team's lists are empty.
-        screen->coachesList->setSelectedRow(0);
-        QVERIFY(screen->playersList->selectedRows().isEmpty());
-        QVERIFY(testkit::choose(screen->selectTeamPop, QStringLiteral("Bears")));
-        QCOMPARE(screen->playersList->rowCount(), 0);
-        QVERIFY(!screen->emailBtn->isEnabled());
+        testkit::child<qlmListBox>(screen, "coachesList")->setSelectedRow(0);
+        QVERIFY(testkit::child<qlmListBox>(screen, "playersList")->selectedRows().isEmpty());
+        QVERIFY(testkit::choose(testkit::child<QComboBox>(screen, "selectTeamPop"), QStringLiteral("Bears")));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 0);
+        QVERIFY(!testkit::child<QPushButton>(screen, "emailBtn")->isEnabled());
 
         // The players' list prints.
-        QVERIFY(testkit::choose(screen->selectTeamPop, QStringLiteral("Ann & Bo's #1 Nine?")));
-        QTest::mouseClick(screen->printBtn, Qt::LeftButton);
+        QVERIFY(
+            testkit::choose(testkit::child<QComboBox>(screen, "selectTeamPop"), QStringLiteral("Ann & Bo's #1 Nine?")));
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "printBtn"), Qt::LeftButton);
         QCOMPARE(s.fake.printing.printed.size(), 1);
         QVERIFY(fakes::pdfText(s.fake.printing.printed.first()).contains(QStringLiteral("bo+team@example.org")));
     }
@@ -140,10 +141,10 @@ private Q_SLOTS:
         QFETCH(QString, message);
         Session s;
         const auto [shown, closed] = runSettings([&](emailInfoScrn *d) {
-            d->serverFld->setText(entries[0]);
-            d->usernameFld->setText(entries[1]);
-            d->passwordFld->setText(entries[2]);
-            d->authReqBox->setChecked(auth);
+            testkit::child<QLineEdit>(d, "serverFld")->setText(entries[0]);
+            testkit::child<QLineEdit>(d, "usernameFld")->setText(entries[1]);
+            testkit::child<QLineEdit>(d, "passwordFld")->setText(entries[2]);
+            testkit::child<qlmCheckBox>(d, "authReqBox")->setChecked(auth);
         });
         QCOMPARE(shown, message);
         QCOMPARE(closed, message.isEmpty());
@@ -175,13 +176,15 @@ private Q_SLOTS:
         gPrefs->prefsDirty = false;
         QString note;
         const auto [shown, closed] = runSettings([&](emailInfoScrn *d) {
-            note = d->storeNoteLbl->isVisible() ? d->storeNoteLbl->text() : QString();
-            QCOMPARE(d->passwordFld->text(), QStringLiteral("older-version-pw"));
-            d->serverFld->setText(QStringLiteral(" smtp.example.org "));
-            d->usernameFld->setText(QStringLiteral("coach@example.org"));
-            d->passwordFld->setText(password);
-            d->portFld->setText(QStringLiteral("587"));
-            d->authReqBox->setChecked(true);
+            note = testkit::child<QLabel>(d, "storeNoteLbl")->isVisible()
+                       ? testkit::child<QLabel>(d, "storeNoteLbl")->text()
+                       : QString();
+            QCOMPARE(testkit::child<QLineEdit>(d, "passwordFld")->text(), QStringLiteral("older-version-pw"));
+            testkit::child<QLineEdit>(d, "serverFld")->setText(QStringLiteral(" smtp.example.org "));
+            testkit::child<QLineEdit>(d, "usernameFld")->setText(QStringLiteral("coach@example.org"));
+            testkit::child<QLineEdit>(d, "passwordFld")->setText(password);
+            testkit::child<QLineEdit>(d, "portFld")->setText(QStringLiteral("587"));
+            testkit::child<qlmCheckBox>(d, "authReqBox")->setChecked(true);
         });
         QVERIFY(closed);
         QCOMPARE(note.isEmpty(), storeAnswers);
@@ -201,8 +204,8 @@ private Q_SLOTS:
 
         // Opened again, the window shows the password from where it went.
         runSettings([&](emailInfoScrn *d) {
-            QCOMPARE(d->passwordFld->text(), password);
-            QCOMPARE(d->portFld->text(), QStringLiteral("587"));
+            QCOMPARE(testkit::child<QLineEdit>(d, "passwordFld")->text(), password);
+            QCOMPARE(testkit::child<QLineEdit>(d, "portFld")->text(), QStringLiteral("587"));
         });
     }
 };

@@ -58,9 +58,9 @@ private Q_SLOTS:
         auto *screen = new InventoryScrn;
         QVERIFY(testkit::showActive(screen));
         QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeMultiple);
-        QCOMPARE(screen->selTeamPop->currentText(), QStringLiteral("O'Brien's Nine"));
-        QCOMPARE(screen->selPlayerPop->itemText(0), QStringLiteral("Select A Player"));
-        QVERIFY(!screen->addBtn->isEnabled());
+        QCOMPARE(testkit::child<QComboBox>(screen, "selTeamPop")->currentText(), QStringLiteral("O'Brien's Nine"));
+        QCOMPARE(testkit::child<QComboBox>(screen, "selPlayerPop")->itemText(0), QStringLiteral("Select A Player"));
+        QVERIFY(!testkit::child<QPushButton>(screen, "addBtn")->isEnabled());
 
         typeInto(screen->inputFld[0], QStringLiteral("3x+"));
         QCOMPARE(screen->inputFld[0]->text(), QStringLiteral("4"));
@@ -73,45 +73,45 @@ private Q_SLOTS:
         QTest::keyClick(screen->inputFld[2], Qt::Key_Tab);
         QVERIFY(screen->inputFld[0]->hasFocus());
         QTest::keyClick(screen->inputFld[0], Qt::Key_Return);
-        QCOMPARE(rows(screen->teamInvList), QStringList{QStringLiteral("4|Helmet|H-1")});
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")), QStringList{QStringLiteral("4|Helmet|H-1")});
         QVERIFY(screen->inputFld[1]->text().isEmpty());
 
         // Enter with no count adds one; the plus button adds only with a count.
         typeInto(screen->inputFld[1], QStringLiteral("Glove"));
         QTest::keyClick(screen->inputFld[1], Qt::Key_Return);
-        QCOMPARE(rows(screen->teamInvList).last(), QStringLiteral("1|Glove|"));
-        screen->teamInvList->setSelectedRow(1);
-        testkit::clickHalf(screen->TeamInvPlusMinus, false);
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).last(), QStringLiteral("1|Glove|"));
+        testkit::child<qlmListBox>(screen, "teamInvList")->setSelectedRow(1);
+        testkit::clickHalf(testkit::child<PlusMinusContainer>(screen, "TeamInvPlusMinus"), false);
         typeInto(screen->inputFld[1], QStringLiteral("Bat"));
-        testkit::clickHalf(screen->TeamInvPlusMinus, true);
-        QCOMPARE(screen->teamInvList->rowCount(), 1);
+        testkit::clickHalf(testkit::child<PlusMinusContainer>(screen, "TeamInvPlusMinus"), true);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamInvList")->rowCount(), 1);
         typeInto(screen->inputFld[0], QStringLiteral("0"));
-        testkit::clickHalf(screen->TeamInvPlusMinus, true);
-        QCOMPARE(rows(screen->teamInvList).last(), QStringLiteral("1|Bat|"));
+        testkit::clickHalf(testkit::child<PlusMinusContainer>(screen, "TeamInvPlusMinus"), true);
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).last(), QStringLiteral("1|Bat|"));
 
         // A selected row fills the fields; Enter saves it over.
-        screen->teamInvList->setSelectedRow(0);
+        testkit::child<qlmListBox>(screen, "teamInvList")->setSelectedRow(0);
         QCOMPARE(screen->inputFld[1]->text(), QStringLiteral("Helmet"));
         QTest::keyClick(screen->inputFld[0], Qt::Key_Minus);
         QTest::keyClick(screen->inputFld[0], Qt::Key_Enter);
-        QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("3|Helmet|H-1"));
-        QCOMPARE(screen->teamInvList->selectedRow(), -1);
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).first(), QStringLiteral("3|Helmet|H-1"));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamInvList")->selectedRow(), -1);
 
         // A unit to Bo and back, then the minus button removes the bats.
-        testkit::choose(screen->selPlayerPop, QStringLiteral("Bo Ames"));
-        QVERIFY(screen->addBtn->isEnabled());
-        screen->teamInvList->setSelectedRow(0);
-        QTest::mouseClick(screen->addBtn, Qt::LeftButton);
-        QCOMPARE(rows(screen->IndivList), QStringList{QStringLiteral("Helmet|H-1")});
-        QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("2|Helmet|H-1"));
-        QVERIFY(!screen->RemoveBtn->isEnabled());
-        screen->IndivList->setSelectedRow(0);
-        QTest::mouseClick(screen->RemoveBtn, Qt::LeftButton);
-        QVERIFY(rows(screen->IndivList).isEmpty());
-        QCOMPARE(rows(screen->teamInvList).first(), QStringLiteral("3|Helmet|H-1"));
-        screen->teamInvList->setSelectedRow(1);
-        testkit::clickHalf(screen->TeamInvPlusMinus, false);
-        QCOMPARE(rows(screen->teamInvList), QStringList{QStringLiteral("3|Helmet|H-1")});
+        testkit::choose(testkit::child<QComboBox>(screen, "selPlayerPop"), QStringLiteral("Bo Ames"));
+        QVERIFY(testkit::child<QPushButton>(screen, "addBtn")->isEnabled());
+        testkit::child<qlmListBox>(screen, "teamInvList")->setSelectedRow(0);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "addBtn"), Qt::LeftButton);
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "IndivList")), QStringList{QStringLiteral("Helmet|H-1")});
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).first(), QStringLiteral("2|Helmet|H-1"));
+        QVERIFY(!testkit::child<QPushButton>(screen, "RemoveBtn")->isEnabled());
+        testkit::child<qlmListBox>(screen, "IndivList")->setSelectedRow(0);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "RemoveBtn"), Qt::LeftButton);
+        QVERIFY(rows(testkit::child<qlmListBox>(screen, "IndivList")).isEmpty());
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).first(), QStringLiteral("3|Helmet|H-1"));
+        testkit::child<qlmListBox>(screen, "teamInvList")->setSelectedRow(1);
+        testkit::clickHalf(testkit::child<PlusMinusContainer>(screen, "TeamInvPlusMinus"), false);
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")), QStringList{QStringLiteral("3|Helmet|H-1")});
 
         screen->close();
         QCOMPARE(App::instance()->BUTimer->mode(), myTimerClass::ModeOff);
@@ -131,7 +131,7 @@ private Q_SLOTS:
             QVERIFY(screen->book().enterItem(-1, f[0], f[1], f[2]));
         }
         screen->loadTeamList();
-        QCOMPARE(rows(screen->teamInvList), pool);
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")), pool);
 
         const QString file = s.home.filePath(QStringLiteral("stock.txt"));
         s.fake.files.answers.enqueue(file);
@@ -139,21 +139,21 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(file));
 
         // Into the other team, through the File menu's import.
-        testkit::choose(screen->selTeamPop, QStringLiteral("East Bears"));
-        QVERIFY(rows(screen->teamInvList).isEmpty());
+        testkit::choose(testkit::child<QComboBox>(screen, "selTeamPop"), QStringLiteral("East Bears"));
+        QVERIFY(rows(testkit::child<qlmListBox>(screen, "teamInvList")).isEmpty());
         s.fake.files.answers.enqueue(file);
         auto *import = screen->menus()->findChild<QAction *>(QStringLiteral("FileImport"));
         QVERIFY(import);
         import->trigger();
         QCOMPARE(s.fake.files.calls.last().request.title, QStringLiteral("Select a text file to import"));
-        QCOMPARE(rows(screen->teamInvList), pool);
+        QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")), pool);
         QVERIFY(s.fake.messages.shown.isEmpty());
 
         // A file that isn't text is ignored.
         const QString picture = fakes::writePicture(s.home.filePath(QStringLiteral("p.png")), {4, 4}, Qt::red);
         s.fake.files.answers.enqueue(picture);
         import->trigger();
-        QCOMPARE(screen->teamInvList->rowCount(), 3);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamInvList")->rowCount(), 3);
         QVERIFY(s.fake.messages.shown.isEmpty());
     }
 
@@ -165,11 +165,11 @@ private Q_SLOTS:
         QVERIFY(testkit::showActive(screen));
         QVERIFY(screen->book().enterItem(-1, QStringLiteral("2"), QStringLiteral("Glove"), QStringLiteral("G9")));
         screen->loadTeamList();
-        testkit::choose(screen->selPlayerPop, QStringLiteral("Ann Ames"));
-        screen->teamInvList->setSelectedRow(0);
-        QTest::mouseClick(screen->addBtn, Qt::LeftButton);
-        QTest::mouseClick(screen->printTeamInvBtn, Qt::LeftButton);
-        QTest::mouseClick(screen->printPlayerInvBtn, Qt::LeftButton);
+        testkit::choose(testkit::child<QComboBox>(screen, "selPlayerPop"), QStringLiteral("Ann Ames"));
+        testkit::child<qlmListBox>(screen, "teamInvList")->setSelectedRow(0);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "addBtn"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "printTeamInvBtn"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "printPlayerInvBtn"), Qt::LeftButton);
         QCOMPARE(s.fake.printing.printed.size(), 2);
         const QString team = fakes::pdfText(s.fake.printing.printed.at(0));
         QVERIFY2(team.contains(QStringLiteral("O'Brien's Nine's Inventory")) && team.contains(QStringLiteral("Glove")),

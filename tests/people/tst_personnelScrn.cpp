@@ -17,6 +17,7 @@
 #include "support/ui/iPhoneField.h"
 #include "support/ui/qlmCheckBox.h"
 
+#include "support/ui/PlusMinusContainer.h"
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
@@ -98,54 +99,56 @@ private Q_SLOTS:
         Session s;
         s.fake.clock.time = QDateTime(QDate(2026, 4, 15), QTime(10, 0));
         auto screen = open();
-        QCOMPARE(screen->selectTeamPop->currentText(), QStringLiteral("Cougars"));
-        QCOMPARE(screen->teamIDFld->text(), s.cougars);
-        QVERIFY(screen->myPlayerCtr->isVisible());
-        QVERIFY(!screen->asstCheck->isVisible());
+        QCOMPARE(testkit::child<QComboBox>(screen, "selectTeamPop")->currentText(), QStringLiteral("Cougars"));
+        QCOMPARE(testkit::child<QLabel>(screen, "teamIDFld")->text(), s.cougars);
+        QVERIFY(testkit::child<playerInfoCtr>(screen, "myPlayerCtr")->isVisible());
+        QVERIFY(!testkit::child<qlmCheckBox>(screen, "asstCheck")->isVisible());
 
-        typeInto(screen->FNameFld, QStringLiteral("José \"Pepe\""));
-        typeInto(screen->LNameFld, QStringLiteral("O'Neil; Łukasiewicz"));
-        typeInto(screen->addr1Fld, QStringLiteral("12 \"Main\" St., Apt; 4"));
+        typeInto(testkit::child<QLineEdit>(screen, "FNameFld"), QStringLiteral("José \"Pepe\""));
+        typeInto(testkit::child<QLineEdit>(screen, "LNameFld"), QStringLiteral("O'Neil; Łukasiewicz"));
+        typeInto(testkit::child<QLineEdit>(screen, "addr1Fld"), QStringLiteral("12 \"Main\" St., Apt; 4"));
         typeInto(screen->newPhoneFld[0], QStringLiteral("6145551234"));
         typeInto(screen->newPhoneFld[1], QStringLiteral("5551234"));
         QCOMPARE(screen->newPhoneFld[0]->text(), QStringLiteral("(614) 555-1234"));
         QCOMPARE(screen->newPhoneFld[1]->text(), QStringLiteral("555-1234"));
-        playerInfoCtr *ctr = screen->myPlayerCtr;
-        typeInto(ctr->UNumFld, QStringLiteral("7"));
+        playerInfoCtr *ctr = testkit::child<playerInfoCtr>(screen, "myPlayerCtr");
+        typeInto(testkit::child<QLineEdit>(ctr, "UNumFld"), QStringLiteral("7"));
         QVERIFY(testkit::choose(ctr->PositionPop[0], QStringLiteral("SS")));
-        QVERIFY(testkit::choose(ctr->batPop, QStringLiteral("Switch")));
-        ctr->DOBFld->setFocus(Qt::TabFocusReason);
-        ctr->DOBFld->home(false);
-        QTest::keyClicks(ctr->DOBFld, QStringLiteral("04162012"));
-        ctr->StudentIDFld->setFocus(Qt::TabFocusReason); // leaving the date fills the age
-        QCOMPARE(ctr->ageLabel->text(), QStringLiteral("Age: 13"));
-        ctr->plNotesFld->setPlainText(QStringLiteral("Bats\tleft; \"quick\""));
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QVERIFY(testkit::choose(testkit::child<QComboBox>(ctr, "batPop"), QStringLiteral("Switch")));
+        testkit::child<QLineEdit>(ctr, "DOBFld")->setFocus(Qt::TabFocusReason);
+        testkit::child<QLineEdit>(ctr, "DOBFld")->home(false);
+        QTest::keyClicks(testkit::child<QLineEdit>(ctr, "DOBFld"), QStringLiteral("04162012"));
+        testkit::child<QLineEdit>(ctr, "StudentIDFld")->setFocus(Qt::TabFocusReason); // leaving the date fills the age
+        QCOMPARE(testkit::child<QLabel>(ctr, "ageLabel")->text(), QStringLiteral("Age: 13"));
+        testkit::child<QPlainTextEdit>(ctr, "plNotesFld")->setPlainText(QStringLiteral("Bats\tleft; \"quick\""));
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QVERIFY(s.fake.messages.shown.isEmpty());
 
-        QCOMPARE(screen->playersList->rowCount(), 1);
-        QCOMPARE(screen->playersList->rowCells(0), (QStringList{"José \"Pepe\"", "O'Neil; Łukasiewicz", "SS"}));
-        QCOMPARE(screen->FNameFld->text(), QString()); // cleared after adding
-        const QString id = screen->playersList->rowTag(0);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 1);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCells(0),
+                 (QStringList{"José \"Pepe\"", "O'Neil; Łukasiewicz", "SS"}));
+        QCOMPARE(testkit::child<QLineEdit>(screen, "FNameFld")->text(), QString()); // cleared after adding
+        const QString id = testkit::child<qlmListBox>(screen, "playersList")->rowTag(0);
         QCOMPARE(column(QStringLiteral("PhoneNumber"), id), QStringLiteral("(614) 555-1234"));
         QCOMPARE(column(QStringLiteral("DOB"), id), QStringLiteral("04/16/2012"));
 
-        screen->playersList->setSelectedRow(0);
-        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Edit Team Member"));
-        QCOMPARE(screen->FNameFld->text(), QStringLiteral("José \"Pepe\""));
-        QCOMPARE(screen->addr1Fld->text(), QStringLiteral("12 \"Main\" St., Apt; 4"));
-        QCOMPARE(ctr->batPop->currentText(), QStringLiteral("Switch"));
-        QCOMPARE(ctr->UNumFld->text(), QStringLiteral("7"));
-        QCOMPARE(ctr->plNotesFld->toPlainText(), QStringLiteral("Bats\tleft; \"quick\""));
-        QCOMPARE(ctr->ageLabel->text(), QStringLiteral("Age: 13"));
+        testkit::child<qlmListBox>(screen, "playersList")->setSelectedRow(0);
+        QCOMPARE(testkit::child<QPushButton>(screen, "actionBtn")->text(), QStringLiteral("Edit Team Member"));
+        QCOMPARE(testkit::child<QLineEdit>(screen, "FNameFld")->text(), QStringLiteral("José \"Pepe\""));
+        QCOMPARE(testkit::child<QLineEdit>(screen, "addr1Fld")->text(), QStringLiteral("12 \"Main\" St., Apt; 4"));
+        QCOMPARE(testkit::child<QComboBox>(ctr, "batPop")->currentText(), QStringLiteral("Switch"));
+        QCOMPARE(testkit::child<QLineEdit>(ctr, "UNumFld")->text(), QStringLiteral("7"));
+        QCOMPARE(testkit::child<QPlainTextEdit>(ctr, "plNotesFld")->toPlainText(),
+                 QStringLiteral("Bats\tleft; \"quick\""));
+        QCOMPARE(testkit::child<QLabel>(ctr, "ageLabel")->text(), QStringLiteral("Age: 13"));
         QVERIFY(!screen->editState().editDirty);
 
-        typeInto(screen->cityFld, QStringLiteral("Zürich"));
+        typeInto(testkit::child<QLineEdit>(screen, "cityFld"), QStringLiteral("Zürich"));
         QVERIFY(screen->editState().editDirty);
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QCOMPARE(column(QStringLiteral("City"), id), QStringLiteral("Zürich"));
         QCOMPARE(column(QStringLiteral("TeamNum"), id), s.cougars);
-        QCOMPARE(screen->playersList->rowCount(), 1);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 1);
         QVERIFY(!screen->editState().editMode);
     }
 
@@ -155,25 +158,27 @@ private Q_SLOTS:
         const QString id = s.player(s.cougars, QStringLiteral("Al"), QStringLiteral("Reyes"));
         s.player(s.cougars, QStringLiteral("Ben"), QStringLiteral("Cole"));
         auto screen = open();
-        QCOMPARE(screen->playersList->rowCount(), 2);
-        QCOMPARE(screen->tradeToPop->itemText(0), QStringLiteral("Trade To..."));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 2);
+        QCOMPARE(testkit::child<QComboBox>(screen, "tradeToPop")->itemText(0), QStringLiteral("Trade To..."));
 
         // Left on "Trade To...", a save keeps the team.
-        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Reyes")));
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        testkit::child<qlmListBox>(screen, "playersList")
+            ->setSelectedRow(rowOf(testkit::child<qlmListBox>(screen, "playersList"), QStringLiteral("Reyes")));
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QCOMPARE(column(QStringLiteral("TeamNum"), id), s.cougars);
 
-        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Reyes")));
-        QVERIFY(testkit::choose(screen->tradeToPop, QStringLiteral("Wolves")));
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
-        QCOMPARE(screen->playersList->rowCount(), 1);
-        QCOMPARE(rowOf(screen->playersList, QStringLiteral("Reyes")), -1);
+        testkit::child<qlmListBox>(screen, "playersList")
+            ->setSelectedRow(rowOf(testkit::child<qlmListBox>(screen, "playersList"), QStringLiteral("Reyes")));
+        QVERIFY(testkit::choose(testkit::child<QComboBox>(screen, "tradeToPop"), QStringLiteral("Wolves")));
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 1);
+        QCOMPARE(rowOf(testkit::child<qlmListBox>(screen, "playersList"), QStringLiteral("Reyes")), -1);
         QCOMPARE(column(QStringLiteral("TeamNum"), id), s.wolves);
 
-        QVERIFY(testkit::choose(screen->selectTeamPop, QStringLiteral("Wolves")));
-        QCOMPARE(screen->teamIDFld->text(), s.wolves);
-        QCOMPARE(screen->playersList->rowCount(), 1);
-        QCOMPARE(screen->playersList->rowTag(0), id);
+        QVERIFY(testkit::choose(testkit::child<QComboBox>(screen, "selectTeamPop"), QStringLiteral("Wolves")));
+        QCOMPARE(testkit::child<QLabel>(screen, "teamIDFld")->text(), s.wolves);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 1);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowTag(0), id);
     }
 
     // Leaving a changed member asks; "Save" writes it, "Cancel" drops the
@@ -195,23 +200,26 @@ private Q_SLOTS:
         auto screen = open();
 
         // Typing with nobody loaded marks nothing.
-        typeInto(screen->cityFld, QStringLiteral("Nowhere"));
-        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Reyes")));
+        typeInto(testkit::child<QLineEdit>(screen, "cityFld"), QStringLiteral("Nowhere"));
+        testkit::child<qlmListBox>(screen, "playersList")
+            ->setSelectedRow(rowOf(testkit::child<qlmListBox>(screen, "playersList"), QStringLiteral("Reyes")));
         QVERIFY(s.fake.messages.shown.isEmpty());
-        QCOMPARE(screen->cityFld->text(), QString());
+        QCOMPARE(testkit::child<QLineEdit>(screen, "cityFld")->text(), QString());
 
-        typeInto(screen->cityFld, QStringLiteral("Columbus"));
+        typeInto(testkit::child<QLineEdit>(screen, "cityFld"), QStringLiteral("Columbus"));
         s.fake.messages.answers.enqueue(std::uint8_t(answer));
-        screen->playersList->setSelectedRow(rowOf(screen->playersList, QStringLiteral("Cole")));
+        testkit::child<qlmListBox>(screen, "playersList")
+            ->setSelectedRow(rowOf(testkit::child<qlmListBox>(screen, "playersList"), QStringLiteral("Cole")));
         QCOMPARE(s.fake.messages.texts(), QStringList{"Would you like to save the changes to this member?"});
         QCOMPARE(column(QStringLiteral("City"), al), city);
-        QCOMPARE(screen->LNameFld->text(), QStringLiteral("Cole"));
-        QCOMPARE(screen->playersList->selectedRow(), rowOf(screen->playersList, QStringLiteral("Cole")));
+        QCOMPARE(testkit::child<QLineEdit>(screen, "LNameFld")->text(), QStringLiteral("Cole"));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->selectedRow(),
+                 rowOf(testkit::child<qlmListBox>(screen, "playersList"), QStringLiteral("Cole")));
         QVERIFY(screen->editState().editMode && !screen->editState().editDirty);
 
         // A change of the player fields counts too, and so does closing.
         s.fake.messages.clear();
-        QVERIFY(testkit::choose(screen->myPlayerCtr->throwPop, QStringLiteral("Left")));
+        QVERIFY(testkit::choose(testkit::child<QComboBox>(screen, "throwPop"), QStringLiteral("Left")));
         s.fake.messages.answers.enqueue(platform::MsgAction);
         QVERIFY(screen->close());
         QCOMPARE(s.fake.messages.texts(), QStringList{"Would you like to save the changes to this member?"});
@@ -225,39 +233,39 @@ private Q_SLOTS:
         Session s;
         const QString al = s.player(s.cougars, QStringLiteral("Al"), QStringLiteral("Reyes"));
         auto screen = open();
-        QTest::mouseClick(screen->SelectCoach, Qt::LeftButton);
-        QVERIFY(!screen->myPlayerCtr->isVisible());
-        QVERIFY(screen->asstCheck->isVisible());
-        typeInto(screen->FNameFld, QStringLiteral("Dee"));
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QRadioButton>(screen, "SelectCoach"), Qt::LeftButton);
+        QVERIFY(!testkit::child<playerInfoCtr>(screen, "myPlayerCtr")->isVisible());
+        QVERIFY(testkit::child<qlmCheckBox>(screen, "asstCheck")->isVisible());
+        typeInto(testkit::child<QLineEdit>(screen, "FNameFld"), QStringLiteral("Dee"));
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please enter a full name for this team member."});
-        typeInto(screen->LNameFld, QStringLiteral("Ewing-O'Hara"));
-        QTest::mouseClick(screen->asstCheck, Qt::LeftButton);
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
-        QCOMPARE(screen->coachesList->rowCount(), 1);
+        typeInto(testkit::child<QLineEdit>(screen, "LNameFld"), QStringLiteral("Ewing-O'Hara"));
+        QTest::mouseClick(testkit::child<qlmCheckBox>(screen, "asstCheck"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "coachesList")->rowCount(), 1);
         QCOMPARE(gData->scalar(QStringLiteral("SELECT Assistant FROM Coaches")).toInt(), 1);
-        screen->coachesList->setSelectedRow(0);
-        QVERIFY(screen->asstCheck->value()); // read back as stored
+        testkit::child<qlmListBox>(screen, "coachesList")->setSelectedRow(0);
+        QVERIFY(testkit::child<qlmCheckBox>(screen, "asstCheck")->value()); // read back as stored
 
         // Choosing a player brings player mode back.
-        screen->playersList->setSelectedRow(0);
-        QVERIFY(screen->SelectPlayer->isChecked());
-        QVERIFY(screen->myPlayerCtr->isVisible());
+        testkit::child<qlmListBox>(screen, "playersList")->setSelectedRow(0);
+        QVERIFY(testkit::child<QRadioButton>(screen, "SelectPlayer")->isChecked());
+        QVERIFY(testkit::child<playerInfoCtr>(screen, "myPlayerCtr")->isVisible());
 
         // Removing asks first; the player's season rows stay.
         gData->exec(QStringLiteral("INSERT INTO Hitting (playerID, teamID, AB) VALUES (?, ?, 3)"), {al, s.cougars});
         s.fake.messages.clear();
         s.answer({platform::MsgCancel, platform::MsgAction});
-        clickHalf(screen->PlusMinusPlayers, false);
-        QCOMPARE(screen->playersList->rowCount(), 1);
-        screen->playersList->setSelectedRow(0);
-        clickHalf(screen->PlusMinusPlayers, false);
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "PlusMinusPlayers"), false);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 1);
+        testkit::child<qlmListBox>(screen, "playersList")->setSelectedRow(0);
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "PlusMinusPlayers"), false);
         QCOMPARE(s.fake.messages.texts(), QStringList(2, "Are you sure you wish to remove Al Reyes from this team?"));
         QCOMPARE(s.fake.messages.shown.first().actionCaption, QStringLiteral("Remove"));
-        QCOMPARE(screen->playersList->rowCount(), 0);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 0);
         QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE playerID = ?"), {al}), 0);
         QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Hitting")), 1);
-        QCOMPARE(screen->FNameFld->text(), QString());
+        QCOMPARE(testkit::child<QLineEdit>(screen, "FNameFld")->text(), QString());
     }
 
     // A photo from the file dialog, printed with the player's data.
@@ -266,22 +274,22 @@ private Q_SLOTS:
         Session s;
         s.player(s.cougars, QStringLiteral("Zoë"), QStringLiteral("Ñúñez"));
         auto screen = open();
-        QAction *single = screen->printBtn->menu()->actions().at(1);
+        QAction *single = testkit::child<QToolButton>(screen, "printBtn")->menu()->actions().at(1);
         single->trigger();
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please select a Player"});
         s.fake.messages.clear();
 
-        screen->playersList->setSelectedRow(0);
+        testkit::child<qlmListBox>(screen, "playersList")->setSelectedRow(0);
         s.fake.files.answers.enqueue(
             fakes::writePicture(s.home.filePath(QStringLiteral("zoe.png")), {86, 100}, Qt::darkCyan));
-        clickHalf(screen->PlusMinusIndivPic, true);
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "PlusMinusIndivPic"), true);
         QCOMPARE(s.fake.files.calls.first().request.title, QStringLiteral("Select a Picture File to add"));
         QVERIFY(screen->editState().editDirty); // a new photo is a change
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QVERIFY(gData->scalar(QStringLiteral("SELECT PlayerPic FROM Players")).toByteArray().startsWith("\x89PNG"));
 
-        screen->playersList->setSelectedRow(0);
-        QCOMPARE(screen->indivPicCnv->picture().size(), QSize(86, 100));
+        testkit::child<qlmListBox>(screen, "playersList")->setSelectedRow(0);
+        QCOMPARE(testkit::child<PictureCanvas>(screen, "indivPicCnv")->picture().size(), QSize(86, 100));
         s.fake.messages.answers.enqueue(platform::MsgAction);
         single->trigger();
         QCOMPARE(s.fake.messages.texts(), QStringList{"Include the Player's Photo on the printout?"});

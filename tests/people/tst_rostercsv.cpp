@@ -66,18 +66,19 @@ private Q_SLOTS:
             QCOMPARE(pop("Pos1"), QStringLiteral("Position"));
             QCOMPARE(pop("Email"), QStringLiteral("E-mail"));
             QCOMPARE(pop("City"), QStringLiteral("(none)"));
-            QCOMPARE(dialog->previewList->headings(),
+            QCOMPARE(testkit::child<qlmListBox>(dialog, "previewList")->headings(),
                      (QStringList{"Number", "First Name", "Last Name", "Position", "E-mail"}));
-            QCOMPARE(dialog->previewList->rowCells(1), (QStringList{"12", "Bo", "O'Neil, Jr.", "C", ""}));
-            QCOMPARE(dialog->countLbl->text(), QStringLiteral("4 players in the file"));
+            QCOMPARE(testkit::child<qlmListBox>(dialog, "previewList")->rowCells(1),
+                     (QStringList{"12", "Bo", "O'Neil, Jr.", "C", ""}));
+            QCOMPARE(testkit::child<QLabel>(dialog, "countLbl")->text(), QStringLiteral("4 players in the file"));
             // Nothing is written while the coach looks.
             QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players")), 1);
             // The coach matches the shoe sizes to the notes.
             QComboBox *notes = dialog->findChild<QComboBox *>(QStringLiteral("mapPop_PlayerNotes"));
             notes->setCurrentIndex(notes->findText(QStringLiteral("Shoe size")));
-            QCOMPARE(dialog->previewList->headings().last(), QStringLiteral("Notes"));
+            QCOMPARE(testkit::child<qlmListBox>(dialog, "previewList")->headings().last(), QStringLiteral("Notes"));
             checked = true;
-            QTest::mouseClick(dialog->importBtn, Qt::LeftButton);
+            QTest::mouseClick(testkit::child<QPushButton>(dialog, "importBtn"), Qt::LeftButton);
         });
         screen->menus()->item(QStringLiteral("FileImportRoster"))->trigger();
         QVERIFY(checked);
@@ -88,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(gData->scalar(QStringLiteral("SELECT PlayerNotes || '/' || Email FROM Players WHERE Last = 'Diaz'"))
                      .toString(),
                  QStringLiteral("7/cal@example.org"));
-        QCOMPARE(screen->playersList->rowCount(), 3);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "playersList")->rowCount(), 3);
 
         // Exported and read back: every field but the picture.
         s.fake.files.answers.enqueue(s.folder() + QStringLiteral("/out"));

@@ -17,8 +17,10 @@
 #include "reports/ui/qlmListBox.h"
 #include "support/ui/qlmCheckBox.h"
 
+#include "support/ui/PlusMinusContainer.h"
 #include <QAction>
 #include <QBuffer>
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -49,13 +51,13 @@ class TestTeamScrn : public QObject
     // Types a new team and clicks the action button.
     static void addTeam(teamScrn *s, const QString &school, const QString &team, bool home)
     {
-        clickHalf(s->teamListPlusMInus, true);
-        typeInto(s->teamFld, team);
-        typeInto(s->schoolFld, school);
+        clickHalf(testkit::child<PlusMinusContainer>(s, "teamListPlusMInus"), true);
+        typeInto(testkit::child<QLineEdit>(s, "teamFld"), team);
+        typeInto(testkit::child<QLineEdit>(s, "schoolFld"), school);
         if (home)
-            QTest::mouseClick(s->homeTeamBox, Qt::LeftButton);
-        QCOMPARE(s->actionBtn->text(), QStringLiteral("Add Team"));
-        QTest::mouseClick(s->actionBtn, Qt::LeftButton);
+            QTest::mouseClick(testkit::child<qlmCheckBox>(s, "homeTeamBox"), Qt::LeftButton);
+        QCOMPARE(testkit::child<QPushButton>(s, "actionBtn")->text(), QStringLiteral("Add Team"));
+        QTest::mouseClick(testkit::child<QPushButton>(s, "actionBtn"), Qt::LeftButton);
     }
 
     static int rowOf(qlmListBox *list, const QString &team)
@@ -89,33 +91,38 @@ private Q_SLOTS:
         auto screen = open();
         addTeam(screen, QStringLiteral("O'Brien's \"Prep\""), QStringLiteral("Señores; Rojos"), true);
         QVERIFY(s.fake.messages.shown.isEmpty());
-        QCOMPARE(screen->teamList->rowCount(), 1);
-        const QString first = screen->teamList->rowTag(0);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->rowCount(), 1);
+        const QString first = testkit::child<qlmListBox>(screen, "teamList")->rowTag(0);
         QCOMPARE(gPrefs->prHomeTeam, first);
-        QCOMPARE(screen->teamList->rowCells(0), (QStringList{"O'Brien's \"Prep\"", "Señores; Rojos", "X"}));
-        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Add Team")); // the form is empty again
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->rowCells(0),
+                 (QStringList{"O'Brien's \"Prep\"", "Señores; Rojos", "X"}));
+        QCOMPARE(testkit::child<QPushButton>(screen, "actionBtn")->text(),
+                 QStringLiteral("Add Team")); // the form is empty again
 
         s.fake.messages.answers.enqueue(std::uint8_t(answer));
         addTeam(screen, QStringLiteral("West"), QStringLiteral("Wolves"), true);
         QCOMPARE(s.fake.messages.texts(), QStringList{"Make this team the default 'Home Team'?"});
-        const int westRow = rowOf(screen->teamList, QStringLiteral("Wolves"));
-        const QString second = screen->teamList->rowTag(westRow);
+        const int westRow = rowOf(testkit::child<qlmListBox>(screen, "teamList"), QStringLiteral("Wolves"));
+        const QString second = testkit::child<qlmListBox>(screen, "teamList")->rowTag(westRow);
         QCOMPARE(gPrefs->prHomeTeam, moved ? second : first);
         // On disk at once: a crash now keeps the choice.
         QFile file(gPrefs->prefsFilePath());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), gPrefs->encode());
-        QCOMPARE(screen->teamList->cell(westRow, 2), moved ? QStringLiteral("X") : QString());
-        QCOMPARE(screen->teamList->cell(rowOf(screen->teamList, QStringLiteral("Señores; Rojos")), 2),
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->cell(westRow, 2),
+                 moved ? QStringLiteral("X") : QString());
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")
+                     ->cell(rowOf(testkit::child<qlmListBox>(screen, "teamList"), QStringLiteral("Señores; Rojos")), 2),
                  moved ? QString() : QStringLiteral("X"));
 
         // Shown back as typed.
-        screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Señores; Rojos")));
-        QCOMPARE(screen->teamFld->text(), QStringLiteral("Señores; Rojos"));
-        QCOMPARE(screen->schoolFld->text(), QStringLiteral("O'Brien's \"Prep\""));
-        QCOMPARE(screen->homeTeamBox->value(), !moved);
-        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Edit Team"));
-        QCOMPARE(screen->teamIDFld->text(), first);
+        testkit::child<qlmListBox>(screen, "teamList")
+            ->setSelectedRow(rowOf(testkit::child<qlmListBox>(screen, "teamList"), QStringLiteral("Señores; Rojos")));
+        QCOMPARE(testkit::child<QLineEdit>(screen, "teamFld")->text(), QStringLiteral("Señores; Rojos"));
+        QCOMPARE(testkit::child<QLineEdit>(screen, "schoolFld")->text(), QStringLiteral("O'Brien's \"Prep\""));
+        QCOMPARE(testkit::child<qlmCheckBox>(screen, "homeTeamBox")->value(), !moved);
+        QCOMPARE(testkit::child<QPushButton>(screen, "actionBtn")->text(), QStringLiteral("Edit Team"));
+        QCOMPARE(testkit::child<QLabel>(screen, "teamIDFld")->text(), first);
     }
 
     // With teams but no home team the screen stays open; once one is
@@ -137,21 +144,24 @@ private Q_SLOTS:
         testkit::showActive(screen);
 
         addTeam(screen, QStringLiteral("O'Brien's"), QStringLiteral("Cougars"), false);
-        QTest::mouseClick(screen->cancelBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "cancelBtn"), Qt::LeftButton);
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please designate a 'Home Team'"});
         QVERIFY(screen && screen->isVisible());
 
         // A click on the home column only explains how to mark one.
         s.fake.messages.clear();
-        const QRect cell = screen->teamList->visualRect(screen->teamList->listModel().index(0, 2));
-        QTest::mouseClick(screen->teamList->viewport(), Qt::LeftButton, {}, cell.center());
+        const QRect cell = testkit::child<qlmListBox>(screen, "teamList")
+                               ->visualRect(testkit::child<qlmListBox>(screen, "teamList")->listModel().index(0, 2));
+        QTest::mouseClick(testkit::child<qlmListBox>(screen, "teamList")->viewport(), Qt::LeftButton, {},
+                          cell.center());
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please select a team and designate it as the 'Home Team'"});
-        QCOMPARE(screen->actionBtn->text(), QStringLiteral("Edit Team")); // and it selected the row
+        QCOMPARE(testkit::child<QPushButton>(screen, "actionBtn")->text(),
+                 QStringLiteral("Edit Team")); // and it selected the row
 
         // Marked by editing: no home team yet, so no question.
         s.fake.messages.clear();
-        QTest::mouseClick(screen->homeTeamBox, Qt::LeftButton);
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<qlmCheckBox>(screen, "homeTeamBox"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QVERIFY(s.fake.messages.shown.isEmpty());
         QVERIFY(!gPrefs->prHomeTeam.isEmpty());
         QVERIFY(screen->close());
@@ -159,7 +169,7 @@ private Q_SLOTS:
         QVERIFY(!screen);
         start = startScrn1::instance();
         QVERIFY(start && start->isVisible());
-        QCOMPARE(start->teamNameLabel->text(), QStringLiteral("O'Brien's Cougars"));
+        QCOMPARE(testkit::child<QLabel>(start, "teamNameLabel")->text(), QStringLiteral("O'Brien's Cougars"));
         QCOMPARE(s.app().BUTimer->mode(), myTimerClass::ModeOff);
         screens::unregisterScreen(ScreenId::teamScrn);
     }
@@ -182,25 +192,27 @@ private Q_SLOTS:
         s.addPlayer(wolves, QStringLiteral("C"), QStringLiteral("Diaz"));
         s.addCoach(cougars, QStringLiteral("D"), QStringLiteral("Ewing"));
         auto screen = open();
-        QCOMPARE(screen->teamList->rowCount(), 2);
-        screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Cougars")));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->rowCount(), 2);
+        testkit::child<qlmListBox>(screen, "teamList")
+            ->setSelectedRow(rowOf(testkit::child<qlmListBox>(screen, "teamList"), QStringLiteral("Cougars")));
 
         s.answer({platform::MsgCancel, platform::MsgAction});
-        clickHalf(screen->teamListPlusMInus, false);
-        QCOMPARE(screen->teamList->rowCount(), 2);
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "teamListPlusMInus"), false);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->rowCount(), 2);
 
-        screen->teamList->setSelectedRow(rowOf(screen->teamList, QStringLiteral("Cougars")));
-        clickHalf(screen->teamListPlusMInus, false);
+        testkit::child<qlmListBox>(screen, "teamList")
+            ->setSelectedRow(rowOf(testkit::child<qlmListBox>(screen, "teamList"), QStringLiteral("Cougars")));
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "teamListPlusMInus"), false);
         QCOMPARE(s.fake.messages.texts().last(), QStringLiteral("Ok to delete Central Cougars from the Teams List?"));
-        QCOMPARE(screen->teamList->rowCount(), 1);
-        QCOMPARE(screen->teamList->cell(0, 1), QStringLiteral("Wolves"));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->rowCount(), 1);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->cell(0, 1), QStringLiteral("Wolves"));
         // Its players go with it; other teams' players and the coaches stay.
         QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {cougars}), 0);
         QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Players WHERE TeamNum = ?"), {wolves}), 1);
         QCOMPARE(s.count(QStringLiteral("SELECT COUNT(*) FROM Coaches")), 1);
         QVERIFY(gPrefs->prHomeTeam.isEmpty());
         QVERIFY(gPrefs->prefsDirty);
-        QCOMPARE(screen->teamFld->text(), QString());
+        QCOMPARE(testkit::child<QLineEdit>(screen, "teamFld")->text(), QString());
         QVERIFY(!screen->close()); // Wolves remain, and none is the home team
     }
 
@@ -222,18 +234,18 @@ private Q_SLOTS:
         QFETCH(QString, shown);
         Session s;
         auto screen = open();
-        typeInto(screen->teamFld, QStringLiteral("Cougars"));
-        typeInto(screen->phoneFld, typed);
-        QCOMPARE(screen->phoneFld->text(), typed); // as typed while being edited
-        screen->homeFldFld->setFocus(Qt::TabFocusReason);
-        QCOMPARE(screen->phoneFld->text(), shown);
-        screen->phoneFld->setFocus(Qt::TabFocusReason);
-        QCOMPARE(screen->phoneFld->text(), typed); // back for editing
-        screen->homeFldFld->setFocus(Qt::TabFocusReason);
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        typeInto(testkit::child<QLineEdit>(screen, "teamFld"), QStringLiteral("Cougars"));
+        typeInto(testkit::child<MaskedPhoneField>(screen, "phoneFld"), typed);
+        QCOMPARE(testkit::child<MaskedPhoneField>(screen, "phoneFld")->text(), typed); // as typed while being edited
+        testkit::child<QComboBox>(screen, "homeFldFld")->setFocus(Qt::TabFocusReason);
+        QCOMPARE(testkit::child<MaskedPhoneField>(screen, "phoneFld")->text(), shown);
+        testkit::child<MaskedPhoneField>(screen, "phoneFld")->setFocus(Qt::TabFocusReason);
+        QCOMPARE(testkit::child<MaskedPhoneField>(screen, "phoneFld")->text(), typed); // back for editing
+        testkit::child<QComboBox>(screen, "homeFldFld")->setFocus(Qt::TabFocusReason);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QCOMPARE(gData->scalar(QStringLiteral("SELECT Phone FROM Teams")).toString(), typed);
-        screen->teamList->setSelectedRow(0);
-        QCOMPARE(screen->phoneFld->text(), shown);
+        testkit::child<qlmListBox>(screen, "teamList")->setSelectedRow(0);
+        QCOMPARE(testkit::child<MaskedPhoneField>(screen, "phoneFld")->text(), shown);
     }
 
     // Logos come from the file dialog or a drop and are kept as PNG; the
@@ -243,44 +255,44 @@ private Q_SLOTS:
         Session s;
         gPrefs->prLogoOnReport = true;
         auto screen = open();
-        typeInto(screen->teamFld, QStringLiteral("Cougars"));
-        typeInto(screen->schoolFld, QStringLiteral("O'Brien's"));
-        testkit::choose(screen->StatePop, QStringLiteral("OH"));
-        typeInto(screen->cityFld, QStringLiteral("Dublin"));
+        typeInto(testkit::child<QLineEdit>(screen, "teamFld"), QStringLiteral("Cougars"));
+        typeInto(testkit::child<QLineEdit>(screen, "schoolFld"), QStringLiteral("O'Brien's"));
+        testkit::choose(testkit::child<QComboBox>(screen, "StatePop"), QStringLiteral("OH"));
+        typeInto(testkit::child<QLineEdit>(screen, "cityFld"), QStringLiteral("Dublin"));
         const QString jpeg = fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), {64, 48}, Qt::red);
         s.fake.files.answers.enqueue(jpeg);
-        clickHalf(screen->PlusMinusTeamLogo, true);
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "PlusMinusTeamLogo"), true);
         QCOMPARE(s.fake.files.calls.size(), 1);
         QCOMPARE(s.fake.files.calls[0].request.title, QStringLiteral("Select a Picture File to add"));
         QCOMPARE(s.fake.files.calls[0].request.nameFilters, QStringList{FileTypes::AllPicts().nameFilter()});
-        QCOMPARE(screen->LogoCvn->picture().size(), QSize(64, 48));
+        QCOMPARE(testkit::child<PictureCanvas>(screen, "LogoCvn")->picture().size(), QSize(64, 48));
 
         // Removing shows the placeholder; a dropped file of another name brings one back.
-        clickHalf(screen->PlusMinusTeamLogo, false);
-        QVERIFY(screen->LogoCvn->picture().isNull());
-        QVERIFY(!screen->LogoCvn->shownPicture().isNull());
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "PlusMinusTeamLogo"), false);
+        QVERIFY(testkit::child<PictureCanvas>(screen, "LogoCvn")->picture().isNull());
+        QVERIFY(!testkit::child<PictureCanvas>(screen, "LogoCvn")->shownPicture().isNull());
         fakes::writePicture(s.home.filePath(QStringLiteral("crest.dat")), {30, 40}, Qt::blue);
         QMimeData mime;
         mime.setUrls({QUrl::fromLocalFile(s.home.filePath(QStringLiteral("crest.dat")))});
         // The drag enters first: the application hands a drop only to the
         // widget the drag is over.
         QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(screen->LogoCvn, &enter);
+        QCoreApplication::sendEvent(testkit::child<PictureCanvas>(screen, "LogoCvn"), &enter);
         QVERIFY(enter.isAccepted());
         QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(screen->LogoCvn, &drop);
-        QCOMPARE(screen->LogoCvn->picture().size(), QSize(30, 40));
+        QCoreApplication::sendEvent(testkit::child<PictureCanvas>(screen, "LogoCvn"), &drop);
+        QCOMPARE(testkit::child<PictureCanvas>(screen, "LogoCvn")->picture().size(), QSize(30, 40));
 
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         const QByteArray stored = gData->scalar(QStringLiteral("SELECT TeamLogo FROM Teams")).toByteArray();
         QVERIFY(stored.startsWith("\x89PNG"));
         QCOMPARE(QImage::fromData(stored).size(), QSize(30, 40));
 
         // The selected team's data needs a selection.
-        QAction *selectedData = screen->printBtn->menu()->actions().at(1);
+        QAction *selectedData = testkit::child<QToolButton>(screen, "printBtn")->menu()->actions().at(1);
         selectedData->trigger();
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please Select a Team."});
-        screen->teamList->setSelectedRow(0);
+        testkit::child<qlmListBox>(screen, "teamList")->setSelectedRow(0);
         selectedData->trigger();
         QCOMPARE(s.fake.printing.printed.size(), 1);
         const QString pdf = s.fake.printing.printed.first();
@@ -319,8 +331,8 @@ private Q_SLOTS:
         auto screen = open();
         s.fake.files.answers.enqueue(
             fakes::writePicture(s.home.filePath(QStringLiteral("crest.jpg")), chosen, Qt::red));
-        clickHalf(screen->PlusMinusTeamLogo, true);
-        QCOMPARE(screen->LogoCvn->picture().size(), kept);
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "PlusMinusTeamLogo"), true);
+        QCOMPARE(testkit::child<PictureCanvas>(screen, "LogoCvn")->picture().size(), kept);
     }
 
     // Saving a team whose logo didn't change writes the stored bytes back
@@ -339,10 +351,10 @@ private Q_SLOTS:
         gData->insert(QStringLiteral("Teams"),
                       {{QStringLiteral("TeamName"), QStringLiteral("Cougars")}, {QStringLiteral("TeamLogo"), jpeg}});
         auto screen = open();
-        screen->teamList->setSelectedRow(0);
-        QCOMPARE(screen->LogoCvn->picture().size(), QSize(40, 30));
-        typeInto(screen->cityFld, QStringLiteral("Dublin"));
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        testkit::child<qlmListBox>(screen, "teamList")->setSelectedRow(0);
+        QCOMPARE(testkit::child<PictureCanvas>(screen, "LogoCvn")->picture().size(), QSize(40, 30));
+        typeInto(testkit::child<QLineEdit>(screen, "cityFld"), QStringLiteral("Dublin"));
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QCOMPARE(gData->scalar(QStringLiteral("SELECT SchoolCity FROM Teams")).toString(), QStringLiteral("Dublin"));
         QVERIFY(gData->scalar(QStringLiteral("SELECT TeamLogo FROM Teams")).toByteArray() == jpeg);
     }
@@ -354,25 +366,26 @@ private Q_SLOTS:
         gData->insert(QStringLiteral("Teams"), {{QStringLiteral("TeamName"), QStringLiteral("Wolves")},
                                                 {QStringLiteral("League"), QStringLiteral("Metro")}});
         auto screen = open();
-        QCOMPARE(screen->LeagueFld->count(), 1);
-        typeInto(screen->teamFld, QStringLiteral("Cougars"));
-        typeInto(screen->LeagueFld->lineEdit(), QStringLiteral("Tri-County, North"));
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
-        QCOMPARE(screen->LeagueFld->count(), 2);
-        QCOMPARE(screen->LeagueFld->itemText(1), QStringLiteral("Tri-County, North"));
-        QCOMPARE(screen->LeagueFld->currentText(), QString());
+        QCOMPARE(testkit::child<QComboBox>(screen, "LeagueFld")->count(), 1);
+        typeInto(testkit::child<QLineEdit>(screen, "teamFld"), QStringLiteral("Cougars"));
+        typeInto(testkit::child<QComboBox>(screen, "LeagueFld")->lineEdit(), QStringLiteral("Tri-County, North"));
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
+        QCOMPARE(testkit::child<QComboBox>(screen, "LeagueFld")->count(), 2);
+        QCOMPARE(testkit::child<QComboBox>(screen, "LeagueFld")->itemText(1), QStringLiteral("Tri-County, North"));
+        QCOMPARE(testkit::child<QComboBox>(screen, "LeagueFld")->currentText(), QString());
     }
 
     void nameIsRequired()
     {
         Session s;
         auto screen = open();
-        typeInto(screen->schoolFld, QStringLiteral("Central"));
-        typeInto(screen->teamFld, QStringLiteral("  ")); // blanks are no name
-        QTest::mouseClick(screen->actionBtn, Qt::LeftButton);
+        typeInto(testkit::child<QLineEdit>(screen, "schoolFld"), QStringLiteral("Central"));
+        typeInto(testkit::child<QLineEdit>(screen, "teamFld"), QStringLiteral("  ")); // blanks are no name
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "actionBtn"), Qt::LeftButton);
         QCOMPARE(s.fake.messages.texts(), QStringList{"Please fill in the team name field."});
-        QCOMPARE(screen->teamList->rowCount(), 0);
-        QCOMPARE(screen->schoolFld->text(), QStringLiteral("Central")); // nothing typed is lost
+        QCOMPARE(testkit::child<qlmListBox>(screen, "teamList")->rowCount(), 0);
+        QCOMPARE(testkit::child<QLineEdit>(screen, "schoolFld")->text(),
+                 QStringLiteral("Central")); // nothing typed is lost
     }
 };
 

@@ -95,11 +95,11 @@ private Q_SLOTS:
         QVERIFY(stats::pitchrules::setChosenFile(gPrefs->strdDataLoc, u"youth-league.json"_s));
         auto *screen = new pitcherAvailabilityScrn;
         QVERIFY(testkit::showActive(screen));
-        QCOMPARE(screen->rulesLbl->text(), u"Rules: Youth league regular season"_s);
-        QCOMPARE(screen->todayFld->date(), QDate(2026, 4, 15)); // the clock's day
-        screen->todayFld->setDate(kMonday.addDays(2));
+        QCOMPARE(testkit::child<QLabel>(screen, "rulesLbl")->text(), u"Rules: Youth league regular season"_s);
+        QCOMPARE(testkit::child<QDateEdit>(screen, "todayFld")->date(), QDate(2026, 4, 15)); // the clock's day
+        testkit::child<QDateEdit>(screen, "todayFld")->setDate(kMonday.addDays(2));
 
-        qlmListBox *list = screen->availBox;
+        qlmListBox *list = testkit::child<qlmListBox>(screen, "availBox");
         QCOMPARE(list->headings(), (QStringList{"Player", "Age", "Thu 30", "Fri 1", "Sat 2", "Sun 3", "Mon 4", "Tue 5",
                                                 "Wed 6", "Rest", "May Pitch", "Left Today", "Why Not"}));
         QCOMPARE(list->rowCount(), 3); // Ed neither pitched nor pitches
@@ -113,7 +113,7 @@ private Q_SLOTS:
                  (QStringList{"Al Ames", "?", "", "", "", "", "", "", "", "0", "Today", "50", ""}));
 
         // Saturday he may throw his day's maximum again.
-        screen->todayFld->setDate(kMonday.addDays(5));
+        testkit::child<QDateEdit>(screen, "todayFld")->setDate(kMonday.addDays(5));
         QCOMPARE(rowOf(list, u"Sam Reyes"_s).mid(9), (QStringList{"0", "Today", "95", ""}));
 
         const QString path = f.season.home.filePath(u"availability.txt"_s);

@@ -5,6 +5,7 @@
 #include "app/ui/MainMenuBar.h"
 #include "app/ui/startScrn1.h"
 #include "fakes/Golden.h"
+#include "fakes/TestKit.h"
 #include "fakes/TestSupport.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/reportIntroScrn.h"
@@ -138,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(report);
         QVERIFY(!intro->isVisible());
         QVERIFY(!startScrn1::instance() || !startScrn1::instance()->isVisible());
-        QCOMPARE(report->reportBox->headings(),
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->headings(),
                  QStringList({"First Name", "Last Name", "Team"}) + fixed + checked + QStringList{list->cell(last, 1)});
     }
 
@@ -152,10 +153,11 @@ private Q_SLOTS:
         QTest::mouseClick(intro->viewBtn[0], Qt::LeftButton);
         reportScrn *report = shown<reportScrn>();
         QVERIFY(report);
-        QCOMPARE(report->reportBox->headings(),
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->headings(),
                  (QStringList{"First Name", "Last Name", "Team", "AB", "Avg", "OBP", "SP"}));
-        QCOMPARE(report->reportBox->rowCells(0), (QStringList{"Al", "Ames", "Eagles", "10", ".400", ".500", ".800"}));
-        QCOMPARE(report->titleLbl->text(), QStringLiteral("Batting"));
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->rowCells(0),
+                 (QStringList{"Al", "Ames", "Eagles", "10", ".400", ".500", ".800"}));
+        QCOMPARE(testkit::child<QLabel>(report, "titleLbl")->text(), QStringLiteral("Batting"));
     }
 
     void exportMatchesGoldenFile()
@@ -178,7 +180,7 @@ private Q_SLOTS:
         BattingSeason f;
         reportScrn *report = openBattingReport();
         QVERIFY(report);
-        qlmListBox *list = report->reportBox;
+        qlmListBox *list = testkit::child<qlmListBox>(report, "reportBox");
         QCOMPARE(column(list, 1), (QStringList{"Ames", "Bell", "O'Neil"}));
 
         // A first click on "Avg" sorts the best first, and that order holds
@@ -191,9 +193,10 @@ private Q_SLOTS:
         QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {},
                           QPoint(list->header()->sectionViewportPosition(avg) + 5, 5));
         QCOMPARE(column(list, avg), (QStringList{".400", ".333", ".250"}));
-        report->teamFilter->setCurrentIndex(report->teamFilter->findText("Eagles"));
+        testkit::child<QComboBox>(report, "teamFilter")
+            ->setCurrentIndex(testkit::child<QComboBox>(report, "teamFilter")->findText("Eagles"));
         QCOMPARE(column(list, 1), (QStringList{"Ames", "O'Neil"}));
-        report->teamFilter->setCurrentIndex(0);
+        testkit::child<QComboBox>(report, "teamFilter")->setCurrentIndex(0);
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Left, Qt::ControlModifier); // at bats, most first
         QCOMPARE(column(list, 3), (QStringList{"10", "4", "3"}));
@@ -201,14 +204,17 @@ private Q_SLOTS:
         QCOMPARE(column(list, 2), (QStringList{"Eagles", "Eagles", "Owls"}));
         QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
         QCOMPARE(column(list, 2), (QStringList{"Owls", "Eagles", "Eagles"}));
-        report->teamFilter->setCurrentIndex(report->teamFilter->findText("Eagles"));
+        testkit::child<QComboBox>(report, "teamFilter")
+            ->setCurrentIndex(testkit::child<QComboBox>(report, "teamFilter")->findText("Eagles"));
 
-        report->DivisionFilter->setCurrentIndex(report->DivisionFilter->findText("West"));
+        testkit::child<QComboBox>(report, "DivisionFilter")
+            ->setCurrentIndex(testkit::child<QComboBox>(report, "DivisionFilter")->findText("West"));
         QCOMPARE(list->rowCount(), 0);
-        report->teamFilter->setCurrentIndex(0);
+        testkit::child<QComboBox>(report, "teamFilter")->setCurrentIndex(0);
         QCOMPARE(column(list, 1), (QStringList{"Bell"}));
-        report->leagueFilter->setCurrentIndex(report->leagueFilter->findText("North"));
-        report->DivisionFilter->setCurrentIndex(0);
+        testkit::child<QComboBox>(report, "leagueFilter")
+            ->setCurrentIndex(testkit::child<QComboBox>(report, "leagueFilter")->findText("North"));
+        testkit::child<QComboBox>(report, "DivisionFilter")->setCurrentIndex(0);
         QCOMPARE(list->rowCount(), 3);
     }
 
@@ -220,8 +226,10 @@ private Q_SLOTS:
         reportScrn *report = openBattingReport();
         QVERIFY(report);
         report->menus()->item(QStringLiteral("FilePrint"))->trigger();
-        report->DivisionFilter->setCurrentIndex(report->DivisionFilter->findText("West"));
-        report->teamFilter->setCurrentIndex(report->teamFilter->findText("Eagles"));
+        testkit::child<QComboBox>(report, "DivisionFilter")
+            ->setCurrentIndex(testkit::child<QComboBox>(report, "DivisionFilter")->findText("West"));
+        testkit::child<QComboBox>(report, "teamFilter")
+            ->setCurrentIndex(testkit::child<QComboBox>(report, "teamFilter")->findText("Eagles"));
         report->menus()->item(QStringLiteral("FilePrint"))->trigger();
         QCOMPARE(f.platform.printing.printed.size(), 2);
         const QString full = fakes::pdfText(f.platform.printing.printed.at(0));
@@ -238,15 +246,15 @@ private Q_SLOTS:
         ReportsFixture f;
         reportScrn *report = openBattingReport();
         QVERIFY(report);
-        QCOMPARE(report->reportBox->rowCount(), 0);
-        QTest::mouseClick(report->newRptBtn, Qt::LeftButton);
+        QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->rowCount(), 0);
+        QTest::mouseClick(testkit::child<QPushButton>(report, "newRptBtn"), Qt::LeftButton);
         QVERIFY(shown<reportIntroScrn>());
         QVERIFY(!startScrn1::instance() || !startScrn1::instance()->isVisible());
 
         QTest::mouseClick(shown<reportIntroScrn>()->viewBtn[2], Qt::LeftButton);
         report = shown<reportScrn>();
-        QCOMPARE(report->titleLbl->text(), QStringLiteral("Pitching"));
-        QTest::mouseClick(report->closeBtn, Qt::LeftButton);
+        QCOMPARE(testkit::child<QLabel>(report, "titleLbl")->text(), QStringLiteral("Pitching"));
+        QTest::mouseClick(testkit::child<QPushButton>(report, "closeBtn"), Qt::LeftButton);
         QVERIFY(!shown<reportIntroScrn>());
         QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
     }

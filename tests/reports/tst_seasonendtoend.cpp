@@ -16,7 +16,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -45,22 +44,11 @@ void playTeam(gameday::GameDay &game, const QStringList &positions, const QList<
 // Presses "Record Game Data" and answers the check window with its record button.
 void recordFromScreen(gameDayScrn *screen)
 {
-    auto *poll = new QTimer;
-    poll->setInterval(5);
-    QObject::connect(poll, &QTimer::timeout, poll, [poll] {
-        for (QWidget *w : QApplication::topLevelWidgets()) {
-            auto *check = qobject_cast<finalCheckScrn *>(w);
-            if (!check || !check->isVisible())
-                continue;
-            poll->stop();
-            poll->deleteLater();
-            auto *record = check->findChild<QPushButton *>(QStringLiteral("recordBtn"));
-            record->setFocus();
-            QTest::keyClick(record, Qt::Key_Space);
-            return;
-        }
+    testkit::whenShown<finalCheckScrn>([](finalCheckScrn *check) {
+        auto *record = testkit::child<QPushButton>(check, "recordBtn");
+        record->setFocus();
+        QTest::keyClick(record, Qt::Key_Space);
     });
-    poll->start();
     testkit::child<QPushButton>(screen, "finalizeBtn")->setFocus();
     QTest::keyClick(testkit::child<QPushButton>(screen, "finalizeBtn"), Qt::Key_Space);
 }
@@ -129,14 +117,14 @@ private Q_SLOTS:
         auto batting = std::make_unique<reportScrn>(0, QStringList{"First Name", "Last Name", "AB", "Avg", "OBP", "SP",
                                                                    "B1", "B2", "B3", "HR", "BB", "KS", "KL", "Runs",
                                                                    "RBI"});
-        const QStringList shown = lines(batting->reportBox);
+        const QStringList shown = lines(testkit::child<qlmListBox>(batting, "reportBox"));
         QVERIFY(shown.contains("Ethan Nguyen Celtics 2 1.000 1.000 1.500 1 1 0 0 0 0 0 1 0"));
         QVERIFY(shown.contains("Caleb Washington Celtics 2 .500 .500 2.000 0 0 0 1 0 1 0 1 2"));
         // Three Celtics, three Wildcats, three Patriots and the Celtics' B3.
         QCOMPARE(shown.size(), 10);
 
         auto standings = std::make_unique<standingsScrn>();
-        QCOMPARE(lines(standings->myLB),
+        QCOMPARE(lines(testkit::child<qlmListBox>(standings.get(), "myLB")),
                  (QStringList{"Patriots 1 0 0 1.000 0.0", "Celtics 1 1 0 .500 0.5", "Wildcats 0 1 0 .000 1.0",
                               "Knights .000 0.5", "Cardinals .000 0.5"}));
     }

@@ -1,7 +1,8 @@
 // Season reports as data: the derived statistics of each report worked out
-// by hand, the masks they are shown through, and the filters.
+// by hand (the cases under tests/data/reports), the masks they are shown through, and the filters.
 
 #include "ReportsFixture.h"
+#include "fakes/Golden.h"
 #include "reports/NumberMask.h"
 #include "reports/ReportHeadings.h"
 #include "reports/SeasonReport.h"
@@ -51,68 +52,37 @@ private Q_SLOTS:
         QCOMPARE(reports::formatMask(value, mask), shown);
     }
 
-    // One season row through its reporter; the shown cells against figures
-    // worked out by hand.
+    // The cases of tests/data/reports/<kind>: the report's headers, then
+    // each player's season row ("player: First Last Team AB=10 B1=2"); below
+    // the line, the shown cells, the headers first.
     void derivedStatistics_data()
     {
-        QTest::addColumn<reports::ReportKind>("kind");
-        QTest::addColumn<QStringList>("headers");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QStringList>("shown");
-        const QStringList batting{"First Name", "Last Name", "AB", "Avg", "OBP", "SP", "BB", "IBB"};
-        QTest::newRow("walks only") << reports::Batting << batting << "BB=3"
-                                    << QStringList{"Al", "Ames", "Eagles", "0", ".000", "1.000", ".000", "3", "0"};
-        QTest::newRow("sacrifices only") << reports::Batting << batting << "SAC=2"
-                                         << QStringList{"Al", "Ames", "Eagles", "0", ".000", ".000", ".000", "0", "0"};
-        // 4 hits in 10; (4 + 2 BB + 1 HBP) / (10 + 2 + 1 + 1 SAC) = .500;
-        // bases 2 + 2 + 4 = 8; the intentional walk counts nowhere.
-        QTest::newRow("a season") << reports::Batting << batting << "AB=10 B1=2 B2=1 HR=1 BB=2 IBB=1 HBP=1 SAC=1"
-                                  << QStringList{"Al", "Ames", "Eagles", "10", ".400", ".500", ".800", "2", "1"};
-        QTest::newRow("interference counts nowhere")
-            << reports::Batting << batting << "AB=2 B1=1 CI=1"
-            << QStringList{"Al", "Ames", "Eagles", "2", ".500", ".500", ".500", "0", "0"};
-        QTest::newRow("all home runs") << reports::Batting << batting << "AB=4 HR=4"
-                                       << QStringList{"Al", "Ames", "Eagles", "4", "1.000", "1.000", "4.000", "0", "0"};
-        QTest::newRow("thirds round") << reports::Batting << batting << "AB=3 B1=2 B3=1"
-                                      << QStringList{"Al", "Ames", "Eagles", "3", "1.000", "1.000", "1.667", "0", "0"};
-
-        const QStringList fielding{"First Name", "Last Name", "FPct", "CH", "PO", "Asst", "FE"};
-        QTest::newRow("no chances") << reports::Fielding << fielding << "PO=2"
-                                    << QStringList{"Al", "Ames", "Eagles", ".000", "0", "2", "0", "0"};
-        // (5 + 3) / 9 typed chances, whatever the errors say.
-        QTest::newRow("chances as typed") << reports::Fielding << fielding << "CH=9 PO=5 Asst=3 FE=4"
-                                          << QStringList{"Al", "Ames", "Eagles", ".889", "9", "5", "3", "4"};
-        QTest::newRow("clean") << reports::Fielding << fielding << "CH=4 PO=4"
-                               << QStringList{"Al", "Ames", "Eagles", "1.000", "4", "4", "0", "0"};
-        QTest::newRow("a header no dictionary knows adds no cell")
-            << reports::Fielding << QStringList{"First Name", "Last Name", "FPct", "Nope", "PO"} << "CH=2 PO=1"
-            << QStringList{"Al", "Ames", "Eagles", ".500", "1"};
-
-        const QStringList pitching{"First Name", "Last Name", "ERA", "IP", "ErRuns"};
-        QTest::newRow("no innings") << reports::Pitching << pitching << "ErRuns=5"
-                                    << QStringList{"Al", "Ames", "Eagles", "0.00", "0.0", "5"};
-        QTest::newRow("nine innings") << reports::Pitching << pitching << "IP=90 ErRuns=3"
-                                      << QStringList{"Al", "Ames", "Eagles", "3.00", "9.0", "3"};
-        // 6 2/3 innings: 9 x 6 / (20/3) = 8.10.
-        QTest::newRow("thirds of innings") << reports::Pitching << pitching << "IP=62 ErRuns=6"
-                                           << QStringList{"Al", "Ames", "Eagles", "8.10", "6.2", "6"};
-        QTest::newRow("one out") << reports::Pitching << pitching << "IP=1 ErRuns=1"
-                                 << QStringList{"Al", "Ames", "Eagles", "27.00", "0.1", "1"};
+        testkit::addGoldenCases({"reports/batting", "reports/fielding", "reports/pitching"});
     }
     void derivedStatistics()
     {
-        QFETCH(reports::ReportKind, kind);
-        QFETCH(QStringList, headers);
-        QFETCH(QString, stored);
+        TL_FETCH_CASE(c);
+        const QString folder = c.name.section(u'/', 1, 1);
+        const reports::ReportKind kind = folder == u"batting"    ? reports::Batting
+                                         : folder == u"fielding" ? reports::Fielding
+                                                                 : reports::Pitching;
         ReportsFixture f;
-        const qint64 team = f.addTeam("Eagles");
-        f.addSeasonRow(reports::seasonTable(kind), f.addPlayer(team, "Al", "Ames"), team, figures(stored));
-        SeasonReport report(kind, headers);
+        QHash<QString, qint64> teams;
+        for (const QString &player : c.values(QStringLiteral("player"))) {
+            const QStringList words = player.split(u' ', Qt::SkipEmptyParts);
+            QVERIFY(words.size() >= 3);
+            if (!teams.contains(words.at(2)))
+                teams.insert(words.at(2), f.addTeam(words.at(2)));
+            const qint64 team = teams.value(words.at(2));
+            f.addSeasonRow(reports::seasonTable(kind), f.addPlayer(team, words.at(0), words.at(1)), team,
+                           figures(words.mid(3).join(u' ')));
+        }
+        SeasonReport report(kind, c.value(QStringLiteral("headers")).split(u','));
         QVERIFY(report.load(*f.db));
-        const QList<QStringList> rows = report.rows({});
-        QCOMPARE(rows.size(), 1);
-        QFETCH(QStringList, shown);
-        QCOMPARE(rows.first(), shown);
+        QStringList shown{report.curHeaders().join(u',')};
+        for (const QStringList &row : report.rows({}))
+            shown.append(row.join(u','));
+        TL_COMPARE_CASE(c, shown.join(u'\n').toUtf8() + '\n');
     }
 
     // Filters combine by AND. The team is the one of the player's latest

@@ -1,9 +1,10 @@
-// The standings window: percentage, games back and order worked out by
-// hand, the league and division views, and the coach's own entries with
+// The standings window: percentage, games back, order and the league and
+// division views worked out by hand (the cases under tests/data/standings), and the coach's own entries with
 // their keys, the home team's refusal and saving.
 
 #include "ReportsFixture.h"
 #include "app/ui/MainMenuBar.h"
+#include "fakes/Golden.h"
 #include "fakes/TestKit.h"
 #include "reports/ui/qlmListBox.h"
 #include "reports/ui/standingsScrn.h"
@@ -37,19 +38,34 @@ QStringList storedRecords()
     return out;
 }
 
+QStringList shownRows(const QWidget *screen)
+{
+    return shownRows(testkit::child<qlmListBox>(screen, "myLB"));
+}
+
 QPoint cellCenter(qlmListBox *list, int row, int column)
 {
     return list->visualRect(list->model()->index(row, column)).center();
 }
 
-std::unique_ptr<standingsScrn> openStandings()
+// The standings open and active, with the list and the edit button at hand.
+struct Opened
 {
-    auto screen = std::make_unique<standingsScrn>();
-    screen->show();
-    screen->activateWindow();
-    if (!QTest::qWaitForWindowActive(screen.get()))
-        return nullptr;
-    return screen;
+    std::unique_ptr<standingsScrn> screen;
+    qlmListBox *list = nullptr;
+    QPushButton *editWLBtn = nullptr;
+};
+
+Opened openStandings()
+{
+    Opened opened{std::make_unique<standingsScrn>()};
+    opened.screen->show();
+    opened.screen->activateWindow();
+    if (!QTest::qWaitForWindowActive(opened.screen.get()))
+        return {};
+    opened.list = testkit::child<qlmListBox>(opened.screen.get(), "myLB");
+    opened.editWLBtn = testkit::child<QPushButton>(opened.screen.get(), "editWLBtn");
+    return opened;
 }
 
 } // namespace
@@ -63,71 +79,38 @@ private Q_SLOTS:
     // before the next one starts.
     void cleanup() { testkit::closeAllWindows(); }
 
-    void percentageAndGamesBack_data()
+    // The cases of tests/data/standings: the teams ("team: Name,League,
+    // Division,W-L-T", the record left out for a team with none) and the
+    // home team; below the line, the warning when shown, then every view
+    // the popup offers with its rows.
+    void views_data() { testkit::addGoldenCases({"standings"}); }
+    void views()
     {
-        QTest::addColumn<QStringList>("records"); // "Team W L T", or "Team" with none
-        QTest::addColumn<QStringList>("shown");   // Team W L Tie Pct GB, in list order
-        QTest::newRow("a tie is half a win") << QStringList{"Ants 2 1 1"} << QStringList{"Ants 2 1 1 .625 0.0"};
-        QTest::newRow("leader 10-2, other 8-4")
-            << QStringList{"Ants 8 4 0", "Bees 10 2 0"} << QStringList{"Bees 10 2 0 .833 0.0", "Ants 8 4 0 .667 2.0"};
-        QTest::newRow("a tie is no loss in games back")
-            << QStringList{"Ants 5 1 0", "Bees 6 0 2"} << QStringList{"Bees 6 0 2 .875 0.0", "Ants 5 1 0 .833 1.5"};
-        // 0-0-0 shows .000 and sorts with the teams that have no record.
-        QTest::newRow("no games played") << QStringList{"Ants 0 0 0", "Bees", "Cats 1 1 0"}
-                                         << QStringList{"Cats 1 1 0 .500 0.0", "Ants 0 0 0 .000 0.0", "Bees .000 0.0"};
-    }
-    void percentageAndGamesBack()
-    {
-        QFETCH(QStringList, records);
-        QFETCH(QStringList, shown);
+        TL_FETCH_CASE(c);
         ReportsFixture f;
-        for (const QString &record : records) {
-            const QStringList parts = record.split(u' ');
-            const qint64 team = f.addTeam(parts.at(0));
-            if (parts.size() == 4)
-                f.addRecord(team, parts.at(1).toInt(), parts.at(2).toInt(), parts.at(3).toInt());
+        for (const QString &team : c.values(QStringLiteral("team"))) {
+            const QStringList parts = team.split(u',');
+            QCOMPARE(parts.size(), 4);
+            const qint64 id = f.addTeam(parts.at(0), parts.at(1), parts.at(2));
+            const QStringList record = parts.at(3).split(u'-');
+            if (record.size() == 3)
+                f.addRecord(id, record.at(0).toInt(), record.at(1).toInt(), record.at(2).toInt());
+            if (parts.at(0) == c.value(QStringLiteral("home")))
+                f.prefs->prHomeTeam = QString::number(id);
         }
-        auto screen = openStandings();
+        auto screen = openStandings().screen;
         QVERIFY(screen);
-        QCOMPARE(shownRows(screen->myLB), shown);
-        QVERIFY(!screen->noGamesWarning->isVisible());
-    }
-
-    void noRecordsAndViews()
-    {
-        ReportsFixture f;
-        const qint64 home = f.addTeam("Hawks", "North", "East");
-        f.addTeam("Owls", "North", "West");
-        f.addTeam("Elks", "South", "East");
-        f.addTeam("Ants", "North", "East");
-        f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
-        QVERIFY(screen);
-        QVERIFY(screen->noGamesWarning->isVisible());
-        QCOMPARE(shownRows(screen->myLB),
-                 (QStringList{"Hawks .000 0.0", "Owls .000 0.0", "Elks .000 0.0", "Ants .000 0.0"}));
-        QCOMPARE(screen->standSelPop->count(), 3);
-        screen->standSelPop->setCurrentIndex(screen->standSelPop->findText("North League"));
-        QCOMPARE(screen->myLB->rowCount(), 3);
-        // The Elks share the division's name in another league.
-        screen->standSelPop->setCurrentIndex(screen->standSelPop->findText("East Division"));
-        QCOMPARE(shownRows(screen->myLB), (QStringList{"Hawks .000 0.0", "Ants .000 0.0"}));
-    }
-
-    // A home team with a division and no league: the entry says what it shows.
-    void divisionWithoutLeague()
-    {
-        ReportsFixture f;
-        const qint64 home = f.addTeam("Hawks", "", "East");
-        f.addTeam("Owls", "", "West");
-        f.addTeam("Elks", "South", "East");
-        f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
-        QVERIFY(screen);
-        QCOMPARE(screen->standSelPop->count(), 2);
-        screen->standSelPop->setCurrentIndex(1);
-        QCOMPARE(screen->standSelPop->currentText(), QStringLiteral("East Division"));
-        QCOMPARE(shownRows(screen->myLB), (QStringList{"Hawks .000 0.0"}));
+        auto *views = testkit::child<QComboBox>(screen.get(), "standSelPop");
+        auto *warning = testkit::child<QLabel>(screen.get(), "noGamesWarning");
+        QStringList shown;
+        if (warning->isVisible())
+            shown.append(QStringLiteral("warning: ") + warning->text());
+        for (int i = 0; i < views->count(); ++i) {
+            views->setCurrentIndex(i);
+            shown.append(u'[' + views->currentText() + u']');
+            shown.append(shownRows(screen.get()));
+        }
+        TL_COMPARE_CASE(c, shown.join(u'\n').toUtf8() + '\n');
     }
 
     void unreadableSeasonShowsErrorRow()
@@ -135,9 +118,9 @@ private Q_SLOTS:
         ReportsFixture f;
         f.addTeam("Hawks");
         QVERIFY(f.db->exec(QStringLiteral("DROP TABLE GameResultsByTeam")));
-        auto screen = openStandings();
+        auto screen = openStandings().screen;
         QVERIFY(screen);
-        QCOMPARE(shownRows(screen->myLB), QStringList{"There was an error"});
+        QCOMPARE(shownRows(screen.get()), QStringList{"There was an error"});
     }
 
     // The coach types the other teams' records: clicks, keys, the home
@@ -150,9 +133,8 @@ private Q_SLOTS:
         f.addTeam("Elks");
         f.addRecord(home, 3, 1, 0);
         f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
+        auto [screen, list, editWLBtn] = openStandings();
         QVERIFY(screen);
-        qlmListBox *list = screen->myLB;
         QCOMPARE(shownRows(list), (QStringList{"Hawks 3 1 0 .750 0.0", "Owls .000 1.0", "Elks .000 1.0"}));
 
         // Without the edit button down a click selects nothing and edits nothing.
@@ -160,8 +142,8 @@ private Q_SLOTS:
         QCOMPARE(list->selectedRow(), -1);
         QVERIFY(!list->isEditingCell());
 
-        QTest::mouseClick(screen->editWLBtn, Qt::LeftButton);
-        QVERIFY(screen->allowEdits);
+        QTest::mouseClick(editWLBtn, Qt::LeftButton);
+        QVERIFY(editWLBtn->isChecked());
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cellCenter(list, 0, 2));
         QCOMPARE(f.platform.messages.texts(), QStringList{"You cannot enter a record for the home team."});
         QVERIFY(!list->isEditingCell());
@@ -193,8 +175,8 @@ private Q_SLOTS:
         QCOMPARE(list->cell(2, 1), QStringLiteral("7"));
 
         // Order and percentages are redone when the button comes up.
-        QTest::mouseClick(screen->editWLBtn, Qt::LeftButton);
-        QVERIFY(!screen->allowEdits);
+        QTest::mouseClick(editWLBtn, Qt::LeftButton);
+        QVERIFY(!editWLBtn->isChecked());
         QCOMPARE(storedRecords(), (QStringList{"Elks 7-0-0", "Hawks 3-1-0", "Owls 5-2-0"}));
         QCOMPARE(shownRows(list), (QStringList{"Elks 7 0 0 1.000 0.0", "Hawks 3 1 0 .750 2.5", "Owls 5 2 0 .714 2.0"}));
     }
@@ -207,16 +189,16 @@ private Q_SLOTS:
         const qint64 home = f.addTeam("Hawks", "North", "East");
         f.addTeam("Owls", "North", "East");
         f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
+        auto [screen, list, editWLBtn] = openStandings();
         QVERIFY(screen);
-        qlmListBox *list = screen->myLB;
-        QTest::mouseClick(screen->editWLBtn, Qt::LeftButton);
+        QTest::mouseClick(editWLBtn, Qt::LeftButton);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cellCenter(list, 1, 1));
         QVERIFY(list->isEditingCell());
         QTest::keyClicks(QApplication::focusWidget(), "6");
-        screen->standSelPop->setCurrentIndex(screen->standSelPop->findText("North League"));
+        testkit::child<QComboBox>(screen.get(), "standSelPop")
+            ->setCurrentIndex(testkit::child<QComboBox>(screen.get(), "standSelPop")->findText("North League"));
         QCOMPARE(shownRows(list), (QStringList{"Owls 6 0 0 1.000 0.0", "Hawks 0 0 0 .000 3.0"}));
-        QTest::mouseClick(screen->editWLBtn, Qt::LeftButton);
+        QTest::mouseClick(editWLBtn, Qt::LeftButton);
         QCOMPARE(storedRecords(), (QStringList{"Hawks 0-0-0", "Owls 6-0-0"}));
     }
 
@@ -231,10 +213,9 @@ private Q_SLOTS:
         f.addRecord(home, 2, 0, 0);
         f.addRecord(elks, 1, 0, 0);
         f.prefs->prHomeTeam = QString::number(home);
-        auto screen = openStandings();
+        auto [screen, list, editWLBtn] = openStandings();
         QVERIFY(screen);
-        qlmListBox *list = screen->myLB;
-        QTest::mouseClick(screen->editWLBtn, Qt::LeftButton);
+        QTest::mouseClick(editWLBtn, Qt::LeftButton);
         list->setFocus();
         list->setSelectedRow(0);
         QTest::keyClick(list, Qt::Key_Return); // opens Owls' W

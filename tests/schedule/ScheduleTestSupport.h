@@ -7,6 +7,8 @@
 #include "fakes/TestKit.h"
 #include "schedule/eventClass.h"
 
+#include <QPushButton>
+
 namespace scheduletest {
 
 struct Season : testkit::Season
@@ -31,6 +33,12 @@ inline eventClass makeEvent(const QString &type, const QDate &date, const QStrin
     e.location = QStringLiteral("Riverside");
     e.isHome = home;
     return e;
+}
+
+// The date picker's day button of `slot` (0 .. 36, Sunday first).
+inline QPushButton *daySlot(const QWidget *picker, int slot)
+{
+    return testkit::child<QPushButton>(picker, QByteArray("BevelButton1_" + QByteArray::number(slot)).constData());
 }
 
 } // namespace scheduletest

@@ -50,7 +50,7 @@ eventsCalendarScrn *openScreen()
 {
     auto *screen = new eventsCalendarScrn;
     // Cells of 100 by 70, as the calendar lays them out by default.
-    screen->eventCalendar1->setFixedSize(701, 476);
+    testkit::child<monthlyEventsLayer>(screen, "eventCalendar1")->setFixedSize(701, 476);
     screen->show();
     return screen;
 }
@@ -141,7 +141,7 @@ private Q_SLOTS:
         auto *screen = openCalendar();
         QVERIFY(screen);
         // No events: today's month, nothing painted.
-        const MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
+        const MonthEventsCalendar &calendar = testkit::child<monthlyEventsLayer>(screen, "eventCalendar1")->calendar();
         QCOMPARE(calendar.title(), QStringLiteral("April 2026"));
         QVERIFY(calendar.displayData().isEmpty());
         screen->close();
@@ -149,8 +149,8 @@ private Q_SLOTS:
 
         auto *schedule = new scheduleScrn;
         schedule->show();
-        QVERIFY(schedule->viewCalendarBtn->isEnabled());
-        QTest::mouseClick(schedule->viewCalendarBtn, Qt::LeftButton);
+        QVERIFY(testkit::child<QPushButton>(schedule, "viewCalendarBtn")->isEnabled());
+        QTest::mouseClick(testkit::child<QPushButton>(schedule, "viewCalendarBtn"), Qt::LeftButton);
         QVERIFY(openCalendar());
         screens::unregisterScreen(ScreenId::eventsCalendarScrn);
     }
@@ -232,7 +232,7 @@ private Q_SLOTS:
         Season season;
         fillApril();
         QPointer<eventsCalendarScrn> screen = openScreen();
-        monthlyEventsLayer *view = screen->eventCalendar1;
+        monthlyEventsLayer *view = testkit::child<monthlyEventsLayer>(screen, "eventCalendar1");
         MonthEventsCalendar &calendar = view->calendar();
         std::unique_ptr<QStringList> got(listen(calendar));
         view->setFocus();
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(bool(screen), !title.isEmpty());
         if (screen) {
             QCOMPARE(calendar.title(), title);
-            QCOMPARE(screen->infoLabel->text(), info);
+            QCOMPARE(testkit::child<QLabel>(screen, "infoLabel")->text(), info);
         }
     }
 
@@ -307,7 +307,7 @@ private Q_SLOTS:
         Season season;
         fillApril();
         auto *screen = openScreen();
-        const MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
+        const MonthEventsCalendar &calendar = testkit::child<monthlyEventsLayer>(screen, "eventCalendar1")->calendar();
         QCOMPARE(calendar.eventData().size(), 7);
         addEvent("Game", QDate(2026, 4, 22), "5:00 PM", "Owls", "Riverside");
         QCOMPARE(calendar.eventData().size(), 8);
@@ -320,14 +320,14 @@ private Q_SLOTS:
     {
         Season season;
         auto *screen = openScreen();
-        MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
+        MonthEventsCalendar &calendar = testkit::child<monthlyEventsLayer>(screen, "eventCalendar1")->calendar();
         calendar.ShowDate(QDate(2026, 1, 31));
-        QTest::mouseClick(screen->prevBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "prevBtn"), Qt::LeftButton);
         QCOMPARE(calendar.title(), QStringLiteral("December 2025"));
-        QTest::mouseClick(screen->nextBtn, Qt::LeftButton);
-        QTest::mouseClick(screen->nextBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "nextBtn"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "nextBtn"), Qt::LeftButton);
         QCOMPARE(calendar.dateSelected(), QDate(2026, 2, 28));
-        QTest::keyClick(screen->eventCalendar1, Qt::Key_PageUp);
+        QTest::keyClick(testkit::child<monthlyEventsLayer>(screen, "eventCalendar1"), Qt::Key_PageUp);
         QCOMPARE(calendar.title(), QStringLiteral("January 2026"));
     }
 
@@ -337,11 +337,12 @@ private Q_SLOTS:
         QTemporaryDir out;
         fillApril();
         auto *screen = openScreen();
-        MonthEventsCalendar &calendar = screen->eventCalendar1->calendar();
-        QTest::mouseClick(screen->eventCalendar1, Qt::LeftButton, {}, pointOf(calendar, "bar15.1"));
+        MonthEventsCalendar &calendar = testkit::child<monthlyEventsLayer>(screen, "eventCalendar1")->calendar();
+        QTest::mouseClick(testkit::child<monthlyEventsLayer>(screen, "eventCalendar1"), Qt::LeftButton, {},
+                          pointOf(calendar, "bar15.1"));
         season.fake.printing.directory = out.path();
         season.fake.printing.copies = 2;
-        QTest::mouseClick(screen->printBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "printBtn"), Qt::LeftButton);
         QCOMPARE(season.fake.printing.printed.size(), 1);
         const QString pdf = season.fake.printing.printed.first();
         QCOMPARE(fakes::pdfPageCount(pdf), 2);

@@ -6,6 +6,7 @@
 #include "ScheduleTestSupport.h"
 #include "app/myPrefs.h"
 #include "app/ui/ScreenDirectory.h"
+#include "fakes/TestKit.h"
 #include "people/ui/emailRecipientsDlog.h"
 #include "reports/ui/qlmListBox.h"
 #include "schedule/ui/practicePlanScrn.h"
@@ -71,23 +72,23 @@ QByteArray bytesOf(const QString &path)
 void saveAs(practicePlanScrn *screen, const QString &name)
 {
     whenShown<getInfoScrn_small>([name](getInfoScrn_small *ask) {
-        ask->dataFld->setText(name);
-        QTest::mouseClick(ask->saveBtn, Qt::LeftButton);
+        testkit::child<QLineEdit>(ask, "dataFld")->setText(name);
+        QTest::mouseClick(testkit::child<QPushButton>(ask, "saveBtn"), Qt::LeftButton);
     });
-    QTest::mouseClick(screen->saveBtn, Qt::LeftButton);
+    QTest::mouseClick(testkit::child<QPushButton>(screen, "saveBtn"), Qt::LeftButton);
 }
 
 void enterDrill(practicePlanScrn *screen, const QStringList &texts, bool byEnterKey)
 {
-    screen->drillBox->setEditText(texts.value(0));
-    screen->startBox->setEditText(texts.value(1));
-    screen->endBox->setEditText(texts.value(2));
-    screen->coachBox->setEditText(texts.value(3));
+    testkit::child<QComboBox>(screen, "drillBox")->setEditText(texts.value(0));
+    testkit::child<QComboBox>(screen, "startBox")->setEditText(texts.value(1));
+    testkit::child<QComboBox>(screen, "endBox")->setEditText(texts.value(2));
+    testkit::child<QComboBox>(screen, "coachBox")->setEditText(texts.value(3));
     if (byEnterKey) {
-        screen->coachBox->setFocus();
-        QTest::keyClick(screen->coachBox, Qt::Key_Return);
+        testkit::child<QComboBox>(screen, "coachBox")->setFocus();
+        QTest::keyClick(testkit::child<QComboBox>(screen, "coachBox"), Qt::Key_Return);
     } else {
-        QTest::mouseClick(screen->addBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "addBtn"), Qt::LeftButton);
     }
 }
 
@@ -116,24 +117,25 @@ private Q_SLOTS:
         // From the schedule: the selected practice's button opens its plan.
         auto *schedule = new scheduleScrn;
         schedule->show();
-        schedule->ScheduleListbox->setSelectedRow(0);
-        QCOMPARE(schedule->enterDataBtn->text(), QStringLiteral("Practice Plan"));
-        QVERIFY(schedule->enterDataBtn->isEnabled());
-        QTest::mouseClick(schedule->enterDataBtn, Qt::LeftButton);
+        testkit::child<qlmListBox>(schedule, "ScheduleListbox")->setSelectedRow(0);
+        QCOMPARE(testkit::child<QPushButton>(schedule, "enterDataBtn")->text(), QStringLiteral("Practice Plan"));
+        QVERIFY(testkit::child<QPushButton>(schedule, "enterDataBtn")->isEnabled());
+        QTest::mouseClick(testkit::child<QPushButton>(schedule, "enterDataBtn"), Qt::LeftButton);
         practicePlanScrn *screen = nullptr;
         for (QWidget *w : QApplication::topLevelWidgets())
             screen = screen ? screen : qobject_cast<practicePlanScrn *>(w);
         QVERIFY(screen);
         QCOMPARE(screen->mySchedID(), QString::number(tuesday));
-        QVERIFY(screen->practLocLabel->text() == QStringLiteral("Practice Location: O'Malley's Field"));
-        QVERIFY(screen->practDateLabel->text().startsWith(QStringLiteral("Practice Date: ")));
+        QVERIFY(testkit::child<QLabel>(screen, "practLocLabel")->text() ==
+                QStringLiteral("Practice Location: O'Malley's Field"));
+        QVERIFY(testkit::child<QLabel>(screen, "practDateLabel")->text().startsWith(QStringLiteral("Practice Date: ")));
 
         // An activity offers its drills; the time blocks run 7:00 AM to 10:45 PM.
-        screen->activityBox->setCurrentIndex(3);
-        QCOMPARE(screen->drillBox->count(), schedule::PracticePlan::drillsFor(3).size());
-        QCOMPARE(screen->startBox->count(), 64);
-        QCOMPARE(screen->startBox->itemText(20), QStringLiteral("12:00 PM"));
-        QCOMPARE(screen->endBox->itemText(63), QStringLiteral("10:45 PM"));
+        testkit::child<QComboBox>(screen, "activityBox")->setCurrentIndex(3);
+        QCOMPARE(testkit::child<QComboBox>(screen, "drillBox")->count(), schedule::PracticePlan::drillsFor(3).size());
+        QCOMPARE(testkit::child<QComboBox>(screen, "startBox")->count(), 64);
+        QCOMPARE(testkit::child<QComboBox>(screen, "startBox")->itemText(20), QStringLiteral("12:00 PM"));
+        QCOMPARE(testkit::child<QComboBox>(screen, "endBox")->itemText(63), QStringLiteral("10:45 PM"));
 
         const QList<QStringList> typed{
             {QStringLiteral("Long Toss"), QStringLiteral("3:00 PM"), QString(), QString()},
@@ -143,12 +145,12 @@ private Q_SLOTS:
         };
         for (int i = 0; i < typed.size(); ++i)
             enterDrill(screen, typed.at(i), i % 2 == 1);
-        QVERIFY(screen->drillBox->currentText().isEmpty());
-        QVERIFY(screen->coachBox->currentText().isEmpty());
+        QVERIFY(testkit::child<QComboBox>(screen, "drillBox")->currentText().isEmpty());
+        QVERIFY(testkit::child<QComboBox>(screen, "coachBox")->currentText().isEmpty());
         enterDrill(screen, {QStringLiteral("   "), QStringLiteral("4:00 PM")}, false);
         QCOMPARE(season.fake.messages.texts(), QStringList{QStringLiteral("Please enter a drill.")});
         QCOMPARE(season.fake.beeper.beeps, 1);
-        QCOMPARE(rowsOf(screen->drillList), typed);
+        QCOMPARE(rowsOf(testkit::child<qlmListBox>(screen, "drillList")), typed);
         QCOMPARE(drillsIn(tuesday), 4);
 
         saveAs(screen, QStringLiteral("Tuesday's plan"));
@@ -161,25 +163,25 @@ private Q_SLOTS:
         // Recalled into Friday's practice, and saved again.
         auto *other = openPlan(friday);
         season.fake.files.answers.enqueue(planPath(QStringLiteral("Tuesday's plan")));
-        QTest::mouseClick(other->recallBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(other, "recallBtn"), Qt::LeftButton);
         QCOMPARE(season.fake.files.calls.last().request.title, QStringLiteral("Select a Practice Plan file"));
-        QCOMPARE(rowsOf(other->drillList), typed);
+        QCOMPARE(rowsOf(testkit::child<qlmListBox>(other, "drillList")), typed);
         QCOMPARE(drillsIn(friday), 4);
         saveAs(other, QStringLiteral("copy"));
         QCOMPARE(bytesOf(planPath(QStringLiteral("copy"))), expected);
 
         // A recalled row deletes from the file too; saving under a name in
         // use replaces the file.
-        other->drillList->setSelectedRow(1);
+        testkit::child<qlmListBox>(other, "drillList")->setSelectedRow(1);
         season.fake.messages.answers.enqueue(platform::MsgCancel);
-        QTest::mouseClick(other->deleteBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(other, "deleteBtn"), Qt::LeftButton);
         QCOMPARE(drillsIn(friday), 4);
         season.fake.messages.answers.enqueue(platform::MsgAction);
-        QTest::mouseClick(other->deleteBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(other, "deleteBtn"), Qt::LeftButton);
         QCOMPARE(season.fake.messages.shown.last().message,
                  QStringLiteral("Delete the drill \"Bunting & base-running #2\"?"));
         QCOMPARE(drillsIn(friday), 3);
-        QCOMPARE(other->drillList->selectedRow(), -1);
+        QCOMPARE(testkit::child<qlmListBox>(other, "drillList")->selectedRow(), -1);
         saveAs(other, QStringLiteral("copy"));
         QCOMPARE(bytesOf(planPath(QStringLiteral("copy"))),
                  QByteArray("Long Toss\t3:00 PM\nFungo\t3:15 PM\t3:05 PM\nCool down\n"));
@@ -204,9 +206,10 @@ private Q_SLOTS:
         const qint64 id = practice(QStringLiteral("2026-04-14"), QStringLiteral("Riverside"));
         auto *screen = openPlan(id);
         // Typed (or pasted) as one edit of the drill box.
-        screen->drillBox->lineEdit()->setFocus();
-        screen->drillBox->lineEdit()->insert(typed);
-        enterDrill(screen, {screen->drillBox->currentText(), QStringLiteral("3:00 PM\t")}, false);
+        testkit::child<QComboBox>(screen, "drillBox")->lineEdit()->setFocus();
+        testkit::child<QComboBox>(screen, "drillBox")->lineEdit()->insert(typed);
+        enterDrill(screen, {testkit::child<QComboBox>(screen, "drillBox")->currentText(), QStringLiteral("3:00 PM\t")},
+                   false);
         QCOMPARE(gData->scalar(QStringLiteral("SELECT drill || '|' || start FROM Drills")).toString(),
                  stored + QStringLiteral("|3:00 PM "));
         saveAs(screen, QStringLiteral("plan"));
@@ -231,7 +234,7 @@ private Q_SLOTS:
                 out.append(r.text(QStringLiteral("drill")));
             return out;
         };
-        qlmListBox *list = screen->drillList;
+        qlmListBox *list = testkit::child<qlmListBox>(screen, "drillList");
         list->editCell(1, 0);
         list->setEditorText(QStringLiteral("Fungo\tflies"));
         list->setCurrentIndex({});
@@ -242,25 +245,25 @@ private Q_SLOTS:
         list->setSelectedRow(0);
         QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
         QCOMPARE(stored(), (QStringList{"Fungo flies", "Laps", "Bunts"}));
-        QTest::mouseClick(screen->moveDownBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "moveDownBtn"), Qt::LeftButton);
         QCOMPARE(stored(), (QStringList{"Fungo flies", "Bunts", "Laps"}));
-        QVERIFY(!screen->moveDownBtn->isEnabled());
-        QTest::mouseClick(screen->moveUpBtn, Qt::LeftButton);
+        QVERIFY(!testkit::child<QPushButton>(screen, "moveDownBtn")->isEnabled());
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "moveUpBtn"), Qt::LeftButton);
         QCOMPARE(stored(), (QStringList{"Fungo flies", "Laps", "Bunts"}));
 
         saveAs(screen, QStringLiteral("plan"));
         season.fake.files.answers.enqueue(planPath(QStringLiteral("plan")));
         season.fake.messages.answers.enqueue(platform::MsgAlternate); // add
-        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "recallBtn"), Qt::LeftButton);
         QCOMPARE(drillsIn(id), 6);
         season.fake.files.answers.enqueue(planPath(QStringLiteral("plan")));
         season.fake.messages.answers.enqueue(platform::MsgAction); // replace
-        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "recallBtn"), Qt::LeftButton);
         QCOMPARE(stored(), (QStringList{"Fungo flies", "Laps", "Bunts"}));
         QCOMPARE(rowsOf(list).size(), 3);
         season.fake.files.answers.enqueue(planPath(QStringLiteral("plan")));
         season.fake.messages.answers.enqueue(platform::MsgCancel);
-        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "recallBtn"), Qt::LeftButton);
         QCOMPARE(drillsIn(id), 3);
         QCOMPARE(season.fake.messages.texts(), QStringList(3, QStringLiteral("This practice already has drills.")));
     }
@@ -296,8 +299,8 @@ private Q_SLOTS:
 
         auto *screen = openPlan(id);
         season.fake.files.answers.enqueue(path);
-        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
-        QCOMPARE(screen->drillList->rowCount(), recalled);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "recallBtn"), Qt::LeftButton);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "drillList")->rowCount(), recalled);
         QCOMPARE(drillsIn(id), recalled);
         if (explanation.isEmpty()) {
             QVERIFY(season.fake.messages.shown.isEmpty());
@@ -315,8 +318,8 @@ private Q_SLOTS:
         Season season;
         auto *screen = openPlan(practice(QStringLiteral("2026-04-14"), QStringLiteral("Riverside")));
         gPrefs->strdDataLoc = QDir(season.folder()).filePath(QStringLiteral("gone/QLM/TLYN2"));
-        QTest::mouseClick(screen->saveBtn, Qt::LeftButton);
-        QTest::mouseClick(screen->recallBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "saveBtn"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "recallBtn"), Qt::LeftButton);
         QCOMPARE(season.fake.messages.texts(),
                  QStringList(2, QStringLiteral("There was an error finding the correct location.")));
         QVERIFY(season.fake.files.calls.isEmpty());
@@ -346,26 +349,29 @@ private Q_SLOTS:
         // Tab from the coach goes back to the drill, ready for the next one.
         screen->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(screen));
-        screen->coachBox->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(screen->coachBox, Qt::Key_Tab);
-        QVERIFY(screen->drillBox->hasFocus());
+        testkit::child<QComboBox>(screen, "coachBox")->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(testkit::child<QComboBox>(screen, "coachBox"), Qt::Key_Tab);
+        QVERIFY(testkit::child<QComboBox>(screen, "drillBox")->hasFocus());
 
         // Nobody checked: nothing opens.
-        whenShown<emailRecipientsDlog>([](emailRecipientsDlog *d) { QTest::mouseClick(d->setBtn, Qt::LeftButton); });
-        QTest::mouseClick(screen->emailBtn, Qt::LeftButton);
+        whenShown<emailRecipientsDlog>([](emailRecipientsDlog *d) {
+            QTest::mouseClick(testkit::child<QPushButton>(d, "setBtn"), Qt::LeftButton);
+        });
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "emailBtn"), Qt::LeftButton);
         QVERIFY(season.fake.urls.opened.isEmpty());
 
         whenShown<emailRecipientsDlog>([](emailRecipientsDlog *d) {
-            QCOMPARE(d->selectTeamPop->currentText(), QStringLiteral("O'Brien's Nine"));
-            QTest::mouseClick(d->playerSelAllCheck, Qt::LeftButton);
-            QCOMPARE(d->playersList->rowCount(), 3);
+            QCOMPARE(testkit::child<QComboBox>(d, "selectTeamPop")->currentText(), QStringLiteral("O'Brien's Nine"));
+            QTest::mouseClick(testkit::child<qlmCheckBox>(d, "playerSelAllCheck"), Qt::LeftButton);
+            QCOMPARE(testkit::child<qlmListBox>(d, "playersList")->rowCount(), 3);
             // A check box of the list ticks from the keyboard.
-            d->coachesList->setCurrentIndex(d->coachesList->model()->index(0, 0));
-            QTest::keyClick(d->coachesList, Qt::Key_Space);
-            QVERIFY(d->coachesList->cellCheck(0, 0));
-            QTest::mouseClick(d->setBtn, Qt::LeftButton);
+            testkit::child<qlmListBox>(d, "coachesList")
+                ->setCurrentIndex(testkit::child<qlmListBox>(d, "coachesList")->model()->index(0, 0));
+            QTest::keyClick(testkit::child<qlmListBox>(d, "coachesList"), Qt::Key_Space);
+            QVERIFY(testkit::child<qlmListBox>(d, "coachesList")->cellCheck(0, 0));
+            QTest::mouseClick(testkit::child<QPushButton>(d, "setBtn"), Qt::LeftButton);
         });
-        QTest::mouseClick(screen->emailBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "emailBtn"), Qt::LeftButton);
         QCOMPARE(season.fake.urls.opened.size(), 1);
         const QUrl url = season.fake.urls.opened.first();
         QStringList to;
@@ -376,7 +382,8 @@ private Q_SLOTS:
         const QUrlQuery query(url);
         QCOMPARE(query.queryItems(QUrl::FullyDecoded).size(), 2);
         QCOMPARE(query.queryItemValue(QStringLiteral("subject"), QUrl::FullyDecoded), QStringLiteral("Practice Plans"));
-        const QString heading = screen->practDateLabel->text() + QStringLiteral("\r\n") + screen->practLocLabel->text();
+        const QString heading = testkit::child<QLabel>(screen, "practDateLabel")->text() + QStringLiteral("\r\n") +
+                                testkit::child<QLabel>(screen, "practLocLabel")->text();
         QCOMPARE(query.queryItemValue(QStringLiteral("body"), QUrl::FullyDecoded),
                  heading + QStringLiteral("\r\n") + heading +
                      QStringLiteral("Hit & run?\t3:00 PM\t\tDee 100%\r\nLaps\t\t\t"));

@@ -30,6 +30,8 @@ using scheduletest::makeEvent;
 using scheduletest::Season;
 using scheduletest::whenShown;
 
+using scheduletest::daySlot;
+
 namespace {
 
 struct Composed
@@ -48,16 +50,17 @@ void compose(QAbstractButton *button, const Composed &c)
     whenShown<newEventScrn>([c](newEventScrn *editor) {
         whenShown<Calendar>([c](Calendar *picker) {
             picker->setStartDate(c.date);
-            QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(c.date).slotOfDay(c.date.day())), Qt::LeftButton);
+            QTest::mouseClick(daySlot(picker, CalendarMonth(c.date).slotOfDay(c.date.day())), Qt::LeftButton);
         });
-        QTest::mouseClick(editor->calCnv, Qt::LeftButton);
-        editor->eventTypeBox->setEditText(c.type);
+        QTest::mouseClick(testkit::child<QToolButton>(editor, "calCnv"), Qt::LeftButton);
+        testkit::child<QComboBox>(editor, "eventTypeBox")->setEditText(c.type);
         if (!c.opponent.isEmpty())
-            editor->opponentBox->setCurrentIndex(editor->opponentBox->findText(c.opponent));
-        editor->locationBox->setEditText(c.location);
-        editor->gameHour->setEditText(c.startHour);
-        editor->busMinute->setEditText(c.busMinute);
-        QTest::mouseClick(editor->actionBtn, Qt::LeftButton);
+            testkit::child<QComboBox>(editor, "opponentBox")
+                ->setCurrentIndex(testkit::child<QComboBox>(editor, "opponentBox")->findText(c.opponent));
+        testkit::child<QComboBox>(editor, "locationBox")->setEditText(c.location);
+        testkit::child<QComboBox>(editor, "gameHour")->setEditText(c.startHour);
+        testkit::child<QComboBox>(editor, "busMinute")->setEditText(c.busMinute);
+        QTest::mouseClick(testkit::child<QPushButton>(editor, "actionBtn"), Qt::LeftButton);
     });
     QTest::mouseClick(button, Qt::LeftButton);
 }
@@ -125,10 +128,11 @@ private Q_SLOTS:
         QVERIFY(screen && screen->isVisible());
         QTest::qWait(1);
         QVERIFY(season.fake.messages.shown.isEmpty()); // a home team is set
-        QCOMPARE(screen->homeTeamFld->text(), QStringLiteral("O'Brien's Nine"));
-        QCOMPARE(screen->ScheduleListbox->headings(),
+        QCOMPARE(testkit::child<QLineEdit>(screen, "homeTeamFld")->text(), QStringLiteral("O'Brien's Nine"));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "ScheduleListbox")->headings(),
                  (QStringList{"Date", "Bus Departs", "Start Time", "Event", "Opponent", "Location", "H"}));
-        QVERIFY(!screen->viewCalendarBtn->isEnabled()); // the events calendar isn't there yet
+        QVERIFY(!testkit::child<QPushButton>(screen, "viewCalendarBtn")
+                     ->isEnabled()); // the events calendar isn't there yet
         QVERIFY(screen->menuBar()->item(QStringLiteral("FilePrint"))->isEnabled());
         QVERIFY(screen->menuBar()->item(QStringLiteral("FileExport"))->isEnabled());
 
@@ -165,7 +169,7 @@ private Q_SLOTS:
                      QStringList{"Before scheduling, you must create at least 1 team and designate it as 'Home Team'"});
         QCOMPARE(season.fake.messages.shown.first().explanation, QStringLiteral("Close this screen to proceed."));
         QCOMPARE(season.fake.messages.shown.first().actionCaption, QStringLiteral("OK"));
-        QCOMPARE(screen->homeTeamFld->text(), QString());
+        QCOMPARE(testkit::child<QLineEdit>(screen, "homeTeamFld")->text(), QString());
     }
 
     // A new event takes its place by date; the coach's own order of the
@@ -175,33 +179,37 @@ private Q_SLOTS:
         Season season;
         auto *screen = new scheduleScrn;
         screen->show();
-        qlmListBox *list = screen->ScheduleListbox;
+        qlmListBox *list = testkit::child<qlmListBox>(screen, "ScheduleListbox");
         const auto days = [](const qlmListBox *l) {
             QStringList out;
             for (int r = 0; r < l->rowCount(); ++r)
                 out.append(l->cell(r, 0));
             return out;
         };
-        compose(screen->newEventBtn, {QDate(2026, 4, 28), "Game", "Bears", "Riverside", "7", ""});
-        compose(screen->newEventBtn, {QDate(2026, 4, 20), "Meeting", "", "Library", "6", ""});
+        compose(testkit::child<QPushButton>(screen, "newEventBtn"),
+                {QDate(2026, 4, 28), "Game", "Bears", "Riverside", "7", ""});
+        compose(testkit::child<QPushButton>(screen, "newEventBtn"),
+                {QDate(2026, 4, 20), "Meeting", "", "Library", "6", ""});
         QCOMPARE(days(list), (QStringList{"4/20/26", "4/28/26"}));
         dragRow(list, 1, 0); // the coach puts the game first
         QCOMPARE(days(list), (QStringList{"4/28/26", "4/20/26"}));
-        compose(screen->newEventBtn, {QDate(2026, 4, 25), "Practice", "", "O'Malley's Field", "3", ""});
+        compose(testkit::child<QPushButton>(screen, "newEventBtn"),
+                {QDate(2026, 4, 25), "Practice", "", "O'Malley's Field", "3", ""});
         QCOMPARE(days(list), (QStringList{"4/25/26", "4/28/26", "4/20/26"}));
         QCOMPARE(list->cell(list->selectedRow(), 3), QStringLiteral("Practice"));
-        QTest::mouseClick(screen->sortBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "sortBtn"), Qt::LeftButton);
         QCOMPARE(days(list), (QStringList{"4/20/26", "4/25/26", "4/28/26"}));
         QCOMPARE(list->cell(list->selectedRow(), 3), QStringLiteral("Practice"));
 
         QPointer<scheduleScrn> first = screen;
-        QTest::mouseClick(screen->closeBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "closeBtn"), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!first);
         QPointer<scheduleScrn> second = new scheduleScrn;
         QVERIFY(testkit::showActive(second));
-        QCOMPARE(days(second->ScheduleListbox), (QStringList{"4/20/26", "4/25/26", "4/28/26"}));
-        QTest::keyClick(second->ScheduleListbox, Qt::Key_Escape);
+        QCOMPARE(days(testkit::child<qlmListBox>(second, "ScheduleListbox")),
+                 (QStringList{"4/20/26", "4/25/26", "4/28/26"}));
+        QTest::keyClick(testkit::child<qlmListBox>(second, "ScheduleListbox"), Qt::Key_Escape);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!second);
     }
@@ -212,12 +220,15 @@ private Q_SLOTS:
         auto &fake = season.fake;
         auto *screen = new scheduleScrn;
         screen->show();
-        qlmListBox *list = screen->ScheduleListbox;
+        qlmListBox *list = testkit::child<qlmListBox>(screen, "ScheduleListbox");
         QCOMPARE(list->rowCount(), 0);
 
-        compose(screen->newEventBtn, {QDate(2026, 4, 18), "Game", "Bears", "Riverside", "7", ""});
-        compose(screen->newEventBtn, {QDate(2026, 4, 20), "Practice", "", "O'Malley's Field", "", "30"});
-        compose(screen->newEventBtn, {QDate(2026, 4, 21), "Meeting", "", "Library", "6", "15"});
+        compose(testkit::child<QPushButton>(screen, "newEventBtn"),
+                {QDate(2026, 4, 18), "Game", "Bears", "Riverside", "7", ""});
+        compose(testkit::child<QPushButton>(screen, "newEventBtn"),
+                {QDate(2026, 4, 20), "Practice", "", "O'Malley's Field", "", "30"});
+        compose(testkit::child<QPushButton>(screen, "newEventBtn"),
+                {QDate(2026, 4, 21), "Meeting", "", "Library", "6", "15"});
         QCOMPARE(list->rowCount(), 3);
         QCOMPARE(list->rowCells(0), (QStringList{"4/18/26", "---", "7:00 PM", "Game", "Bears", "Riverside", "A"}));
         QCOMPARE(list->rowCells(1), (QStringList{"4/20/26", "---", "---", "Practice", "", "O'Malley's Field", "-"}));
@@ -238,9 +249,10 @@ private Q_SLOTS:
         // The buttons follow the selection; a new event is selected.
         QCOMPARE(list->selectedRow(), 2);
         list->setSelectedRow(-1);
-        QVERIFY(!screen->editBtn->isEnabled() && !screen->deleteEvBtn->isEnabled());
-        QCOMPARE(screen->schedIDLabel->text(), QStringLiteral("No Selection"));
-        QCOMPARE(screen->enterDataBtn->text(), QStringLiteral("---"));
+        QVERIFY(!testkit::child<QPushButton>(screen, "editBtn")->isEnabled() &&
+                !testkit::child<QPushButton>(screen, "deleteEvBtn")->isEnabled());
+        QCOMPARE(testkit::child<QLabel>(screen, "schedIDLabel")->text(), QStringLiteral("No Selection"));
+        QCOMPARE(testkit::child<QPushButton>(screen, "enterDataBtn")->text(), QStringLiteral("---"));
         const struct
         {
             int row;
@@ -248,19 +260,23 @@ private Q_SLOTS:
         } rows[] = {{0, "Enter Game Data"}, {1, "Practice Plan"}, {2, "---"}};
         for (const auto &r : rows) {
             list->setSelectedRow(r.row);
-            QCOMPARE(screen->enterDataBtn->text(), QString::fromLatin1(r.caption));
-            QVERIFY(!screen->enterDataBtn->isEnabled()); // their screens come later
-            QVERIFY(screen->editBtn->isEnabled() && screen->deleteEvBtn->isEnabled());
-            QCOMPARE(screen->schedIDLabel->text(), QStringLiteral("Schedule ID = ") + list->rowTag(r.row));
+            QCOMPARE(testkit::child<QPushButton>(screen, "enterDataBtn")->text(), QString::fromLatin1(r.caption));
+            QVERIFY(!testkit::child<QPushButton>(screen, "enterDataBtn")->isEnabled()); // their screens come later
+            QVERIFY(testkit::child<QPushButton>(screen, "editBtn")->isEnabled() &&
+                    testkit::child<QPushButton>(screen, "deleteEvBtn")->isEnabled());
+            QCOMPARE(testkit::child<QLabel>(screen, "schedIDLabel")->text(),
+                     QStringLiteral("Schedule ID = ") + list->rowTag(r.row));
         }
 
         // Edit by double click: the list shows the change.
         whenShown<newEventScrn>([](newEventScrn *editor) {
-            QCOMPARE(editor->actionBtn->text(), QStringLiteral("Edit Event"));
-            QCOMPARE(editor->opponentBox->currentText(), QStringLiteral("Bears"));
-            editor->locationBox->setCurrentIndex(editor->locationBox->findText(QStringLiteral("O'Malley's Field")));
-            editor->gameMinute->setEditText(QStringLiteral("05"));
-            QTest::mouseClick(editor->actionBtn, Qt::LeftButton);
+            QCOMPARE(testkit::child<QPushButton>(editor, "actionBtn")->text(), QStringLiteral("Edit Event"));
+            QCOMPARE(testkit::child<QComboBox>(editor, "opponentBox")->currentText(), QStringLiteral("Bears"));
+            testkit::child<QComboBox>(editor, "locationBox")
+                ->setCurrentIndex(
+                    testkit::child<QComboBox>(editor, "locationBox")->findText(QStringLiteral("O'Malley's Field")));
+            testkit::child<QComboBox>(editor, "gameMinute")->setEditText(QStringLiteral("05"));
+            QTest::mouseClick(testkit::child<QPushButton>(editor, "actionBtn"), Qt::LeftButton);
         });
         const QRect cell = list->visualRect(list->model()->index(0, 3));
         // A double click is a press, a release and a second press that reads as the double.
@@ -273,17 +289,17 @@ private Q_SLOTS:
 
         // A cancelled edit changes nothing.
         whenShown<newEventScrn>([](newEventScrn *editor) {
-            editor->eventTypeBox->setEditText(QStringLiteral("Other"));
-            QTest::mouseClick(editor->cancelBtn, Qt::LeftButton);
+            testkit::child<QComboBox>(editor, "eventTypeBox")->setEditText(QStringLiteral("Other"));
+            QTest::mouseClick(testkit::child<QPushButton>(editor, "cancelBtn"), Qt::LeftButton);
         });
-        QTest::mouseClick(screen->editBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "editBtn"), Qt::LeftButton);
         QCOMPARE(list->cell(0, 3), QStringLiteral("Game"));
 
         // A practice takes its drills with it.
         gData->insert("Drills", {{"scheduleID", QString::number(practice)}, {"drill", "Long Toss"}});
         list->setSelectedRow(1);
         fake.messages.answers.enqueue(platform::MsgAction);
-        QTest::mouseClick(screen->deleteEvBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "deleteEvBtn"), Qt::LeftButton);
         QCOMPARE(tags(list), (QStringList{QString::number(game), QString::number(meeting)}));
         QCOMPARE(gData->scalar("SELECT COUNT(*) FROM Drills").toInt(), 0);
 
@@ -294,14 +310,14 @@ private Q_SLOTS:
         gData->insert("Games", {{"schedID", QString::number(recorded)}, {"recorded", 1}});
         list->setSelectedRow(0);
         fake.messages.answers.enqueue(platform::MsgAction);
-        QTest::mouseClick(screen->deleteEvBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "deleteEvBtn"), Qt::LeftButton);
         QCOMPARE(tags(list), (QStringList{QString::number(meeting), QString::number(recorded)}));
         QCOMPARE(gData->scalar("SELECT COUNT(*) FROM Schedule WHERE eventID = ?", {game}).toInt(), 0);
-        QVERIFY(!screen->editBtn->isEnabled());
+        QVERIFY(!testkit::child<QPushButton>(screen, "editBtn")->isEnabled());
 
         list->setSelectedRow(1);
         fake.messages.answers.enqueue(platform::MsgAction);
-        QTest::mouseClick(screen->deleteEvBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "deleteEvBtn"), Qt::LeftButton);
         QCOMPARE(fake.messages.texts().last(), QStringLiteral("The stats for this game have been recorded."));
         QCOMPARE(fake.messages.shown.last().explanation, QStringLiteral("This event cannot be deleted."));
         QCOMPARE(fake.messages.shown.last().actionCaption, QStringLiteral("Continue"));
@@ -316,7 +332,7 @@ private Q_SLOTS:
         QCOMPARE(list->rowCount(), 2);
         bool editorOpened = false;
         whenShown<newEventScrn>([&editorOpened](newEventScrn *editor) {
-            editorOpened = editor->actionBtn->text() == u"Edit Event";
+            editorOpened = testkit::child<QPushButton>(editor, "actionBtn")->text() == u"Edit Event";
             editor->reject();
         });
         QTest::keyClick(list, Qt::Key_Return);
@@ -334,9 +350,10 @@ private Q_SLOTS:
         auto *screen = new scheduleScrn;
         screen->show();
         QVERIFY(QTest::qWaitForWindowExposed(screen));
-        qlmListBox *list = screen->ScheduleListbox;
+        qlmListBox *list = testkit::child<qlmListBox>(screen, "ScheduleListbox");
 
-        screen->filterPop->setCurrentIndex(screen->filterPop->findText(QStringLiteral("Game")));
+        testkit::child<QComboBox>(screen, "filterPop")
+            ->setCurrentIndex(testkit::child<QComboBox>(screen, "filterPop")->findText(QStringLiteral("Game")));
         QCOMPARE(tags(list), (QStringList{QString::number(id[0]), QString::number(id[2]), QString::number(id[4])}));
         // The third game dragged onto the first: the games swap places among
         // all events at once, and the practices keep theirs.
@@ -345,7 +362,8 @@ private Q_SLOTS:
         QCOMPARE(positions(), (QMap<qint64, qint64>{{id[4], 0}, {id[1], 1}, {id[0], 2}, {id[3], 3}, {id[2], 4}}));
 
         // Show All has the order the coach arranged.
-        screen->filterPop->setCurrentIndex(screen->filterPop->findText(QStringLiteral("Show All")));
+        testkit::child<QComboBox>(screen, "filterPop")
+            ->setCurrentIndex(testkit::child<QComboBox>(screen, "filterPop")->findText(QStringLiteral("Show All")));
         QCOMPARE(tags(list), (QStringList{QString::number(id[4]), QString::number(id[1]), QString::number(id[0]),
                                           QString::number(id[3]), QString::number(id[2])}));
 
@@ -374,7 +392,7 @@ private Q_SLOTS:
         screen->show();
 
         season.fake.printing.directory = out.path();
-        QTest::mouseClick(screen->printBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "printBtn"), Qt::LeftButton);
         QCOMPARE(season.fake.printing.printed.size(), 1);
         // The wide printout is landscape with no more than the print dialog.
         QVERIFY(season.fake.messages.shown.isEmpty());
@@ -400,7 +418,7 @@ private Q_SLOTS:
 
         const QString file = out.filePath(QStringLiteral("schedule.txt"));
         season.fake.files.answers.enqueue(file);
-        QTest::mouseClick(screen->exportBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "exportBtn"), Qt::LeftButton);
         QCOMPARE(season.fake.files.calls.last().request.suggestedName, QStringLiteral("Schedule"));
         QFile written(file);
         QVERIFY(written.open(QIODevice::ReadOnly));

@@ -14,19 +14,24 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QToolButton>
 
 using scheduletest::Season;
 using scheduletest::whenShown;
 
+using scheduletest::daySlot;
+
 namespace {
 
 QStringList visibleDays(const Calendar &picker)
 {
     QStringList days;
-    for (QPushButton *b : picker.BevelButton1)
+    for (int slot = 0; slot < CalendarMonth::kSlots; ++slot) {
+        const QPushButton *b = daySlot(&picker, slot);
         days.append(b->isVisible() ? b->text() : QString());
+    }
     return days;
 }
 
@@ -49,11 +54,11 @@ void typeInto(QComboBox *box, const QString &text)
 void pickDay(newEventScrn *editor, int year, int month, int day)
 {
     whenShown<Calendar>([=](Calendar *picker) {
-        picker->PopupYear->setCurrentIndex(year - 2000);
-        picker->PopupMonth->setCurrentIndex(month - 1);
-        QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(year, month).slotOfDay(day)), Qt::LeftButton);
+        testkit::child<QComboBox>(picker, "PopupYear")->setCurrentIndex(year - 2000);
+        testkit::child<QComboBox>(picker, "PopupMonth")->setCurrentIndex(month - 1);
+        QTest::mouseClick(daySlot(picker, CalendarMonth(year, month).slotOfDay(day)), Qt::LeftButton);
     });
-    QTest::mouseClick(editor->calCnv, Qt::LeftButton);
+    QTest::mouseClick(testkit::child<QToolButton>(editor, "calCnv"), Qt::LeftButton);
     // The offscreen platform doesn't hand activation back when a modal
     // window closes, as a desktop does.
     editor->activateWindow();
@@ -99,21 +104,21 @@ private Q_SLOTS:
         picker.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&picker));
         QCOMPARE(picker.whichDate, QDate(start.year(), start.month(), 1));
-        QCOMPARE(picker.PopupMonth->currentIndex(), start.month() - 1);
-        QCOMPARE(picker.PopupYear->currentText(), QString::number(start.year()));
-        QCOMPARE(picker.BevelButton1.size(), 37);
+        QCOMPARE(testkit::child<QComboBox>(&picker, "PopupMonth")->currentIndex(), start.month() - 1);
+        QCOMPARE(testkit::child<QComboBox>(&picker, "PopupYear")->currentText(), QString::number(start.year()));
+        QCOMPARE(picker.findChildren<QPushButton *>(QRegularExpression(QStringLiteral("^BevelButton1_"))).size(), 37);
         const QStringList shown = visibleDays(picker);
         for (int slot = 0; slot < 37; ++slot) {
             const int day = slot - hiddenBefore + 1;
             QCOMPARE(shown.at(slot), day >= 1 && day <= days ? QString::number(day) : QString());
         }
         // The day the picker was opened on has the focus.
-        QCOMPARE(QApplication::focusWidget(), picker.BevelButton1.at(hiddenBefore + start.day() - 1));
+        QCOMPARE(QApplication::focusWidget(), daySlot(&picker, hiddenBefore + start.day() - 1));
         // ... and stands out in bold, alone.
         for (int slot = 0; slot < 37; ++slot)
-            QCOMPARE(picker.BevelButton1.at(slot)->font().bold(), slot == hiddenBefore + start.day() - 1);
-        QCOMPARE(picker.StaticText1.first()->text(), QStringLiteral("Sun"));
-        QCOMPARE(picker.BevelButton1.at(hiddenBefore)->accessibleName(),
+            QCOMPARE(daySlot(&picker, slot)->font().bold(), slot == hiddenBefore + start.day() - 1);
+        QCOMPARE(testkit::child<QLabel>(&picker, "StaticText1_0")->text(), QStringLiteral("Sun"));
+        QCOMPARE(daySlot(&picker, hiddenBefore)->accessibleName(),
                  QLocale().toString(QDate(start.year(), start.month(), 1), QLocale::LongFormat));
     }
 
@@ -123,31 +128,31 @@ private Q_SLOTS:
         Calendar picker;
         picker.setStartDate(QDate(2026, 12, 5));
         picker.show();
-        QTest::mouseClick(picker.PushButton1, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton1"), Qt::LeftButton);
         QCOMPARE(picker.whichDate, QDate(2027, 1, 1));
-        QCOMPARE(picker.PopupYear->currentText(), QStringLiteral("2027"));
-        QTest::mouseClick(picker.PushButton2, Qt::LeftButton);
-        QTest::mouseClick(picker.PushButton2, Qt::LeftButton);
+        QCOMPARE(testkit::child<QComboBox>(&picker, "PopupYear")->currentText(), QStringLiteral("2027"));
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton2"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton2"), Qt::LeftButton);
         QCOMPARE(picker.whichDate, QDate(2026, 11, 1));
 
         // The popups move the page by themselves.
-        picker.PopupYear->setCurrentIndex(39);
-        picker.PopupMonth->setCurrentIndex(11);
+        testkit::child<QComboBox>(&picker, "PopupYear")->setCurrentIndex(39);
+        testkit::child<QComboBox>(&picker, "PopupMonth")->setCurrentIndex(11);
         QCOMPARE(picker.whichDate, QDate(2039, 12, 1));
-        QVERIFY(!picker.PushButton1->isEnabled());
-        picker.PushButton1->click(); // nothing past December 2039
+        QVERIFY(!testkit::child<QPushButton>(&picker, "PushButton1")->isEnabled());
+        testkit::child<QPushButton>(&picker, "PushButton1")->click(); // nothing past December 2039
         QCOMPARE(picker.whichDate, QDate(2039, 12, 1));
 
-        picker.PopupYear->setCurrentIndex(0);
-        picker.PopupMonth->setCurrentIndex(0);
+        testkit::child<QComboBox>(&picker, "PopupYear")->setCurrentIndex(0);
+        testkit::child<QComboBox>(&picker, "PopupMonth")->setCurrentIndex(0);
         QCOMPARE(picker.whichDate, QDate(2000, 1, 1));
-        QVERIFY(!picker.PushButton2->isEnabled());
-        picker.PushButton2->click();
+        QVERIFY(!testkit::child<QPushButton>(&picker, "PushButton2")->isEnabled());
+        testkit::child<QPushButton>(&picker, "PushButton2")->click();
         QCOMPARE(picker.whichDate, QDate(2000, 1, 1));
         QCOMPARE(visibleDays(picker).at(36), QStringLiteral("31")); // January 2000 starts on a Saturday
 
         // "This Month" goes to the clock's month (the fake clock says April 2026).
-        QTest::mouseClick(picker.PushButton3, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&picker, "PushButton3"), Qt::LeftButton);
         QCOMPARE(picker.whichDate, QDate(2026, 4, 1));
     }
 
@@ -155,7 +160,7 @@ private Q_SLOTS:
     {
         Season season;
         whenShown<Calendar>([](Calendar *picker) {
-            QTest::mouseClick(picker->BevelButton1.at(CalendarMonth(2026, 7).slotOfDay(23)), Qt::LeftButton);
+            QTest::mouseClick(daySlot(picker, CalendarMonth(2026, 7).slotOfDay(23)), Qt::LeftButton);
         });
         QCOMPARE(Calendar::GetDate(nullptr, QDate(2026, 7, 4)), std::optional<QDate>(QDate(2026, 7, 23)));
 
@@ -163,7 +168,7 @@ private Q_SLOTS:
         whenShown<Calendar>([](Calendar *picker) {
             picker->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(picker));
-            QWidget *day4 = picker->BevelButton1.at(CalendarMonth(2026, 7).slotOfDay(4));
+            QWidget *day4 = daySlot(picker, CalendarMonth(2026, 7).slotOfDay(4));
             QCOMPARE(QApplication::focusWidget(), day4); // the day the picker opened on
             day4->setFocus();
             QTest::keyClick(day4, Qt::Key_Down);
@@ -190,62 +195,66 @@ private Q_SLOTS:
         editor.show();
         editor.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&editor));
-        QCOMPARE(editor.actionBtn->text(), QStringLiteral("Add Event"));
-        QCOMPARE(editor.opponentBox->count(), 3);
-        QCOMPARE(editor.opponentBox->itemText(2), QStringLiteral("N/A"));
-        QCOMPARE(editor.opponentBox->itemData(2).toString(), QStringLiteral("-1"));
-        QCOMPARE(editor.locationBox->count(), 2);
-        QCOMPARE(editor.locationBox->itemText(0), QStringLiteral("O'Malley's Field")); // in order
-        QVERIFY(!editor.homeCheck->isEnabled());
-        QCOMPARE(editor.homeCheck->checkState(), Qt::PartiallyChecked);
+        QCOMPARE(testkit::child<QPushButton>(&editor, "actionBtn")->text(), QStringLiteral("Add Event"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->count(), 3);
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->itemText(2), QStringLiteral("N/A"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->itemData(2).toString(), QStringLiteral("-1"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "locationBox")->count(), 2);
+        QCOMPARE(testkit::child<QComboBox>(&editor, "locationBox")->itemText(0),
+                 QStringLiteral("O'Malley's Field")); // in order
+        QVERIFY(!testkit::child<QCheckBox>(&editor, "homeCheck")->isEnabled());
+        QCOMPARE(testkit::child<QCheckBox>(&editor, "homeCheck")->checkState(), Qt::PartiallyChecked);
 
         // 1. No date yet.
-        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&editor, "actionBtn"), Qt::LeftButton);
         QCOMPARE(fake.messages.texts(), QStringList{"Please set a date for this event"});
         QCOMPARE(fake.messages.shown.last().explanation, QStringLiteral("Click the small calendar icon."));
         QVERIFY(editor.isVisible());
 
         pickDay(&editor, 2026, 5, 9);
-        QCOMPARE(editor.eventDateFld->text(), QStringLiteral("Saturday, May 9, 2026"));
+        QCOMPARE(testkit::child<QLineEdit>(&editor, "eventDateFld")->text(), QStringLiteral("Saturday, May 9, 2026"));
 
         // "game" becomes a Game on leaving the box, and only then asks home or away.
-        typeInto(editor.eventTypeBox, QStringLiteral("game"));
-        QVERIFY(!editor.homeCheck->isEnabled());
-        leave(editor.eventTypeBox);
-        QCOMPARE(editor.eventTypeBox->currentText(), QStringLiteral("Game"));
-        QVERIFY(editor.homeCheck->isEnabled());
+        typeInto(testkit::child<QComboBox>(&editor, "eventTypeBox"), QStringLiteral("game"));
+        QVERIFY(!testkit::child<QCheckBox>(&editor, "homeCheck")->isEnabled());
+        leave(testkit::child<QComboBox>(&editor, "eventTypeBox"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "eventTypeBox")->currentText(), QStringLiteral("Game"));
+        QVERIFY(testkit::child<QCheckBox>(&editor, "homeCheck")->isEnabled());
 
         // 7. A game needs an opponent.
-        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&editor, "actionBtn"), Qt::LeftButton);
         QCOMPARE(fake.messages.texts().last(), QStringLiteral("Please select an opponent for this game."));
-        editor.opponentBox->setFocus();
-        QTest::keyClick(editor.opponentBox, Qt::Key_B); // the popup's keyboard search finds "Bears"
-        QCOMPARE(editor.opponentBox->currentText(), QStringLiteral("Bears"));
+        testkit::child<QComboBox>(&editor, "opponentBox")->setFocus();
+        QTest::keyClick(testkit::child<QComboBox>(&editor, "opponentBox"),
+                        Qt::Key_B); // the popup's keyboard search finds "Bears"
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->currentText(), QStringLiteral("Bears"));
 
         // 10. Home or away must be said.
-        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&editor, "actionBtn"), Qt::LeftButton);
         QCOMPARE(fake.messages.texts().last(),
                  QStringLiteral("Please indicate a Home or Away game by clicking the Check Box"));
         QCOMPARE(fake.messages.shown.size(), 3);
         QVERIFY(fake.messages.shown.last().plain);
 
         // The home field makes it a home game; any other field an away one.
-        typeInto(editor.locationBox, QStringLiteral("Riverside"));
-        QCOMPARE(editor.homeCheck->checkState(), Qt::Unchecked);
-        editor.locationBox->setCurrentIndex(editor.locationBox->findText(QStringLiteral("O'Malley's Field")));
-        QCOMPARE(editor.homeCheck->checkState(), Qt::Checked);
+        typeInto(testkit::child<QComboBox>(&editor, "locationBox"), QStringLiteral("Riverside"));
+        QCOMPARE(testkit::child<QCheckBox>(&editor, "homeCheck")->checkState(), Qt::Unchecked);
+        testkit::child<QComboBox>(&editor, "locationBox")
+            ->setCurrentIndex(
+                testkit::child<QComboBox>(&editor, "locationBox")->findText(QStringLiteral("O'Malley's Field")));
+        QCOMPARE(testkit::child<QCheckBox>(&editor, "homeCheck")->checkState(), Qt::Checked);
 
         // Times: the boxes take digits only; an hour alone gets ":00", and
         // minutes without an hour are no time.
-        typeInto(editor.gameHour, QStringLiteral("7pm"));
-        QCOMPARE(editor.gameHour->currentText(), QStringLiteral("7"));
+        typeInto(testkit::child<QComboBox>(&editor, "gameHour"), QStringLiteral("7pm"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "gameHour")->currentText(), QStringLiteral("7"));
         QCOMPARE(fake.beeper.beeps, 2);
-        typeInto(editor.gameAMPM, QStringLiteral("pm"));
-        leave(editor.gameAMPM);
-        QCOMPARE(editor.gameAMPM->currentText(), QStringLiteral("PM"));
-        typeInto(editor.busMinute, QStringLiteral("30"));
+        typeInto(testkit::child<QComboBox>(&editor, "gameAMPM"), QStringLiteral("pm"));
+        leave(testkit::child<QComboBox>(&editor, "gameAMPM"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "gameAMPM")->currentText(), QStringLiteral("PM"));
+        typeInto(testkit::child<QComboBox>(&editor, "busMinute"), QStringLiteral("30"));
 
-        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(&editor, "actionBtn"), Qt::LeftButton);
         QCOMPARE(fake.messages.shown.size(), 3);
         QVERIFY(!editor.isVisible());
         QVERIFY(editor.result());
@@ -276,14 +285,16 @@ private Q_SLOTS:
         Season season;
         whenShown<newEventScrn>([&](newEventScrn *editor) {
             pickDay(editor, 2026, 6, 1);
-            editor->eventTypeBox->setCurrentIndex(editor->eventTypeBox->findText(type));
-            QVERIFY(!editor->homeCheck->isEnabled());
-            typeInto(editor->locationBox, location);
-            leave(editor->locationBox);
-            typeInto(editor->busHour, QStringLiteral("5"));
-            editor->busMinute->setCurrentIndex(editor->busMinute->findText(QStringLiteral("45")));
-            editor->busAMPM->setCurrentIndex(0);
-            QTest::keyClick(editor->actionBtn, Qt::Key_Space);
+            testkit::child<QComboBox>(editor, "eventTypeBox")
+                ->setCurrentIndex(testkit::child<QComboBox>(editor, "eventTypeBox")->findText(type));
+            QVERIFY(!testkit::child<QCheckBox>(editor, "homeCheck")->isEnabled());
+            typeInto(testkit::child<QComboBox>(editor, "locationBox"), location);
+            leave(testkit::child<QComboBox>(editor, "locationBox"));
+            typeInto(testkit::child<QComboBox>(editor, "busHour"), QStringLiteral("5"));
+            testkit::child<QComboBox>(editor, "busMinute")
+                ->setCurrentIndex(testkit::child<QComboBox>(editor, "busMinute")->findText(QStringLiteral("45")));
+            testkit::child<QComboBox>(editor, "busAMPM")->setCurrentIndex(0);
+            QTest::keyClick(testkit::child<QPushButton>(editor, "actionBtn"), Qt::Key_Space);
         });
         const auto event = newEventScrn::getNewEvent(nullptr);
         QVERIFY(event);
@@ -303,7 +314,7 @@ private Q_SLOTS:
         // The Cancel button is driven in tst_schedulescrn; Escape cancels as well.
         whenShown<newEventScrn>([](newEventScrn *editor) {
             pickDay(editor, 2026, 6, 1);
-            editor->eventTypeBox->setEditText(QStringLiteral("Meeting"));
+            testkit::child<QComboBox>(editor, "eventTypeBox")->setEditText(QStringLiteral("Meeting"));
             QTest::keyClick(editor, Qt::Key_Escape);
         });
         QCOMPARE(newEventScrn::getNewEvent(nullptr), std::nullopt);
@@ -324,11 +335,13 @@ private Q_SLOTS:
 
         newEventScrn editor;
         QVERIFY(editor.loadEvent(id));
-        QCOMPARE(editor.opponentBox->itemText(0), QStringLiteral("Bears (team %1)").arg(season.bearsID));
-        QCOMPARE(editor.opponentBox->itemText(1), QStringLiteral("Bears (Westside)"));
-        QCOMPARE(editor.opponentBox->itemText(2), QStringLiteral("O'Brien's Nine"));
-        QCOMPARE(editor.opponentBox->currentText(), QStringLiteral("Bears (Westside)"));
-        QCOMPARE(editor.locationBox->count(), 2); // a field shared by two teams is offered once
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->itemText(0),
+                 QStringLiteral("Bears (team %1)").arg(season.bearsID));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->itemText(1), QStringLiteral("Bears (Westside)"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->itemText(2), QStringLiteral("O'Brien's Nine"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->currentText(), QStringLiteral("Bears (Westside)"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "locationBox")->count(),
+                 2); // a field shared by two teams is offered once
         QVERIFY(editor.setEventProperties());
         QCOMPARE(*editor.result(), game);
     }
@@ -363,13 +376,13 @@ private Q_SLOTS:
         editor.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&editor));
         editor.setPickedDate(QDate(2026, 5, 9));
-        editor.eventTypeBox->setEditText(QStringLiteral("Meeting"));
-        typeInto(editor.gameHour, hour);
-        typeInto(editor.gameMinute, minute);
-        typeInto(editor.gameAMPM, QStringLiteral("PM"));
-        leave(editor.gameAMPM);
-        QCOMPARE(editor.gameMinute->currentText(), minute);
-        QTest::mouseClick(editor.actionBtn, Qt::LeftButton);
+        testkit::child<QComboBox>(&editor, "eventTypeBox")->setEditText(QStringLiteral("Meeting"));
+        typeInto(testkit::child<QComboBox>(&editor, "gameHour"), hour);
+        typeInto(testkit::child<QComboBox>(&editor, "gameMinute"), minute);
+        typeInto(testkit::child<QComboBox>(&editor, "gameAMPM"), QStringLiteral("PM"));
+        leave(testkit::child<QComboBox>(&editor, "gameAMPM"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "gameMinute")->currentText(), minute);
+        QTest::mouseClick(testkit::child<QPushButton>(&editor, "actionBtn"), Qt::LeftButton);
         QVERIFY(editor.result());
         QCOMPARE(editor.result()->startTime, stored);
     }
@@ -392,14 +405,17 @@ private Q_SLOTS:
         newEventScrn editor;
         editor.show();
         QVERIFY(QTest::qWaitForWindowExposed(&editor));
-        editor.eventTypeBox->setCurrentIndex(editor.eventTypeBox->findText(QStringLiteral("Game")));
-        QVERIFY(editor.homeCheck->isEnabled());
-        editor.homeCheck->setCheckState(Qt::CheckState(before));
+        testkit::child<QComboBox>(&editor, "eventTypeBox")
+            ->setCurrentIndex(testkit::child<QComboBox>(&editor, "eventTypeBox")->findText(QStringLiteral("Game")));
+        QVERIFY(testkit::child<QCheckBox>(&editor, "homeCheck")->isEnabled());
+        testkit::child<QCheckBox>(&editor, "homeCheck")->setCheckState(Qt::CheckState(before));
         // On the box itself, where a coach clicks.
-        QTest::mouseClick(editor.homeCheck, Qt::LeftButton, {}, QPoint(8, editor.homeCheck->height() / 2));
-        QCOMPARE(int(editor.homeCheck->checkState()), after);
-        QTest::keyClick(editor.homeCheck, Qt::Key_Space);
-        QCOMPARE(int(editor.homeCheck->checkState()), after == Qt::Checked ? int(Qt::Unchecked) : int(Qt::Checked));
+        QTest::mouseClick(testkit::child<QCheckBox>(&editor, "homeCheck"), Qt::LeftButton, {},
+                          QPoint(8, testkit::child<QCheckBox>(&editor, "homeCheck")->height() / 2));
+        QCOMPARE(int(testkit::child<QCheckBox>(&editor, "homeCheck")->checkState()), after);
+        QTest::keyClick(testkit::child<QCheckBox>(&editor, "homeCheck"), Qt::Key_Space);
+        QCOMPARE(int(testkit::child<QCheckBox>(&editor, "homeCheck")->checkState()),
+                 after == Qt::Checked ? int(Qt::Unchecked) : int(Qt::Checked));
     }
 
     void editingFillsTheEditor()
@@ -413,15 +429,16 @@ private Q_SLOTS:
 
         newEventScrn editor;
         QVERIFY(editor.loadEvent(id));
-        QCOMPARE(editor.actionBtn->text(), QStringLiteral("Edit Event"));
-        QCOMPARE(editor.eventDateFld->text(), QStringLiteral("Saturday, April 18, 2026"));
-        QCOMPARE(editor.busHour->currentText(), QStringLiteral("3"));
-        QCOMPARE(editor.busMinute->currentText(), QStringLiteral("15"));
-        QCOMPARE(editor.busAMPM->currentText(), QStringLiteral("PM"));
-        QCOMPARE(editor.gameHour->currentText(), QString());
-        QCOMPARE(editor.opponentBox->currentText(), QStringLiteral("Bears"));
-        QVERIFY(editor.homeCheck->isEnabled());
-        QCOMPARE(editor.homeCheck->checkState(), Qt::Unchecked);
+        QCOMPARE(testkit::child<QPushButton>(&editor, "actionBtn")->text(), QStringLiteral("Edit Event"));
+        QCOMPARE(testkit::child<QLineEdit>(&editor, "eventDateFld")->text(),
+                 QStringLiteral("Saturday, April 18, 2026"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "busHour")->currentText(), QStringLiteral("3"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "busMinute")->currentText(), QStringLiteral("15"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "busAMPM")->currentText(), QStringLiteral("PM"));
+        QCOMPARE(testkit::child<QComboBox>(&editor, "gameHour")->currentText(), QString());
+        QCOMPARE(testkit::child<QComboBox>(&editor, "opponentBox")->currentText(), QStringLiteral("Bears"));
+        QVERIFY(testkit::child<QCheckBox>(&editor, "homeCheck")->isEnabled());
+        QCOMPARE(testkit::child<QCheckBox>(&editor, "homeCheck")->checkState(), Qt::Unchecked);
         // Saved unchanged, it is the same event.
         QVERIFY(editor.setEventProperties());
         QCOMPARE(*editor.result(), game);
@@ -431,8 +448,8 @@ private Q_SLOTS:
                     {id});
         newEventScrn old;
         QVERIFY(old.loadEvent(id));
-        QCOMPARE(old.opponentBox->currentText(), QStringLiteral("N/A"));
-        QCOMPARE(old.eventDateFld->text(), QStringLiteral("18.4.26"));
+        QCOMPARE(testkit::child<QComboBox>(&old, "opponentBox")->currentText(), QStringLiteral("N/A"));
+        QCOMPARE(testkit::child<QLineEdit>(&old, "eventDateFld")->text(), QStringLiteral("18.4.26"));
         QVERIFY(!old.setEventProperties());
         QCOMPARE(season.fake.messages.texts(), QStringList{"Please reselect the date"});
         QVERIFY(season.fake.messages.shown.first().plain);

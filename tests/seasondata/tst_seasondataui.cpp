@@ -33,6 +33,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QWidget>
 
 using testkit::choose;
 using testkit::clickHalf;
@@ -159,56 +160,57 @@ private Q_SLOTS:
         QPointer<TransferDataScrn> sheet = f.start->findChild<TransferDataScrn *>();
         QVERIFY(sheet && sheet->isVisible());
         QCOMPARE(sheet->windowModality(), Qt::WindowModal);
-        QCOMPARE(sheet->fromLB->rowCount(), 3);
-        QCOMPARE(sheet->fromLB->cell(2, 0), QStringLiteral("O'Brien's Owls"));
+        QCOMPARE(testkit::child<qlmListBox>(sheet, "fromLB")->rowCount(), 3);
+        QCOMPARE(testkit::child<qlmListBox>(sheet, "fromLB")->cell(2, 0), QStringLiteral("O'Brien's Owls"));
 
         // The lists slide in and out over a quarter second.
         const int small = sheet->height();
-        QTest::mouseClick(sheet->transferRadio, Qt::LeftButton);
-        QVERIFY(!sheet->createBtn->isVisible());
+        QTest::mouseClick(testkit::child<QRadioButton>(sheet, "newActionBtn1"), Qt::LeftButton);
+        QVERIFY(!testkit::child<QPushButton>(sheet, "createBtn")->isVisible());
         QTRY_COMPARE(sheet->height(), small + TransferDataScrn::kListsHeight);
-        QTest::mouseClick(sheet->emptyRadio, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QRadioButton>(sheet, "newActionBtn0"), Qt::LeftButton);
         QTRY_COMPARE(sheet->height(), small);
-        QTRY_VERIFY(!sheet->teamArea->isVisible());
+        QTRY_VERIFY(!testkit::child<QWidget>(sheet, "teamArea")->isVisible());
         // A screen reader's action on the box shows the lists as a click does.
-        QAccessibleInterface *box = QAccessible::queryAccessibleInterface(sheet->transferRadio);
+        QAccessibleInterface *box = QAccessible::queryAccessibleInterface(
+            testkit::child<QRadioButton>(sheet, "newActionBtn1"));
         QVERIFY(box && box->actionInterface());
         const QStringList actions = box->actionInterface()->actionNames();
         box->actionInterface()->doAction(actions.contains(QAccessibleActionInterface::toggleAction())
                                              ? QAccessibleActionInterface::toggleAction()
                                              : QAccessibleActionInterface::pressAction());
-        QVERIFY(sheet->transferRadio->isChecked());
+        QVERIFY(testkit::child<QRadioButton>(sheet, "newActionBtn1")->isChecked());
         QTRY_COMPARE(sheet->height(), small + TransferDataScrn::kListsHeight);
-        QVERIFY(sheet->teamArea->isVisible());
+        QVERIFY(testkit::child<QWidget>(sheet, "teamArea")->isVisible());
 
-        QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "TransferBtn"), Qt::LeftButton);
         QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Please add teams for transferring")});
 
-        QVERIFY(!sheet->addBtn->isEnabled());
-        sheet->fromLB->setSelectedRow(0);
-        QVERIFY(sheet->addBtn->isEnabled());
-        QTest::mouseClick(sheet->addBtn, Qt::LeftButton);
-        QTest::mouseClick(sheet->addAllBtn, Qt::LeftButton);
-        QCOMPARE(sheet->fromLB->rowCount(), 0);
-        sheet->toLB->setSelectedRow(1);
-        QTest::mouseClick(sheet->removeBtn, Qt::LeftButton);
-        QCOMPARE(sheet->fromLB->rowCount(), 1);
-        QCOMPARE(sheet->fromLB->cell(0, 0), QStringLiteral("Central Cubs"));
-        QCOMPARE(sheet->toLB->rowTag(1), QString::number(owls));
+        QVERIFY(!testkit::child<QPushButton>(sheet, "addBtn")->isEnabled());
+        testkit::child<qlmListBox>(sheet, "fromLB")->setSelectedRow(0);
+        QVERIFY(testkit::child<QPushButton>(sheet, "addBtn")->isEnabled());
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "addBtn"), Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "addAllBtn"), Qt::LeftButton);
+        QCOMPARE(testkit::child<qlmListBox>(sheet, "fromLB")->rowCount(), 0);
+        testkit::child<qlmListBox>(sheet, "toLB")->setSelectedRow(1);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "removeBtn"), Qt::LeftButton);
+        QCOMPARE(testkit::child<qlmListBox>(sheet, "fromLB")->rowCount(), 1);
+        QCOMPARE(testkit::child<qlmListBox>(sheet, "fromLB")->cell(0, 0), QStringLiteral("Central Cubs"));
+        QCOMPARE(testkit::child<qlmListBox>(sheet, "toLB")->rowTag(1), QString::number(owls));
 
-        testkit::typeInto(sheet->newNameFld, QStringLiteral("2027"));
-        QTest::mouseClick(sheet->transInvCheck, Qt::LeftButton);
+        testkit::typeInto(testkit::child<QLineEdit>(sheet, "newNameFld"), QStringLiteral("2027"));
+        QTest::mouseClick(testkit::child<qlmCheckBox>(sheet, "transInvCheck"), Qt::LeftButton);
         f.fake.messages.clear();
-        QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "TransferBtn"), Qt::LeftButton);
         QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("The transfer was successful")});
         QCOMPARE(f.count(QStringLiteral("Teams")), 2);
         QCOMPARE(f.count(QStringLiteral("TeamInventory")), 1);
-        QCOMPARE(sheet->TransferBtn->text(), QStringLiteral("Close"));
-        QVERIFY(!sheet->addAllBtn->isEnabled());
+        QCOMPARE(testkit::child<QPushButton>(sheet, "TransferBtn")->text(), QStringLiteral("Close"));
+        QVERIFY(!testkit::child<QPushButton>(sheet, "addAllBtn")->isEnabled());
 
-        QTest::mouseClick(sheet->TransferBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "TransferBtn"), Qt::LeftButton);
         QTRY_VERIFY(!sheet);
-        QCOMPARE(f.start->SelectSeasonPop->currentText(), QStringLiteral("2027"));
+        QCOMPARE(testkit::child<QComboBox>(f.start, "SelectSeasonPop")->currentText(), QStringLiteral("2027"));
     }
 
     void emptySeasonSheet_data()
@@ -255,8 +257,10 @@ private Q_SLOTS:
             junk.write(QByteArray("SQLite format 3") + QByteArray(4096, '\x5a'));
             junk.close();
             f.start->setPopupList();
-            f.start->SelectSeasonPop->setCurrentIndex(f.start->SelectSeasonPop->findText(QStringLiteral("Broken")));
-            QVERIFY(f.start->seasonProblemLabel->isVisibleTo(f.start));
+            testkit::child<QComboBox>(f.start, "SelectSeasonPop")
+                ->setCurrentIndex(
+                    testkit::child<QComboBox>(f.start, "SelectSeasonPop")->findText(QStringLiteral("Broken")));
+            QVERIFY(testkit::child<QLabel>(f.start, "seasonProblemLabel")->isVisibleTo(f.start));
             QVERIFY(!f.start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"))->isEnabled());
             f.fake.messages.clear();
         }
@@ -265,15 +269,15 @@ private Q_SLOTS:
         QPointer<TransferDataScrn> sheet = f.start->findChild<TransferDataScrn *>();
         QVERIFY(sheet);
         if (before.isEmpty() && made) {
-            QTest::mouseClick(sheet->createBtn, Qt::LeftButton);
+            QTest::mouseClick(testkit::child<QPushButton>(sheet, "createBtn"), Qt::LeftButton);
             QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Please provide a name for the new season.")});
             QVERIFY(sheet->isVisible());
             f.fake.messages.clear();
         }
-        testkit::typeInto(sheet->newNameFld, name);
+        testkit::typeInto(testkit::child<QLineEdit>(sheet, "newNameFld"), name);
         if (answer >= 0)
             f.fake.messages.answers.enqueue(std::uint8_t(answer));
-        QTest::mouseClick(sheet->createBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "createBtn"), Qt::LeftButton);
         QCOMPARE(f.fake.messages.texts(), message.isEmpty() ? QStringList() : QStringList{message});
         if (!made) {
             QVERIFY(sheet->isVisible());
@@ -286,9 +290,9 @@ private Q_SLOTS:
         QTRY_VERIFY(!sheet);
         QCOMPARE(gPrefs->prSeason, name);
         QVERIFY(QFileInfo::exists(f.seasonFile(name)));
-        QCOMPARE(f.start->SelectSeasonPop->currentText(), name);
+        QCOMPARE(testkit::child<QComboBox>(f.start, "SelectSeasonPop")->currentText(), name);
         // The start screen shows the season now open, whatever it showed before.
-        QVERIFY(!f.start->seasonProblemLabel->isVisibleTo(f.start));
+        QVERIFY(!testkit::child<QLabel>(f.start, "seasonProblemLabel")->isVisibleTo(f.start));
         QVERIFY(f.start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"))->isEnabled());
         QCOMPARE(f.count(QStringLiteral("Teams")), before == u"exists" ? 1 : 0);
         f.restart();
@@ -308,14 +312,14 @@ private Q_SLOTS:
         junk.write(QByteArray("SQLite format 3") + QByteArray(4096, '\x5a'));
         junk.close();
         f.start->setPopupList();
-        const int row = f.start->SelectSeasonPop->findText(QStringLiteral("Broken"));
-        f.start->SelectSeasonPop->setCurrentIndex(row);
-        QVERIFY(f.start->seasonProblemLabel->isVisibleTo(f.start));
+        const int row = testkit::child<QComboBox>(f.start, "SelectSeasonPop")->findText(QStringLiteral("Broken"));
+        testkit::child<QComboBox>(f.start, "SelectSeasonPop")->setCurrentIndex(row);
+        QVERIFY(testkit::child<QLabel>(f.start, "seasonProblemLabel")->isVisibleTo(f.start));
         QVERIFY(QFile::remove(broken));
         QVERIFY(QFile::rename(broken + QStringLiteral(".good"), broken));
         QTest::qWait(1);
-        Q_EMIT f.start->SelectSeasonPop->activated(row);
-        QVERIFY(!f.start->seasonProblemLabel->isVisibleTo(f.start));
+        Q_EMIT testkit::child<QComboBox>(f.start, "SelectSeasonPop")->activated(row);
+        QVERIFY(!testkit::child<QLabel>(f.start, "seasonProblemLabel")->isVisibleTo(f.start));
         QVERIFY(f.start->findChild<QPushButton *>(QStringLiteral("teamScrnBtn"))->isEnabled());
     }
 
@@ -393,13 +397,14 @@ private Q_SLOTS:
             return;
         }
         if (compacted)
-            QTRY_COMPARE(dialog->statusLbl->text(), QStringLiteral("Cleaning up the database..."));
-        QTRY_VERIFY_WITH_TIMEOUT(dialog->CloseBtn->isVisible(), 10000);
+            QTRY_COMPARE(testkit::child<QLabel>(dialog, "statusLbl")->text(),
+                         QStringLiteral("Cleaning up the database..."));
+        QTRY_VERIFY_WITH_TIMEOUT(testkit::child<QPushButton>(dialog, "CloseBtn")->isVisible(), 10000);
         reading.reset();
         reader.reset();
-        QCOMPARE(dialog->statusLbl->text(), status);
-        QCOMPARE(dialog->detailLbl->text(), detail);
-        QVERIFY(dialog->CloseBtn->isVisible());
+        QCOMPARE(testkit::child<QLabel>(dialog, "statusLbl")->text(), status);
+        QCOMPARE(testkit::child<QLabel>(dialog, "detailLbl")->text(), detail);
+        QVERIFY(testkit::child<QPushButton>(dialog, "CloseBtn")->isVisible());
 
         const QString copy = drive + QStringLiteral("/TLYN2_backup/") +
                              seasondata::dateFolderName(f.fake.clock.time.date()) + u'/' +
@@ -434,11 +439,11 @@ private Q_SLOTS:
         f.app->BUTimer->Event_Action();
         QCOMPARE(backupWindows(), 1);
         QPointer<backUpDlog> dialog = Session::window<backUpDlog>(QStringLiteral("backUpDlog"));
-        QTRY_COMPARE(dialog->statusLbl->text(), QStringLiteral("Backup was successful"));
+        QTRY_COMPARE(testkit::child<QLabel>(dialog, "statusLbl")->text(), QStringLiteral("Backup was successful"));
         for (int minute = 0; minute < 5; ++minute)
             f.app->BUTimer->Event_Action();
         QCOMPARE(backupWindows(), 1);
-        QTRY_COMPARE(dialog->detailLbl->text(), QStringLiteral("Closing in 5 secs."));
+        QTRY_COMPARE(testkit::child<QLabel>(dialog, "detailLbl")->text(), QStringLiteral("Closing in 5 secs."));
         QTRY_VERIFY_WITH_TIMEOUT(!dialog, 8000);
         const QString copy = f.chosenDrive() + QStringLiteral("/TLYN2_backup/") +
                              seasondata::dateFolderName(f.fake.clock.time.date()) + u'/' +
@@ -485,7 +490,7 @@ private Q_SLOTS:
         if (status.isEmpty())
             QTRY_VERIFY(!dialog);
         else
-            QTRY_COMPARE(dialog->statusLbl->text(), status);
+            QTRY_COMPARE(testkit::child<QLabel>(dialog, "statusLbl")->text(), status);
         const bool restored = status == u"The season was restored.";
         QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), restored ? backedUp : later);
         QCOMPARE(gData->scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE name = 'idx_Games_schedID'"))
@@ -634,7 +639,7 @@ private Q_SLOTS:
             QVERIFY(sheet && sheet->windowModality() == Qt::WindowModal);
             sheet->batAbbrev.at(0)->setText(input.section(u'\t', 0, 0));
             sheet->fldDesc.at(2)->setText(input.section(u'\t', 1));
-            QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
+            QTest::mouseClick(testkit::child<QPushButton>(sheet, "saveBtn"), Qt::LeftButton);
         }
         if (control == u"InnPerGamePop")
             QCOMPARE(screen->SelectedInnings, 7);
@@ -767,7 +772,7 @@ private Q_SLOTS:
             sheet->batAbbrev.at(i)->setText(abbrevs.at(i));
             sheet->batDesc.at(i)->setText(description);
         }
-        QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "saveBtn"), Qt::LeftButton);
         QTRY_VERIFY(!sheet);
         QCOMPARE(!f.fake.messages.shown.isEmpty(), shortened);
         // The dictionaries change only at the next start.
@@ -819,7 +824,7 @@ private Q_SLOTS:
                 ++pressedOnce;
             };
         }
-        QTest::mouseClick(sheet->saveBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(sheet, "saveBtn"), Qt::LeftButton);
         QTRY_VERIFY(!sheet);
         QCOMPARE(pressedOnce, pressed.isEmpty() ? 0 : 1);
         QCOMPARE(f.fake.messages.texts(), QStringList{QStringLiteral("Some of the names were shortened to fit.")});
@@ -880,7 +885,7 @@ private Q_SLOTS:
         gPrefs->prDataBackupLoc = createGSI(f.chosenDrive());
         auto *dialog = new backUpDlog;
         dialog->show();
-        QTRY_VERIFY(dialog->CloseBtn->isVisible());
+        QTRY_VERIFY(testkit::child<QPushButton>(dialog, "CloseBtn")->isVisible());
         for (QWidget *child : dialog->findChildren<QWidget *>()) {
             if (!child->isVisibleTo(dialog) || child->focusPolicy() == Qt::NoFocus || child->inherits("QLabel"))
                 continue;

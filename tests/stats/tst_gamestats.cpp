@@ -1,13 +1,11 @@
 // One player's game statistics: the panels' stored strings, the innings
 // check, auto-fill figures, and the rows written and read back.
 
-#include "app/App.h"
 #include "app/globals.h"
 #include "app/myDB.h"
-#include "fakes/FakePlatform.h"
+#include "fakes/OpenSeason.h"
 #include "stats/GameStats.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace stats;
@@ -16,16 +14,10 @@ class TestGameStats : public QObject
 {
     Q_OBJECT
 
-    fakes::FakePlatform m_fake;
-    QTemporaryDir m_home;
-    std::unique_ptr<App> m_app;
+    testkit::OpenSeason m_season;
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        m_app = std::make_unique<App>(m_home.path());
-        QCOMPARE(m_app->Event_Open(), App::OpenResult::Ok);
-    }
+    void initTestCase() { QVERIFY(m_season.open()); }
 
     void innings_data()
     {

@@ -45,28 +45,17 @@ void playTeam(gameday::GameDay &game, const QStringList &positions, const QList<
 // a button ("recordBtn", "cancelBtn") or Escape.
 void answerChecks(const QString &answer, QString &marks)
 {
-    auto *poll = new QTimer;
-    poll->setInterval(5);
-    QObject::connect(poll, &QTimer::timeout, poll, [poll, answer, &marks] {
-        for (QWidget *w : QApplication::topLevelWidgets()) {
-            auto *check = qobject_cast<finalCheckScrn *>(w);
-            if (!check || !check->isVisible())
-                continue;
-            poll->stop();
-            poll->deleteLater();
-            for (const CheckMark *mark : check->checkCnv)
-                marks += mark->passed() ? u'1' : u'0';
-            for (const CheckMark *mark : check->proofCnv)
-                marks += mark->passed() ? u'1' : u'0';
-            if (answer == u"escape")
-                return QTest::keyClick(check, Qt::Key_Escape);
-            auto *target = check->findChild<QPushButton *>(answer);
-            target->setFocus();
-            QTest::keyClick(target, Qt::Key_Space);
-            return;
-        }
+    testkit::whenShown<finalCheckScrn>([answer, &marks](finalCheckScrn *check) {
+        for (const CheckMark *mark : check->checkCnv)
+            marks += mark->passed() ? u'1' : u'0';
+        for (const CheckMark *mark : check->proofCnv)
+            marks += mark->passed() ? u'1' : u'0';
+        if (answer == u"escape")
+            return QTest::keyClick(check, Qt::Key_Escape);
+        auto *target = check->findChild<QPushButton *>(answer);
+        target->setFocus();
+        QTest::keyClick(target, Qt::Key_Space);
     });
-    poll->start();
 }
 
 QString seasonDump(const QString &home, const QString &bears, const QString &game)

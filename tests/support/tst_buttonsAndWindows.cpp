@@ -222,22 +222,23 @@ private Q_SLOTS:
         bool warnedOnBlank = false;
         QTimer::singleShot(0, &prompt, [&] {
             // Save with a blank field: the warning, a beep, and still open.
-            QTest::keyClicks(prompt.dataFld, QStringLiteral("   "));
-            QTest::mouseClick(prompt.saveBtn, Qt::LeftButton);
-            warnedOnBlank = prompt.warningLbl->isVisible() && prompt.isVisible() && fake.beeper.beeps == 1;
-            prompt.dataFld->clear();
-            QTest::keyClicks(prompt.dataFld, typed);
-            QVERIFY(!prompt.warningLbl->isVisible());
+            QTest::keyClicks(testkit::child<QLineEdit>(&prompt, "dataFld"), QStringLiteral("   "));
+            QTest::mouseClick(testkit::child<QPushButton>(&prompt, "saveBtn"), Qt::LeftButton);
+            warnedOnBlank = testkit::child<QLabel>(&prompt, "warningLbl")->isVisible() && prompt.isVisible() &&
+                            fake.beeper.beeps == 1;
+            testkit::child<QLineEdit>(&prompt, "dataFld")->clear();
+            QTest::keyClicks(testkit::child<QLineEdit>(&prompt, "dataFld"), typed);
+            QVERIFY(!testkit::child<QLabel>(&prompt, "warningLbl")->isVisible());
             if (cancel)
-                QTest::keyClick(prompt.dataFld, Qt::Key_Escape);
+                QTest::keyClick(testkit::child<QLineEdit>(&prompt, "dataFld"), Qt::Key_Escape);
             else
-                QTest::keyClick(prompt.dataFld, Qt::Key_Return);
+                QTest::keyClick(testkit::child<QLineEdit>(&prompt, "dataFld"), Qt::Key_Return);
         });
         QCOMPARE(prompt.getMyInfo(), result);
         QVERIFY(warnedOnBlank);
         QCOMPARE(prompt.myData(), result);
         auto *buddy = prompt.findChild<QLabel *>(QStringLiteral("promptLbl"));
-        QVERIFY(buddy && buddy->buddy() == prompt.dataFld);
+        QVERIFY(buddy && buddy->buddy() == testkit::child<QLineEdit>(&prompt, "dataFld"));
     }
 
     void waitWindow()
@@ -249,7 +250,7 @@ private Q_SLOTS:
         QVERIFY(wait->isVisible());
         QCOMPARE(QApplication::overrideCursor() ? QApplication::overrideCursor()->shape() : Qt::ArrowCursor,
                  Qt::BusyCursor);
-        QCOMPARE(wait->detailLbl->text(), QStringLiteral("Setting up the game"));
+        QCOMPARE(testkit::child<QLabel>(wait, "detailLbl")->text(), QStringLiteral("Setting up the game"));
         wait->close();
         QVERIFY(QApplication::overrideCursor() == nullptr);
         // Deleted while shown, it gives the pointer back too.

@@ -86,10 +86,10 @@ private Q_SLOTS:
         auto *dlog = new updateDlog;
         dlog->updater->documentUrl = kDocument;
         dlog->show();
-        QCOMPARE(dlog->updatetext->text(), QStringLiteral("Checking..."));
-        QTRY_COMPARE(dlog->updatetext->text(), shown);
-        QCOMPARE(dlog->actionBtn->text(), action);
-        QCOMPARE(dlog->cancelBtn->isVisible(), action == u"Update Now");
+        QCOMPARE(testkit::child<QLabel>(dlog, "updatetext")->text(), QStringLiteral("Checking..."));
+        QTRY_COMPARE(testkit::child<QLabel>(dlog, "updatetext")->text(), shown);
+        QCOMPARE(testkit::child<QPushButton>(dlog, "actionBtn")->text(), action);
+        QCOMPARE(testkit::child<QPushButton>(dlog, "cancelBtn")->isVisible(), action == u"Update Now");
         delete dlog;
     }
 
@@ -103,8 +103,9 @@ private Q_SLOTS:
         dlog->show();
         // The window answers while the check waits.
         QTest::qWait(100);
-        QCOMPARE(dlog->updatetext->text(), QStringLiteral("Checking..."));
-        QTRY_COMPARE_WITH_TIMEOUT(dlog->updatetext->text(), cAutoUpdate::upToDateMessage(), 2000);
+        QCOMPARE(testkit::child<QLabel>(dlog, "updatetext")->text(), QStringLiteral("Checking..."));
+        QTRY_COMPARE_WITH_TIMEOUT(testkit::child<QLabel>(dlog, "updatetext")->text(), cAutoUpdate::upToDateMessage(),
+                                  2000);
         delete dlog;
     }
 
@@ -124,12 +125,12 @@ private Q_SLOTS:
         auto *dlog = new updateDlog;
         dlog->updater->documentUrl = kDocument;
         dlog->show();
-        QTRY_VERIFY(dlog->actionBtn->isEnabled());
+        QTRY_VERIFY(testkit::child<QPushButton>(dlog, "actionBtn")->isEnabled());
         // The check went through the fake; the download goes over the wire.
         platform::Services services = platform::installed();
         services.http = &network;
         platform::ScopedServices real(services);
-        QTest::mouseClick(dlog->actionBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(dlog, "actionBtn"), Qt::LeftButton);
         QCOMPARE(fake.files.calls.last().request.suggestedName,
                  QStringLiteral("Tallyline_Baseball_9.0.0_update.tar.gz"));
         QCOMPARE(fake.files.calls.last().request.prompt, QStringLiteral("Select the Save Location"));
@@ -138,21 +139,22 @@ private Q_SLOTS:
             if (auto *found = qobject_cast<wAutoUpdate *>(w))
                 window = found;
         QVERIFY(window);
-        QCOMPARE(window->stTitle->text(), QStringLiteral("Tallyline 9"));
+        QCOMPARE(testkit::child<QLabel>(window, "stTitle")->text(), QStringLiteral("Tallyline 9"));
         QString lastProgress;
         connect(window->Updater, &cAutoUpdate::downloadProgress, this,
-                [&] { lastProgress = window->stProgress->text(); });
+                [&] { lastProgress = testkit::child<QLabel>(window, "stProgress")->text(); });
         QPointer<wAutoUpdate> guard(window);
         // Done, it says where the file went and leads there.
-        QTRY_VERIFY_WITH_TIMEOUT(window->btnShowFolder->isVisible(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(testkit::child<QPushButton>(window, "btnShowFolder")->isVisible(), 10000);
         QCOMPARE(lastProgress, QStringLiteral("1.5 MB of 1.5 MB"));
         QCOMPARE(QFileInfo(target).size(), 1572864);
-        QCOMPARE(window->stTitle->text(), QStringLiteral("The update was saved as \"") +
-                                              QDir::toNativeSeparators(target) + QStringLiteral("\"."));
-        QTest::mouseClick(window->btnShowFolder, Qt::LeftButton);
+        QCOMPARE(testkit::child<QLabel>(window, "stTitle")->text(), QStringLiteral("The update was saved as \"") +
+                                                                        QDir::toNativeSeparators(target) +
+                                                                        QStringLiteral("\"."));
+        QTest::mouseClick(testkit::child<QPushButton>(window, "btnShowFolder"), Qt::LeftButton);
         QCOMPARE(fake.files.revealed, QStringList{target});
-        QCOMPARE(window->btnCancel->text(), QStringLiteral("Close"));
-        QTest::mouseClick(window->btnCancel, Qt::LeftButton);
+        QCOMPARE(testkit::child<QPushButton>(window, "btnCancel")->text(), QStringLiteral("Close"));
+        QTest::mouseClick(testkit::child<QPushButton>(window, "btnCancel"), Qt::LeftButton);
         QTRY_VERIFY(!guard);
         QCOMPARE(QFileInfo(target).size(), 1572864);
     }
@@ -175,7 +177,7 @@ private Q_SLOTS:
         window->show();
         updater->Update(target);
         QTest::qWait(100);
-        QTest::mouseClick(window->btnCancel, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(window, "btnCancel"), Qt::LeftButton);
         QTest::qWait(100);
         QVERIFY(!QFileInfo::exists(target));
         QVERIFY(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
@@ -187,8 +189,8 @@ private Q_SLOTS:
         const QString text = expReporterScrn::reportText(QStringLiteral("OutOfBoundsException"),
                                                          {QStringLiteral("Sub teamScrn.save( string )")});
         expReporterScrn report(text);
-        report.errFld->appendPlainText(QStringLiteral("Tom & Jerry's #1 100%? ok"));
-        QTest::mouseClick(report.reportBtn, Qt::LeftButton);
+        testkit::child<QPlainTextEdit>(&report, "errFld")->appendPlainText(QStringLiteral("Tom & Jerry's #1 100%? ok"));
+        QTest::mouseClick(testkit::child<QPushButton>(&report, "reportBtn"), Qt::LeftButton);
         QCOMPARE(fake.urls.opened.size(), 1);
         const QUrl mail = fake.urls.opened.first();
         QCOMPARE(mail.scheme(), QStringLiteral("mailto"));
@@ -200,8 +202,8 @@ private Q_SLOTS:
         QVERIFY(body.startsWith(QStringLiteral("Error: OutOfBoundsException\r\nSub teamScrn.save( string )\r\n"
                                                "Tallyline Baseball v." TL_PROJECT_VERSION "\r\n")));
         QVERIFY(body.endsWith(QStringLiteral(" *Please feel free to add your comments.\r\nTom & Jerry's #1 100%? ok")));
-        QCOMPARE(report.ignoreBtn->text(), QStringLiteral("Continue"));
-        QVERIFY(report.reportBtn->isHidden());
+        QCOMPARE(testkit::child<QPushButton>(&report, "ignoreBtn")->text(), QStringLiteral("Continue"));
+        QVERIFY(testkit::child<QPushButton>(&report, "reportBtn")->isHidden());
     }
 };
 

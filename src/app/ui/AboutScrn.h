@@ -14,14 +14,15 @@ class AboutScrn : public QDialog
 public:
     explicit AboutScrn(QWidget *parent = nullptr);
 
-    QLabel *picture = nullptr;
-    QLabel *versLabel = nullptr;
-    QPlainTextEdit *creditsTxt = nullptr;
-
     // "Version 2.2.0: Build 2"
     static QString versionText();
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QLabel *versLabel = nullptr;
+    QPlainTextEdit *creditsTxt = nullptr;
+    QLabel *picture = nullptr;
 };

@@ -32,14 +32,6 @@ public:
 
     QImage curLogo;
 
-    QComboBox *SelectSeasonPop = nullptr;
-    QLabel *teamNameLabel = nullptr;
-    // Names the season file that could not be opened; hidden while a season is open.
-    QLabel *seasonProblemLabel = nullptr;
-    // On a season without teams: where to begin.
-    QLabel *firstStepLabel = nullptr;
-    LogoCanvas *LogoHolder = nullptr;
-    QPushButton *helpBtn = nullptr;
     MainMenuBar *menuBar() const { return menus(); }
 
 protected:
@@ -55,6 +47,14 @@ private:
     void showAbout();
 
     bool m_fillingPopup = false;
+    QComboBox *SelectSeasonPop = nullptr;
+    QLabel *teamNameLabel = nullptr;
+    // Names the season file that could not be opened; hidden while a season is open.
+    QLabel *seasonProblemLabel = nullptr;
+    // On a season without teams: where to begin.
+    QLabel *firstStepLabel = nullptr;
+    LogoCanvas *LogoHolder = nullptr;
+    QPushButton *helpBtn = nullptr;
     bool m_indexJustChanged = false;
     bool m_placed = false;
     QList<std::pair<QPushButton *, ScreenId>> m_targets;

@@ -144,17 +144,17 @@ int main(int argc, char *argv[])
     save(take(new startScrn1), out.filePath(QStringLiteral("start-screen.png")));
     {
         auto *screen = new teamScrn;
-        screen->teamList->setSelectedRow(0);
+        screen->findChild<qlmListBox *>(QStringLiteral("teamList"))->setSelectedRow(0);
         save(take(screen), out.filePath(QStringLiteral("team-screen.png")));
     }
     {
         auto *screen = new personnelScrn;
-        screen->playersList->setSelectedRow(1);
+        screen->findChild<qlmListBox *>(QStringLiteral("playersList"))->setSelectedRow(1);
         save(take(screen), out.filePath(QStringLiteral("personnel.png")));
     }
     {
         auto *screen = new scheduleScrn;
-        screen->ScheduleListbox->setSelectedRow(2);
+        screen->findChild<qlmListBox *>(QStringLiteral("ScheduleListbox"))->setSelectedRow(2);
         save(take(screen), out.filePath(QStringLiteral("schedule.png")));
     }
     {
@@ -172,13 +172,13 @@ int main(int argc, char *argv[])
     }
     {
         HelpAbbrevScrn *window = HelpAbbrevScrn::instance();
-        window->termsLB->setSelectedRow(4);
+        window->findChild<qlmListBox *>(QStringLiteral("termsLB"))->setSelectedRow(4);
         window->resize(360, 460);
         save(take(window), out.filePath(QStringLiteral("abbreviations.png")));
     }
     {
         auto *window = new helpScrn2(0);
-        window->myIndexCtnr->indexLB->setCurrentRow(7);
+        window->findChild<QListWidget *>(QStringLiteral("indexLB"))->setCurrentRow(7);
         window->resize(900, 640);
         window->show();
         settle(500);

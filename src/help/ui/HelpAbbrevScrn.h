@@ -22,11 +22,11 @@ public:
 
     void search();
 
-    QLineEdit *searchFld = nullptr;
-    qlmListBox *termsLB = nullptr;
-    QPushButton *CloseBtn = nullptr;
     QTimer typingTimer;
 
 private:
     explicit HelpAbbrevScrn(QWidget *parent = nullptr);
+    QLineEdit *searchFld = nullptr;
+    qlmListBox *termsLB = nullptr;
+    QPushButton *CloseBtn = nullptr;
 };

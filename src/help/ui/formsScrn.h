@@ -27,12 +27,6 @@ public:
     const QImage &picture(int which);
 
     int whichP = 0;
-    qlmListBox *formsList = nullptr;
-    QWidget *displayCnv = nullptr;
-    QPushButton *printBtn = nullptr;
-    QPushButton *closeBtn = nullptr;
-    myInfoBtn *helpBtn = nullptr;
-    qlmLabel *txtprefs = nullptr;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -40,4 +34,10 @@ protected:
 private:
     QList<QImage> m_pictures;
     QList<bool> m_decoded;
+    qlmListBox *formsList = nullptr;
+    QWidget *displayCnv = nullptr;
+    QPushButton *printBtn = nullptr;
+    QPushButton *closeBtn = nullptr;
+    myInfoBtn *helpBtn = nullptr;
+    qlmLabel *txtprefs = nullptr;
 };

@@ -19,13 +19,14 @@ class indexCtnr : public QWidget
 public:
     explicit indexCtnr(QWidget *parent = nullptr);
 
-    QListWidget *indexLB = nullptr;
-
 Q_SIGNALS:
     void linkClicked(const QString &target);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QListWidget *indexLB = nullptr;
 };
 
 // The help window: the index on the left, one page on the right. Opened
@@ -47,13 +48,14 @@ public:
     QString curDocName;
     bool indexVisible = false;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
     indexCtnr *myIndexCtnr = nullptr;
     QTextBrowser *myHTML = nullptr;
     HTMLField *stylFld = nullptr;
     QPushButton *hideBtn = nullptr;
     QPushButton *closeBtn = nullptr;
     QLabel *noticeFld = nullptr;
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
 };

@@ -23,18 +23,18 @@ int main(int argc, char *argv[])
     const QString which = tool.args().at(2);
     if (which == u"InventoryScrn") {
         auto *screen = new InventoryScrn;
-        screen->selPlayerPop->setCurrentIndex(2);
-        screen->teamInvList->setSelectedRow(3);
+        screen->findChild<QComboBox *>(QStringLiteral("selPlayerPop"))->setCurrentIndex(2);
+        screen->findChild<qlmListBox *>(QStringLiteral("teamInvList"))->setSelectedRow(3);
         return tool.show(screen);
     }
     if (which == u"contactInfoScrn") {
         auto *screen = new contactInfoScrn;
-        screen->playersList->setRowSelected(0, true);
-        screen->playersList->setRowSelected(3, true);
+        screen->findChild<qlmListBox *>(QStringLiteral("playersList"))->setRowSelected(0, true);
+        screen->findChild<qlmListBox *>(QStringLiteral("playersList"))->setRowSelected(3, true);
         return tool.show(screen);
     }
     auto *screen = new practicePlanScrn(QString::number(practice));
-    screen->activityBox->setCurrentIndex(3);
-    screen->drillList->setSelectedRow(2);
+    screen->findChild<QComboBox *>(QStringLiteral("activityBox"))->setCurrentIndex(3);
+    screen->findChild<qlmListBox *>(QStringLiteral("drillList"))->setSelectedRow(2);
     return tool.show(screen);
 }

@@ -30,10 +30,10 @@ int main(int argc, char *argv[])
     }
     if (tool.args().at(2) == u"teamScrn") {
         auto *screen = new teamScrn;
-        screen->teamList->setSelectedRow(0);
+        screen->findChild<qlmListBox *>(QStringLiteral("teamList"))->setSelectedRow(0);
         return tool.show(screen);
     }
     auto *screen = new personnelScrn;
-    screen->playersList->setSelectedRow(1);
+    screen->findChild<qlmListBox *>(QStringLiteral("playersList"))->setSelectedRow(1);
     return tool.show(screen);
 }

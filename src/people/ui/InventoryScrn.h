@@ -35,23 +35,7 @@ public:
     void importInvItems();
     void exportInvItems();
 
-    QLabel *titleLbl = nullptr;
-    QComboBox *selTeamPop = nullptr;
-    QComboBox *selPlayerPop = nullptr;
-    qlmListBox *teamInvList = nullptr;
-    qlmListBox *IndivList = nullptr;
-    QLabel *Label1 = nullptr;
-    QLabel *IDLabel = nullptr;
     std::array<QLineEdit *, 3> inputFld{};
-    PlusMinusContainer *TeamInvPlusMinus = nullptr;
-    QPushButton *addBtn = nullptr;
-    QPushButton *RemoveBtn = nullptr;
-    QPushButton *deleteItemBtn = nullptr;
-    QPushButton *printTeamInvBtn = nullptr;
-    QPushButton *printPlayerInvBtn = nullptr;
-    QPushButton *closeBtn = nullptr;
-    myInfoBtn *helpBtn = nullptr;
-    QLabel *playerIDFld = nullptr;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -74,4 +58,20 @@ private:
 
     people::InventoryBook m_book;
     bool prohibitChange = false;
+    QLabel *titleLbl = nullptr;
+    QComboBox *selTeamPop = nullptr;
+    QComboBox *selPlayerPop = nullptr;
+    qlmListBox *teamInvList = nullptr;
+    qlmListBox *IndivList = nullptr;
+    QLabel *Label1 = nullptr;
+    QLabel *IDLabel = nullptr;
+    PlusMinusContainer *TeamInvPlusMinus = nullptr;
+    QPushButton *addBtn = nullptr;
+    QPushButton *RemoveBtn = nullptr;
+    QPushButton *deleteItemBtn = nullptr;
+    QPushButton *printTeamInvBtn = nullptr;
+    QPushButton *printPlayerInvBtn = nullptr;
+    QPushButton *closeBtn = nullptr;
+    myInfoBtn *helpBtn = nullptr;
+    QLabel *playerIDFld = nullptr;
 };

@@ -25,6 +25,11 @@ public:
     void hndlPrinting();
     void hndlEmail();
 
+private:
+    void listChanged(qlmListBox *changed, qlmListBox *other);
+
+    people::ContactBook m_book;
+    bool prohibitChg = false;
     QComboBox *selectTeamPop = nullptr;
     QLabel *teamIDFld = nullptr;
     qlmListBox *playersList = nullptr;
@@ -33,10 +38,4 @@ public:
     QPushButton *printBtn = nullptr;
     QPushButton *closeBtn = nullptr;
     myInfoBtn *helpBtn = nullptr;
-
-private:
-    void listChanged(qlmListBox *changed, qlmListBox *other);
-
-    people::ContactBook m_book;
-    bool prohibitChg = false;
 };

@@ -36,6 +36,10 @@ public:
     bool validateEntries();
     QString rtrnEmail() const { return m_rtrnEmail; }
 
+private:
+    void acceptBtn_Action();
+
+    QString m_rtrnEmail;
     QLineEdit *serverFld = nullptr;
     QLineEdit *usernameFld = nullptr;
     QLineEdit *passwordFld = nullptr;
@@ -45,9 +49,4 @@ public:
     QLabel *storeNoteLbl = nullptr;
     QPushButton *acceptBtn = nullptr;
     QPushButton *cancelBtn = nullptr;
-
-private:
-    void acceptBtn_Action();
-
-    QString m_rtrnEmail;
 };

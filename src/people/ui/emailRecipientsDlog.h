@@ -27,15 +27,6 @@ public:
     void fillLists();
     QString recipientStr() const { return m_recipientStr; }
 
-    QComboBox *selectTeamPop = nullptr;
-    QLabel *teamIDFld = nullptr;
-    qlmListBox *coachesList = nullptr;
-    qlmListBox *playersList = nullptr;
-    qlmCheckBox *coachSelAllCheck = nullptr;
-    qlmCheckBox *playerSelAllCheck = nullptr;
-    QPushButton *setBtn = nullptr;
-    QPushButton *cancelBtn = nullptr;
-
 private:
     void setBtn_Action();
     static QList<people::ContactBook::Recipient> checked(const qlmListBox *list,
@@ -45,4 +36,12 @@ private:
     QList<people::ContactBook::Recipient> m_coaches;
     QList<people::ContactBook::Recipient> m_players;
     QString m_recipientStr;
+    QComboBox *selectTeamPop = nullptr;
+    QLabel *teamIDFld = nullptr;
+    qlmListBox *coachesList = nullptr;
+    qlmListBox *playersList = nullptr;
+    qlmCheckBox *coachSelAllCheck = nullptr;
+    qlmCheckBox *playerSelAllCheck = nullptr;
+    QPushButton *setBtn = nullptr;
+    QPushButton *cancelBtn = nullptr;
 };

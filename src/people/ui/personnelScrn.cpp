@@ -229,6 +229,7 @@ void personnelScrn::buildControls()
     upper->addLayout(photoSide);
 
     myPlayerCtr = new playerInfoCtr(central);
+    myPlayerCtr->setObjectName(QStringLiteral("myPlayerCtr"));
     tradeToPop = form::comboBox(central, u"tradeToPop"_s, u"Trade to team"_s);
     tradeToPop->setToolTip(u"Choose a team, then save, to move this member there"_s);
     actionBtn = form::button(central, u"actionBtn"_s, kAddMember);

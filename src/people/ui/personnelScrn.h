@@ -53,33 +53,8 @@ public:
     people::RosterBook &book() { return *m_book; }
     MainMenuBar *menuBar() const { return menus(); }
 
-    QRadioButton *SelectPlayer = nullptr;
-    QRadioButton *SelectCoach = nullptr;
-    QComboBox *selectTeamPop = nullptr;
-    QLabel *teamIDFld = nullptr;
-    qlmListBox *playersList = nullptr;
-    qlmListBox *coachesList = nullptr;
-    PlusMinusContainer *PlusMinusPlayers = nullptr;
-    PlusMinusContainer *PlusMinusCoaches = nullptr;
-    QLineEdit *FNameFld = nullptr;
-    QLineEdit *LNameFld = nullptr;
-    QLineEdit *addr1Fld = nullptr;
-    QLineEdit *addr2Fld = nullptr;
-    QLineEdit *cityFld = nullptr;
-    QLineEdit *zipFld = nullptr;
-    QComboBox *StatePop = nullptr;
     // Phone and cell phone.
     iPhoneField *newPhoneFld[2] = {};
-    QLineEdit *emailFld = nullptr;
-    qlmCheckBox *asstCheck = nullptr;
-    qlmCheckBox *activeCheck = nullptr;
-    PictureCanvas *indivPicCnv = nullptr;
-    PlusMinusContainer *PlusMinusIndivPic = nullptr;
-    QComboBox *tradeToPop = nullptr;
-    QPushButton *actionBtn = nullptr;
-    QPushButton *closeBtn = nullptr;
-    QToolButton *printBtn = nullptr;
-    playerInfoCtr *myPlayerCtr = nullptr;
 
     // File > Export Data: the selected team's players as CSV.
     void exportRoster();
@@ -111,4 +86,29 @@ private:
     // The member on show: which table and which row.
     people::MemberKind m_loadedKind = people::MemberKind::Player;
     QString m_loadedID;
+    QRadioButton *SelectPlayer = nullptr;
+    QRadioButton *SelectCoach = nullptr;
+    QComboBox *selectTeamPop = nullptr;
+    QLabel *teamIDFld = nullptr;
+    qlmListBox *playersList = nullptr;
+    qlmListBox *coachesList = nullptr;
+    PlusMinusContainer *PlusMinusPlayers = nullptr;
+    PlusMinusContainer *PlusMinusCoaches = nullptr;
+    QLineEdit *FNameFld = nullptr;
+    QLineEdit *LNameFld = nullptr;
+    QLineEdit *addr1Fld = nullptr;
+    QLineEdit *addr2Fld = nullptr;
+    QLineEdit *cityFld = nullptr;
+    QLineEdit *zipFld = nullptr;
+    QComboBox *StatePop = nullptr;
+    QLineEdit *emailFld = nullptr;
+    qlmCheckBox *asstCheck = nullptr;
+    qlmCheckBox *activeCheck = nullptr;
+    PictureCanvas *indivPicCnv = nullptr;
+    PlusMinusContainer *PlusMinusIndivPic = nullptr;
+    QComboBox *tradeToPop = nullptr;
+    QPushButton *actionBtn = nullptr;
+    QPushButton *closeBtn = nullptr;
+    QToolButton *printBtn = nullptr;
+    playerInfoCtr *myPlayerCtr = nullptr;
 };

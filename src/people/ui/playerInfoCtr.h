@@ -33,21 +33,9 @@ public:
 
     bool isClearing = false;
 
-    QTabWidget *infoTabs = nullptr;
-    QLineEdit *UNumFld = nullptr;
     QComboBox *PositionPop[3] = {};
-    QComboBox *batPop = nullptr;
-    QComboBox *throwPop = nullptr;
-    QPlainTextEdit *plNotesFld = nullptr;
-    QLineEdit *guardianFld = nullptr;
-    QLineEdit *emergFld = nullptr;
-    QLineEdit *doctorFld = nullptr;
     // The guardian's, emergency contact's and doctor's phones.
     iPhoneField *contactPhone[3] = {};
-    QLineEdit *medicalFld = nullptr;
-    QLineEdit *DOBFld = nullptr;
-    QLineEdit *StudentIDFld = nullptr;
-    QLabel *ageLabel = nullptr;
 
 Q_SIGNALS:
     void setDirty();
@@ -57,4 +45,16 @@ protected:
 
 private:
     void changed();
+    QTabWidget *infoTabs = nullptr;
+    QLineEdit *UNumFld = nullptr;
+    QComboBox *batPop = nullptr;
+    QComboBox *throwPop = nullptr;
+    QPlainTextEdit *plNotesFld = nullptr;
+    QLineEdit *guardianFld = nullptr;
+    QLineEdit *emergFld = nullptr;
+    QLineEdit *doctorFld = nullptr;
+    QLineEdit *medicalFld = nullptr;
+    QLineEdit *DOBFld = nullptr;
+    QLineEdit *StudentIDFld = nullptr;
+    QLabel *ageLabel = nullptr;
 };

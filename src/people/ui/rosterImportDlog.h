@@ -25,10 +25,6 @@ public:
     const people::RosterImport &import() const { return m_import; }
 
     QList<QComboBox *> mapPops; // one per people::rosterFields()
-    qlmListBox *previewList = nullptr;
-    QLabel *countLbl = nullptr;
-    QPushButton *importBtn = nullptr;
-    QPushButton *cancelBtn = nullptr;
 
     static constexpr int kPreviewRows = 5;
 
@@ -36,4 +32,8 @@ private:
     void showPreview();
 
     people::RosterImport m_import;
+    qlmListBox *previewList = nullptr;
+    QLabel *countLbl = nullptr;
+    QPushButton *importBtn = nullptr;
+    QPushButton *cancelBtn = nullptr;
 };

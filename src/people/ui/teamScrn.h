@@ -43,6 +43,20 @@ public:
     people::TeamBook &book() { return *m_book; }
     MainMenuBar *menuBar() const { return menus(); }
 
+protected:
+    bool mayClose() override;
+
+private:
+    void buildControls();
+    void teamList_selectionChanged();
+    void teamList_CellClick(int row, int column);
+    void actionBtn_Action();
+    void deleteSelectedTeam();
+    void addLogo();
+    people::TeamRecord teamFromFields() const;
+
+    std::unique_ptr<people::TeamBook> m_book;
+    bool m_clearing = false;
     qlmListBox *teamList = nullptr;
     qlmLabel *ListTitle = nullptr;
     QLineEdit *teamFld = nullptr;
@@ -65,19 +79,4 @@ public:
     QPushButton *actionBtn = nullptr;
     QPushButton *cancelBtn = nullptr;
     QToolButton *printBtn = nullptr;
-
-protected:
-    bool mayClose() override;
-
-private:
-    void buildControls();
-    void teamList_selectionChanged();
-    void teamList_CellClick(int row, int column);
-    void actionBtn_Action();
-    void deleteSelectedTeam();
-    void addLogo();
-    people::TeamRecord teamFromFields() const;
-
-    std::unique_ptr<people::TeamBook> m_book;
-    bool m_clearing = false;
 };

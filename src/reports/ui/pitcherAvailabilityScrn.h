@@ -30,15 +30,14 @@ public:
     void printReport();
     void exportReport();
 
+private:
+    QString reportTitle() const;
+
+    stats::PitchRuleSet m_rules;
     QLabel *titleLbl = nullptr;
     QDateEdit *todayFld = nullptr;
     QLabel *rulesLbl = nullptr;
     qlmListBox *availBox = nullptr;
     myInfoBtn *helpBtn = nullptr;
     QPushButton *closeBtn = nullptr;
-
-private:
-    QString reportTitle() const;
-
-    stats::PitchRuleSet m_rules;
 };

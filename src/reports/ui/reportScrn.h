@@ -28,16 +28,6 @@ public:
     void printReport();
     void exportReport();
 
-    qlmListBox *reportBox = nullptr;
-    QLabel *titleLbl = nullptr;
-    QComboBox *leagueFilter = nullptr;
-    QComboBox *DivisionFilter = nullptr;
-    QComboBox *teamFilter = nullptr;
-    // "Standard" (the chosen columns) or "More" (the modern rates).
-    QComboBox *columnSetPop = nullptr;
-    QPushButton *closeBtn = nullptr;
-    QPushButton *newRptBtn = nullptr;
-    myInfoBtn *helpBtn = nullptr;
     bool showNewRept = false;
 
 protected:
@@ -52,4 +42,14 @@ private:
 
     reports::SeasonReport m_report;
     reports::ReportFilter m_filter;
+    qlmListBox *reportBox = nullptr;
+    QLabel *titleLbl = nullptr;
+    QComboBox *leagueFilter = nullptr;
+    QComboBox *DivisionFilter = nullptr;
+    QComboBox *teamFilter = nullptr;
+    // "Standard" (the chosen columns) or "More" (the modern rates).
+    QComboBox *columnSetPop = nullptr;
+    QPushButton *closeBtn = nullptr;
+    QPushButton *newRptBtn = nullptr;
+    myInfoBtn *helpBtn = nullptr;
 };

@@ -21,24 +21,15 @@ class standingsScrn : public ScreenBase
 public:
     explicit standingsScrn(QWidget *parent = nullptr);
 
-    void fillStandLB();
-    void saveData();
-    void editWLBtn_Action();
-
-    qlmListBox *myLB = nullptr;
-    QComboBox *standSelPop = nullptr;
-    QPushButton *editWLBtn = nullptr;
-    QPushButton *CloseBtn = nullptr;
-    QLabel *noGamesWarning = nullptr;
-    bool allowEdits = false;
-    bool dataDirty = false;
-
 protected:
     bool mayClose() override;
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void fillStandLB();
+    void saveData();
+    void editWLBtn_Action();
     void acquireData();
     void viewChanged();
     void myLB_CellClick(int row, int column);
@@ -49,4 +40,11 @@ private:
     void setRecordCellsEditable(bool editable);
 
     reports::Standings m_standings;
+    qlmListBox *myLB = nullptr;
+    QComboBox *standSelPop = nullptr;
+    QPushButton *editWLBtn = nullptr;
+    QPushButton *CloseBtn = nullptr;
+    QLabel *noGamesWarning = nullptr;
+    bool allowEdits = false;
+    bool dataDirty = false;
 };

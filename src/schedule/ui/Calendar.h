@@ -36,14 +36,6 @@ public:
     // Always the 1st of the month shown.
     QDate whichDate;
 
-    QComboBox *PopupMonth = nullptr;
-    QComboBox *PopupYear = nullptr;
-    QList<QPushButton *> BevelButton1;  // 37 day slots, Sunday first
-    QList<QLabel *> StaticText1;        // the day names
-    QPushButton *PushButton1 = nullptr; // next month
-    QPushButton *PushButton2 = nullptr; // previous month
-    QPushButton *PushButton3 = nullptr; // this month
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -59,4 +51,11 @@ private:
     QDate m_chosen;
     QDate m_startDate;  // shown in bold while its month is on screen
     int m_focusDay = 0; // the day to focus when a month is laid out
+    QComboBox *PopupMonth = nullptr;
+    QComboBox *PopupYear = nullptr;
+    QList<QPushButton *> BevelButton1;  // 37 day slots, Sunday first
+    QList<QLabel *> StaticText1;        // the day names
+    QPushButton *PushButton1 = nullptr; // next month
+    QPushButton *PushButton2 = nullptr; // previous month
+    QPushButton *PushButton3 = nullptr; // this month
 };

@@ -16,13 +16,6 @@ class eventsCalendarScrn : public ScreenBase
 public:
     explicit eventsCalendarScrn(QWidget *parent = nullptr);
 
-    monthlyEventsLayer *eventCalendar1 = nullptr;
-    QPushButton *prevBtn = nullptr;
-    QPushButton *nextBtn = nullptr;
-    QPushButton *printBtn = nullptr;
-    QPushButton *closeBtn = nullptr;
-    QLabel *infoLabel = nullptr;
-
     // Puts the season's events on the calendar.
     void fillEvents();
     void hndlPrint();
@@ -33,4 +26,10 @@ protected:
 
 private:
     void turnMonth(int step);
+    monthlyEventsLayer *eventCalendar1 = nullptr;
+    QPushButton *prevBtn = nullptr;
+    QPushButton *nextBtn = nullptr;
+    QPushButton *printBtn = nullptr;
+    QPushButton *closeBtn = nullptr;
+    QLabel *infoLabel = nullptr;
 };

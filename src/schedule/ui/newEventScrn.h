@@ -39,6 +39,19 @@ public:
     // The date the picker gave, as the field shows it.
     void setPickedDate(const QDate &date);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QComboBox *timeBox(const QString &name, const QString &accessible, const QStringList &items, bool numbers);
+    void fill();
+    void readForm();
+    void showForm();
+    void calCnv_Click();
+    void locationChanged(const QString &text);
+
+    EventForm m_form;
+    std::optional<eventClass> m_result;
     QLineEdit *eventDateFld = nullptr;
     QToolButton *calCnv = nullptr;
     QComboBox *busHour = nullptr;
@@ -53,18 +66,4 @@ public:
     QCheckBox *homeCheck = nullptr;
     QPushButton *actionBtn = nullptr;
     QPushButton *cancelBtn = nullptr;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    QComboBox *timeBox(const QString &name, const QString &accessible, const QStringList &items, bool numbers);
-    void fill();
-    void readForm();
-    void showForm();
-    void calCnv_Click();
-    void locationChanged(const QString &text);
-
-    EventForm m_form;
-    std::optional<eventClass> m_result;
 };

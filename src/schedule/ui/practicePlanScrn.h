@@ -37,6 +37,19 @@ public:
     // Moves the selected drill one place up (-1) or down (+1).
     void moveDrill(int step);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildControls();
+    QList<QStringList> planRows() const;
+    void drillEdited(int row);
+    void storeOrder();
+    void updateButtons();
+    // The folder of the plan files; empty (the coach told) when missing.
+    static QString planFolder();
+
+    schedule::PracticePlan m_plan;
     QLabel *txtprefs = nullptr;
     QLabel *practDateLabel = nullptr;
     QLabel *practLocLabel = nullptr;
@@ -56,18 +69,4 @@ public:
     QPushButton *moveUpBtn = nullptr;
     QPushButton *moveDownBtn = nullptr;
     QPushButton *closeBtn = nullptr;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    void buildControls();
-    QList<QStringList> planRows() const;
-    void drillEdited(int row);
-    void storeOrder();
-    void updateButtons();
-    // The folder of the plan files; empty (the coach told) when missing.
-    static QString planFolder();
-
-    schedule::PracticePlan m_plan;
 };

@@ -33,20 +33,6 @@ public:
 
     ScheduleList &schedule() { return m_schedule; }
 
-    qlmListBox *ScheduleListbox = nullptr;
-    QPushButton *sortBtn = nullptr;
-    QComboBox *filterPop = nullptr;
-    QLineEdit *homeTeamFld = nullptr;
-    QPushButton *newEventBtn = nullptr;
-    QPushButton *editBtn = nullptr;
-    QPushButton *deleteEvBtn = nullptr;
-    QPushButton *enterDataBtn = nullptr;
-    QPushButton *printBtn = nullptr;
-    QPushButton *exportBtn = nullptr;
-    QPushButton *viewCalendarBtn = nullptr;
-    QPushButton *closeBtn = nullptr;
-    QPushButton *boxScoreBtn = nullptr; // the selected game's box score
-    QLabel *schedIDLabel = nullptr;
     MainMenuBar *menuBar() const { return menus(); }
 
 protected:
@@ -64,4 +50,18 @@ private:
 
     ScheduleList m_schedule;
     bool m_opened = false;
+    qlmListBox *ScheduleListbox = nullptr;
+    QPushButton *sortBtn = nullptr;
+    QComboBox *filterPop = nullptr;
+    QLineEdit *homeTeamFld = nullptr;
+    QPushButton *newEventBtn = nullptr;
+    QPushButton *editBtn = nullptr;
+    QPushButton *deleteEvBtn = nullptr;
+    QPushButton *enterDataBtn = nullptr;
+    QPushButton *printBtn = nullptr;
+    QPushButton *exportBtn = nullptr;
+    QPushButton *viewCalendarBtn = nullptr;
+    QPushButton *closeBtn = nullptr;
+    QPushButton *boxScoreBtn = nullptr; // the selected game's box score
+    QLabel *schedIDLabel = nullptr;
 };

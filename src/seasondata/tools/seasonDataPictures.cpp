@@ -39,11 +39,12 @@ int main(int argc, char *argv[])
 
     auto *sheet = new TransferDataScrn;
     sheet->show();
-    sheet->newNameFld->setText(QStringLiteral("2027"));
-    sheet->transferRadio->click();
-    sheet->fromLB->setSelectedRow(1);
+    sheet->findChild<QLineEdit *>(QStringLiteral("newNameFld"))->setText(QStringLiteral("2027"));
+    sheet->findChild<QRadioButton *>(QStringLiteral("newActionBtn1"))->click();
+    sheet->findChild<qlmListBox *>(QStringLiteral("fromLB"))->setSelectedRow(1);
     QTimer::singleShot(600, sheet, [&] {
-        sheet->toLB->addRow({QStringLiteral("Lincoln High Lions")}, QStringLiteral("1"));
+        sheet->findChild<qlmListBox *>(QStringLiteral("toLB"))
+            ->addRow({QStringLiteral("Lincoln High Lions")}, QStringLiteral("1"));
         sheet->grab().save(out.filePath(QStringLiteral("new-season.png")));
         sheet->close();
 

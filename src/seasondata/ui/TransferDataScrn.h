@@ -30,11 +30,16 @@ public:
     static constexpr int kListsHeight = 400;
     static constexpr int kAnimationMs = 250;
 
+private:
+    void newActionBtn_Action(int index);
+    void moveRow(qlmListBox *from, qlmListBox *to, int row);
+    void TransferBtn_Action();
+
+    QPropertyAnimation *m_resize = nullptr;
+    int m_collapsedHeight = 0;
     QLabel *curSeasonLbl = nullptr;
     QLineEdit *newNameFld = nullptr;
     QButtonGroup *newActionBtn = nullptr;
-    QRadioButton *emptyRadio = nullptr;
-    QRadioButton *transferRadio = nullptr;
     QPushButton *createBtn = nullptr;
     qlmListBox *fromLB = nullptr;
     qlmListBox *toLB = nullptr;
@@ -45,12 +50,6 @@ public:
     QPushButton *TransferBtn = nullptr;
     QPushButton *cancelBtn = nullptr;
     QWidget *teamArea = nullptr;
-
-private:
-    void newActionBtn_Action(int index);
-    void moveRow(qlmListBox *from, qlmListBox *to, int row);
-    void TransferBtn_Action();
-
-    QPropertyAnimation *m_resize = nullptr;
-    int m_collapsedHeight = 0;
+    QRadioButton *emptyRadio = nullptr;
+    QRadioButton *transferRadio = nullptr;
 };

@@ -26,8 +26,8 @@ public:
     QList<QLineEdit *> batAbbrev, batDesc;
     QList<QLineEdit *> fldAbbrev, fldDesc;
     QList<QLineEdit *> pitchAbbrev, pitchDesc;
-    QPushButton *saveBtn = nullptr;
 
 private:
     bool m_saving = false;
+    QPushButton *saveBtn = nullptr;
 };

@@ -41,10 +41,6 @@ public:
     void doRestore();
     bool isWorking() const { return m_working; }
 
-    QLabel *statusLbl = nullptr;
-    QLabel *detailLbl = nullptr;
-    QProgressBar *progressBar = nullptr;
-    QPushButton *CloseBtn = nullptr;
     QTimer closeTimer;
     QTimer cleanUpTimer;
     int closeCt = 6;
@@ -78,4 +74,8 @@ private:
     QString m_compactionMessage;
     QTimer m_stepTimer;
     std::function<void()> m_afterCopy;
+    QLabel *statusLbl = nullptr;
+    QLabel *detailLbl = nullptr;
+    QProgressBar *progressBar = nullptr;
+    QPushButton *CloseBtn = nullptr;
 };

@@ -129,7 +129,7 @@ struct Gallery
         auto *windows = new QHBoxLayout;
         auto *prompt = new getInfoScrn_small(nullptr, QStringLiteral("Plan name:"));
         prompt->setWindowFlags(Qt::Widget);
-        prompt->warningLbl->setVisible(true);
+        prompt->findChild<QLabel *>(QStringLiteral("warningLbl"))->setVisible(true);
         windows->addWidget(box(QStringLiteral("getInfoScrn_small, saved blank"), new QVBoxLayout));
         windows->itemAt(0)->widget()->layout()->addWidget(prompt);
         auto *wait = new pleaseWaitScrn(nullptr, QStringLiteral("Setting up the game screen"));

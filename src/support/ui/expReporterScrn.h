@@ -28,12 +28,6 @@ public:
     // " error" as the subject, the text as the body.
     static QUrl reportMail(const QString &text);
 
-    QPlainTextEdit *errFld = nullptr;
-    QLabel *errVersTxt = nullptr;
-    QPushButton *reportBtn = nullptr;
-    QPushButton *ignoreBtn = nullptr;
-    QPushButton *quitBtn = nullptr;
-
 Q_SIGNALS:
     // The coach chose to end the program (Quit App or the Enter key).
     void quitRequested();
@@ -41,4 +35,11 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QPlainTextEdit *errFld = nullptr;
+    QLabel *errVersTxt = nullptr;
+    QPushButton *reportBtn = nullptr;
+    QPushButton *ignoreBtn = nullptr;
+    QPushButton *quitBtn = nullptr;
 };

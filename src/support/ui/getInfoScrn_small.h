@@ -24,13 +24,12 @@ public:
 
     QString myData() const { return m_data; }
 
-    QLineEdit *dataFld = nullptr;
-    QLabel *warningLbl = nullptr;
-    QPushButton *saveBtn = nullptr;
-    QPushButton *cancelBtn = nullptr;
-
 private:
     void save();
 
     QString m_data;
+    QLineEdit *dataFld = nullptr;
+    QLabel *warningLbl = nullptr;
+    QPushButton *saveBtn = nullptr;
+    QPushButton *cancelBtn = nullptr;
 };

@@ -21,13 +21,12 @@ public:
     // keeps the event loop busy.
     void showNow();
 
-    QLabel *titleLbl = nullptr;
-    QLabel *detailLbl = nullptr;
-
 protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
     bool m_cursorSet = false;
+    QLabel *titleLbl = nullptr;
+    QLabel *detailLbl = nullptr;
 };

@@ -19,15 +19,16 @@ public:
     explicit updateDlog(QWidget *parent = nullptr);
 
     cAutoUpdate *updater = nullptr;
-    QLabel *updatetext = nullptr;
-    QPlainTextEdit *descriptionFld = nullptr;
-    QPushButton *actionBtn = nullptr;
-    QPushButton *cancelBtn = nullptr;
 
 private:
     void offered(const QString &version, const QString &description);
     void upToDate(const QString &message);
     void action();
+
+    QLabel *updatetext = nullptr;
+    QPlainTextEdit *descriptionFld = nullptr;
+    QPushButton *actionBtn = nullptr;
+    QPushButton *cancelBtn = nullptr;
 };
 
 // The download of a new version, with its progress and a Cancel button.
@@ -43,6 +44,8 @@ public:
     void Associate(cAutoUpdate *updater);
 
     cAutoUpdate *Updater = nullptr;
+
+private:
     QProgressBar *pbDownload = nullptr;
     QLabel *stTitle = nullptr;
     QLabel *stProgress = nullptr;

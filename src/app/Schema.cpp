@@ -132,7 +132,7 @@ const QStringList &addedTableStatements()
 {
     static const QStringList statements = {
         QStringLiteral("CREATE TABLE IF NOT EXISTS DefenseMoves (moveID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL "
-                       "UNIQUE, gameID Varchar, teamID Varchar, playerID Varchar, inning Integer, pos Varchar)"),
+                       "UNIQUE, schedID Varchar, teamID Varchar, playerID Varchar, inning Integer, pos Varchar)"),
     };
     return statements;
 }

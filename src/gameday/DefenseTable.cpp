@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 const QStringList &defensePositions()
 {
-    static const QStringList positions = {u"P"_s,  u"C"_s,  u"1B"_s, u"2B"_s, u"3B"_s,
-                                          u"SS"_s, u"LF"_s, u"CF"_s, u"RF"_s, u"DH"_s};
+    static const QStringList positions = {u"P"_s,  u"C"_s,  u"1B"_s, u"2B"_s, u"3B"_s, u"SS"_s,
+                                          u"LF"_s, u"CF"_s, u"RF"_s, u"OF"_s, u"DH"_s};
     return positions;
 }
 
@@ -25,6 +25,12 @@ QString fieldPosition(const QString &lineupPos)
     const QString pos = lineupPos.trimmed().toUpper();
     if (pos == u"RHP" || pos == u"LHP")
         return u"P"_s;
+    // The program's own abbreviations for the bases, and the fielders of
+    // leagues that play ten (short field, left- and right-center).
+    if (pos == u"B1" || pos == u"B2" || pos == u"B3")
+        return pos.mid(1) + u'B';
+    if (pos == u"SF" || pos == u"LCF" || pos == u"RCF")
+        return u"OF"_s;
     return defensePositions().contains(pos) ? pos : QString();
 }
 
@@ -156,10 +162,10 @@ QStringList DefenseTable::playersAt(const QString &pos, int inning) const
     return ids;
 }
 
-bool DefenseTable::usesDH() const
+bool DefenseTable::uses(const QString &pos) const
 {
     for (const Player &p : m_players)
-        if (std::find(p.pos.begin(), p.pos.end(), u"DH"_s) != p.pos.end())
+        if (std::find(p.pos.begin(), p.pos.end(), pos) != p.pos.end())
             return true;
     return false;
 }
@@ -167,8 +173,9 @@ bool DefenseTable::usesDH() const
 QStringList DefenseTable::rows() const
 {
     QStringList rows = defensePositions();
-    if (!usesDH())
-        rows.removeLast();
+    for (const QString &optional : {u"OF"_s, u"DH"_s})
+        if (!uses(optional))
+            rows.removeOne(optional);
     return rows;
 }
 
@@ -244,15 +251,15 @@ int tableInnings(int regulation, const TeamStrings &a, const TeamStrings &b)
 
 // --- Storage ---------------------------------------------------------------
 
-QList<DefenseMove> DefenseStore::moves(const QString &gameID, const QString &teamID) const
+QList<DefenseMove> DefenseStore::moves(const QString &schedID, const QString &teamID) const
 {
     QList<DefenseMove> out;
     if (m_db.scalar(u"SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = 'DefenseMoves'"_s).toInt() ==
         0)
         return out;
-    const auto rows = m_db.select(u"SELECT playerID, inning, pos FROM DefenseMoves WHERE gameID = ? AND teamID = ? "
+    const auto rows = m_db.select(u"SELECT playerID, inning, pos FROM DefenseMoves WHERE schedID = ? AND teamID = ? "
                                   u"ORDER BY inning, moveID"_s,
-                                  {gameID, teamID});
+                                  {schedID, teamID});
     for (const auto &row : rows)
         out.append({row.values.at(0).toString(), row.values.at(1).toInt(), row.values.at(2).toString()});
     return out;
@@ -265,17 +272,17 @@ QHash<QString, QList<DefenseMove>> DefenseStore::allMoves() const
         0)
         return out;
     const auto rows = m_db.select(
-        u"SELECT gameID, teamID, playerID, inning, pos FROM DefenseMoves ORDER BY inning, moveID"_s);
+        u"SELECT schedID, teamID, playerID, inning, pos FROM DefenseMoves ORDER BY inning, moveID"_s);
     for (const auto &row : rows)
         out[row.values.at(0).toString() + kFieldSep + row.values.at(1).toString()].append(
             {row.values.at(2).toString(), row.values.at(3).toInt(), row.values.at(4).toString()});
     return out;
 }
 
-DefenseChange DefenseStore::move(const QString &gameID, const QString &teamID, const DefenseTable &current,
+DefenseChange DefenseStore::move(const QString &schedID, const QString &teamID, const DefenseTable &current,
                                  const QString &playerID, int inning, const QString &pos)
 {
-    DefenseChange change{gameID, teamID, {}};
+    DefenseChange change{schedID, teamID, {}};
     const QString target = fieldPosition(pos);
     const QString old = current.positionOf(playerID, inning);
     if (!current.player(playerID) || inning < 1 || inning > current.innings() || old == target)
@@ -287,7 +294,7 @@ DefenseChange DefenseStore::move(const QString &gameID, const QString &teamID, c
             if (other != playerID)
                 wanted.append({other, old});
 
-    const QList<DefenseMove> stored = moves(gameID, teamID);
+    const QList<DefenseMove> stored = moves(schedID, teamID);
     for (const auto &[id, newPos] : wanted) {
         DefenseChange::Row row{id, inning, std::nullopt, newPos};
         for (const DefenseMove &m : stored)
@@ -307,11 +314,11 @@ bool DefenseStore::apply(const DefenseChange &change)
         for (const QString &statement : schema::addedTableStatements())
             m_db.exec(statement);
         for (const DefenseChange::Row &row : change.rows) {
-            m_db.exec(u"DELETE FROM DefenseMoves WHERE gameID = ? AND teamID = ? AND playerID = ? AND inning = ?"_s,
-                      {change.gameID, change.teamID, row.playerID, row.inning});
+            m_db.exec(u"DELETE FROM DefenseMoves WHERE schedID = ? AND teamID = ? AND playerID = ? AND inning = ?"_s,
+                      {change.schedID, change.teamID, row.playerID, row.inning});
             if (row.after)
-                m_db.exec(u"INSERT INTO DefenseMoves (gameID, teamID, playerID, inning, pos) VALUES (?, ?, ?, ?, ?)"_s,
-                          {change.gameID, change.teamID, row.playerID, row.inning, *row.after});
+                m_db.exec(u"INSERT INTO DefenseMoves (schedID, teamID, playerID, inning, pos) VALUES (?, ?, ?, ?, ?)"_s,
+                          {change.schedID, change.teamID, row.playerID, row.inning, *row.after});
         }
     });
 }

@@ -25,12 +25,15 @@ namespace gameday {
 
 class ScoreGrid;
 
-// The rows of the table, in scorebook order; "DH" shows only when used.
+// The rows of the table, in scorebook order; "OF" (a tenth fielder: short
+// field, left- or right-center, an outfielder not placed) and "DH" show
+// only when used.
 const QStringList &defensePositions();
 // The table's position for a lineup position: "RHP", "LHP" and "P" are
-// "P"; one of the table's positions stands as it is (upper-cased); any
-// other text (an extra hitter, nothing typed) is "": in the game, not in
-// the field.
+// "P", "B1" to "B3" the bases, "SF", "LCF" and "RCF" "OF"; one of the
+// table's positions stands as it is (upper-cased); any other text (an
+// extra hitter, a pinch hitter or runner, nothing typed) is "": in the
+// game, not in the field.
 QString fieldPosition(const QString &lineupPos);
 // Whether a table position counts as an inning in the field (DH doesn't).
 bool isFieldPosition(const QString &pos);
@@ -74,8 +77,8 @@ public:
     // The players at a position in an inning, in lineup order (more than
     // one only when the lineup gives two players the same position).
     QStringList playersAt(const QString &pos, int inning) const;
-    bool usesDH() const;
-    // The table's rows: the positions, with "DH" when used.
+    bool uses(const QString &pos) const;
+    // The table's rows: the positions, with "OF" and "DH" when used.
     QStringList rows() const;
 
     // The innings of `counted` (1-based) the player spent at `pos`; with
@@ -110,7 +113,7 @@ struct DefenseChange
         std::optional<QString> before;
         std::optional<QString> after;
     };
-    QString gameID;
+    QString schedID;
     QString teamID;
     QList<Row> rows;
     bool isEmpty() const { return rows.isEmpty(); }
@@ -122,15 +125,15 @@ class DefenseStore
 public:
     explicit DefenseStore(myDB &db) : m_db(db) {}
 
-    QList<DefenseMove> moves(const QString &gameID, const QString &teamID) const;
-    // Every move of the season by game and team ("game\tteam").
+    QList<DefenseMove> moves(const QString &schedID, const QString &teamID) const;
+    // Every move of the season by event and team ("schedID\tteam").
     QHash<QString, QList<DefenseMove>> allMoves() const;
 
     // Puts `playerID` at `pos` from `inning` on. Whoever held `pos` in that
     // inning takes the player's old position from the same inning, so no
     // position is held twice. One transaction; the change is empty when
     // nothing changed or the write failed.
-    DefenseChange move(const QString &gameID, const QString &teamID, const DefenseTable &current,
+    DefenseChange move(const QString &schedID, const QString &teamID, const DefenseTable &current,
                        const QString &playerID, int inning, const QString &pos);
     // Writes each row's `after` (a missing value deletes the row), in one
     // transaction: a change as made, or with before and after swapped to

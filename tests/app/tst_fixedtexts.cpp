@@ -128,7 +128,7 @@ private Q_SLOTS:
             "CREATE TABLE PlayerInventory (serial INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "ctrlNum INTEGER NOT NULL DEFAULT 0, PlayerID Varchar, Item Varchar, ItemID Varchar)");
         QTest::newRow("DefenseMoves") << QString(
-            "CREATE TABLE DefenseMoves (moveID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, gameID Varchar, "
+            "CREATE TABLE DefenseMoves (moveID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, schedID Varchar, "
             "teamID Varchar, playerID Varchar, inning Integer, pos Varchar)");
     }
     void schema()

@@ -78,7 +78,7 @@ struct Game
     }
 };
 
-const QStringList kNine = {"RHP Al", "C Bo", "1B Cy", "2B Di", "3B Ed", "SS Fa", "LF Gu", "CF Hy", "RF Io"};
+const QStringList kNine = {"RHP Al", "C Bo", "B1 Cy", "2B Di", "B3 Ed", "SS Fa", "LF Gu", "CF Hy", "RF Io"};
 
 } // namespace
 
@@ -95,9 +95,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("expected");
         const QStringList plain = {"P Al Al Al",  "C Bo Bo Bo",  "1B Cy Cy Cy", "2B Di Di Di", "3B Ed Ed Ed",
                                    "SS Fa Fa Fa", "LF Gu Gu Gu", "CF Hy Hy Hy", "RF Io Io Io"};
-        QTest::newRow("lineup as typed; RHP pitches") << kNine << QStringList() << QStringList() << plain;
-        QTest::newRow("an extra hitter is out of the field")
-            << (QStringList(kNine) << "EH Ju") << QStringList() << QStringList() << plain;
+        QTest::newRow("lineup as typed: RHP pitches, B1 is first base")
+            << kNine << QStringList() << QStringList() << plain;
+        QTest::newRow("a pinch hitter is out of the field")
+            << (QStringList(kNine) << "PH Ju") << QStringList() << QStringList() << plain;
         QTest::newRow("a substitute takes over at the first open inning")
             << kNine << QStringList{"2:Cy>Ju 1B"} << QStringList()
             << QStringList{"P Al Al Al",  "C Bo Bo Bo",  "1B Cy Cy Ju", "2B Di Di Di", "3B Ed Ed Ed",
@@ -114,9 +115,9 @@ private Q_SLOTS:
             << kNine << QStringList() << QStringList{"Bo 2", "Bo 3 C"}
             << QStringList{"P Al Al Al",  "C Bo - Bo",   "1B Cy Cy Cy", "2B Di Di Di", "3B Ed Ed Ed",
                            "SS Fa Fa Fa", "LF Gu Gu Gu", "CF Hy Hy Hy", "RF Io Io Io"};
-        QTest::newRow("DH shows when used; a move past a player's spell is void")
-            << (QStringList{"P Al", "C Bo", "DH Cy"}) << QStringList{"1:Cy>Ju DH"} << QStringList{"Cy 3 C"}
-            << QStringList{"P Al Al Al", "C Bo Bo Bo", "DH Cy Ju Ju"};
+        QTest::newRow("OF and DH show when used; a move past a player's spell is void")
+            << (QStringList{"P Al", "C Bo", "DH Cy", "LCF Ka"}) << QStringList{"1:Cy>Ju DH"} << QStringList{"Cy 3 C"}
+            << QStringList{"P Al Al Al", "C Bo Bo Bo", "OF Ka Ka Ka", "DH Cy Ju Ju"};
     }
 
     void table()

@@ -5,6 +5,7 @@
 #include "gameday/GameDay.h"
 #include "gameday/GameRecord.h"
 #include "gameday/ScoreGrid.h"
+#include "stats/GameStats.h"
 
 #include <QHash>
 
@@ -164,6 +165,29 @@ QList<QStringList> PlayingTimeReport::texts() const
         out.append(line);
     }
     return out;
+}
+
+bool fillFieldingInnings(myDB &db, const QString &schedID, const QString &teamID, const gameday::DefenseTable &table,
+                         const QSet<int> &counted)
+{
+    GameStatStore store(db);
+    return db.runInTransaction([&] {
+        for (const auto &player : table.players()) {
+            bool isPlayer = false;
+            player.playerID.toLongLong(&isPlayer);
+            if (!isPlayer)
+                continue; // a lineup row without a player of the season
+            const int innings = table.fieldInnings(player.playerID, counted);
+            const std::optional<QString> stored = store.stats(Panel::Fielding, schedID, player.playerID);
+            if (!stored && innings == 0)
+                continue;
+            QStringList fields(kFieldingFields, u"0"_s);
+            if (stored)
+                fields = spreadStats(*stored, fields);
+            fields[0] = QString::number(innings);
+            store.saveStats(Panel::Fielding, schedID, player.playerID, teamID, gatherStats(fields));
+        }
+    });
 }
 
 } // namespace stats

@@ -8,12 +8,17 @@
 
 #include <QDate>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
 #include <array>
 
 class myDB;
+
+namespace gameday {
+class DefenseTable;
+}
 
 namespace stats {
 
@@ -49,5 +54,12 @@ struct PlayingTimeReport
     static QString columnWidths();
     QList<QStringList> texts() const;
 };
+
+// Sets the "IP" field of each lineup player's fielding row of the game to
+// his innings in the field among `counted` (the innings played so far),
+// keeping the row's other fields; a player without innings and without a
+// row gets none. One transaction; false when it did not reach the file.
+bool fillFieldingInnings(myDB &db, const QString &schedID, const QString &teamID, const gameday::DefenseTable &table,
+                         const QSet<int> &counted);
 
 } // namespace stats

@@ -8,6 +8,7 @@
 #include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/BBPlayersLB.h"
 #include "gameday/ui/BBScoringLB.h"
+#include "gameday/ui/defenseDlog.h"
 #include "platform/Printing.h"
 #include "platform/Services.h"
 #include "reports/ui/qlmListBox.h"
@@ -222,12 +223,26 @@ QLayout *gameDayScrn::buildBottom(QWidget *central)
                                   tr("Take the recorded game back out of the season to correct it"));
     correctGameBtn->hide();
     closeBtn = form::button(central, QStringLiteral("closeBtn"), tr("&Close"));
+    defenseBtn = form::button(central, QStringLiteral("defenseBtn"), tr("&Defense"),
+                              tr("Who plays where, inning by inning"));
+    connect(defenseBtn, &QPushButton::clicked, this, &gameDayScrn::openDefense);
+    bottom->addWidget(defenseBtn);
     bottom->addWidget(finalizeBtn);
     bottom->addWidget(dataRecordedLabel);
     bottom->addWidget(correctGameBtn);
     bottom->addStretch();
     bottom->addWidget(closeBtn);
     return bottom;
+}
+
+defenseDlog *gameDayScrn::openDefense()
+{
+    if (!m_defense)
+        m_defense = new defenseDlog(*gData, *m_game, this);
+    m_defense->show();
+    m_defense->raise();
+    m_defense->activateWindow();
+    return m_defense;
 }
 
 void gameDayScrn::connectGame()

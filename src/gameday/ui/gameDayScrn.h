@@ -3,6 +3,7 @@
 #include "app/ui/ScreenBase.h"
 #include "gameday/GameDay.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <array>
@@ -21,6 +22,7 @@ class QRadioButton;
 class QToolButton;
 class StatPanel;
 class battingCtr;
+class defenseDlog;
 class pitchingCtr;
 class pleaseWaitScrn;
 class qlmListBox;
@@ -42,6 +44,8 @@ public:
     gameday::GameDay &game() { return *m_game; }
     bool isOpen() const { return m_opened; }
     void printLineup();
+    // "Defense": the defense-by-inning window of the team on show, one per game.
+    defenseDlog *openDefense();
 
 protected:
     bool mayClose() override;
@@ -82,6 +86,8 @@ private:
     QPushButton *correctGameBtn = nullptr;
     QLabel *InstrFld = nullptr;
     QPushButton *closeBtn = nullptr;
+    QPushButton *defenseBtn = nullptr;
+    QPointer<defenseDlog> m_defense;
     QTimer switchTeamTimer;
 
     QLayout *buildTop(QWidget *central);

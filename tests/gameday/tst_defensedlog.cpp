@@ -1,0 +1,157 @@
+// Playing time as a coach keeps it: a game scored on the game screen, a
+// player moved twice in the defense window (by mouse, then by keyboard),
+// the fielding innings filled from the table, the game recorded, and his
+// innings at each position read back from the season and the report.
+
+#include "SampleSeason.h"
+#include "fakes/TestKit.h"
+#include "gameday/ui/defenseDlog.h"
+#include "gameday/ui/gameDayScrn.h"
+#include "reports/ReportsFixture.h"
+#include "reports/ui/playingTimeScrn.h"
+#include "reports/ui/qlmListBox.h"
+#include "stats/ui/finalCheckScrn.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The lineup by position, then three strikeouts in each listed column.
+void playTeam(gameday::GameDay &game, const QStringList &positions, const QList<int> &innings)
+{
+    for (const QString &pos : positions)
+        for (int i = 0; i < game.roster().size(); ++i)
+            if (game.roster().at(i).pos == pos) {
+                game.addPlayerToLineup(i);
+                break;
+            }
+    for (int col : innings)
+        for (int row = 0; row < 3; ++row)
+            game.card().applyChoice(row, col, u"KS"_s);
+    game.updateRunsHits();
+}
+
+void recordFromScreen(gameDayScrn *screen)
+{
+    testkit::whenShown<finalCheckScrn>([](finalCheckScrn *check) {
+        auto *record = check->findChild<QPushButton *>(u"recordBtn"_s);
+        record->setFocus();
+        QTest::keyClick(record, Qt::Key_Space);
+    });
+    auto *finalize = testkit::child<QPushButton>(screen, "finalizeBtn");
+    finalize->setFocus();
+    QTest::keyClick(finalize, Qt::Key_Space);
+}
+
+QTreeWidgetItem *rowOf(const QTreeWidget *table, const QString &pos)
+{
+    for (int r = 0; r < table->topLevelItemCount(); ++r)
+        if (table->topLevelItem(r)->text(0) == pos)
+            return table->topLevelItem(r);
+    return nullptr;
+}
+
+QStringList rowTexts(const QTreeWidget *table, const QString &pos, int innings)
+{
+    QStringList out;
+    for (int c = 1; c <= innings; ++c)
+        out.append(rowOf(table, pos)->text(c));
+    return out;
+}
+
+} // namespace
+
+class TestDefenseDlog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { testkit::closeAllWindows(); }
+
+    void movedTwiceThenRecorded()
+    {
+        ReportsFixture f;
+        QVERIFY(sample::buildSeason(*f.db, *f.prefs, 0).isEmpty());
+        const QString game =
+            f.db->scalar(u"SELECT eventID FROM Schedule WHERE Event = 'Game' ORDER BY SchedDate"_s).toString();
+
+        // At home against the Wildcats, who bat first: three innings each
+        // way, three strikeouts a side (the Celtics bat only once so far).
+        auto *screen = new gameDayScrn(game);
+        screen->show();
+        playTeam(screen->game(), {"SS", "CF", "C", "B3", "B1", "LF", "RF", "B2", "RHP"}, {0});
+        testkit::child<QRadioButton>(screen, "TeamBtn_0")->click();
+        playTeam(screen->game(), {"C", "B1", "B2"}, {0, 1, 2});
+        testkit::child<QRadioButton>(screen, "TeamBtn_1")->click();
+
+        testkit::child<QPushButton>(screen, "defenseBtn")->click();
+        auto *dlg = screen->findChild<defenseDlog *>();
+        QVERIFY(dlg && dlg->isVisible());
+        QTreeWidget *table = dlg->defenseTable;
+        QCOMPARE(table->columnCount(), 8); // the positions, then seven innings
+        QCOMPARE(rowTexts(table, u"2B"_s, 3), QStringList(3, u"Gabriel D'Amico"_s));
+
+        // By mouse: left field in the 2nd, D'Amico there from then on.
+        const QRect cell = table->visualRect(table->indexFromItem(rowOf(table, u"LF"_s), 2));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+        QCOMPARE(dlg->posPop->currentText(), u"LF"_s);
+        QCOMPARE(dlg->inningFld->value(), 2);
+        QCOMPARE(dlg->playerPop->currentText(), u"Lucas Brennan"_s);
+        dlg->playerPop->setCurrentIndex(dlg->playerPop->findText(u"Gabriel D'Amico"_s));
+        QTest::mouseClick(dlg->moveBtn, Qt::LeftButton);
+
+        // By keyboard: down to center field, right to the 3rd, and Move.
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_Down);
+        QTest::keyClick(table, Qt::Key_Right);
+        QCOMPARE(dlg->posPop->currentText(), u"CF"_s);
+        QCOMPARE(dlg->inningFld->value(), 3);
+        dlg->playerPop->setCurrentIndex(dlg->playerPop->findText(u"Gabriel D'Amico"_s));
+        dlg->moveBtn->setFocus();
+        QTest::keyClick(dlg->moveBtn, Qt::Key_Space);
+
+        QCOMPARE(rowTexts(table, u"2B"_s, 4),
+                 (QStringList{"Gabriel D'Amico", "Lucas Brennan", "Lucas Brennan", "Lucas Brennan"}));
+        QCOMPARE(rowTexts(table, u"LF"_s, 4),
+                 (QStringList{"Lucas Brennan", "Gabriel D'Amico", "Liam O'Sullivan", "Liam O'Sullivan"}));
+        QCOMPARE(rowTexts(table, u"CF"_s, 4),
+                 (QStringList{"Liam O'Sullivan", "Liam O'Sullivan", "Gabriel D'Amico", "Gabriel D'Amico"}));
+
+        // The fielding innings of the three played, on the coach's word.
+        f.platform.messages.answers.enqueue(platform::MsgAction);
+        dlg->fillIPBtn->click();
+        QCOMPARE(f.platform.messages.texts().last(),
+                 u"Fill the fielding innings of every player of Celtics from the defense table?"_s);
+        recordFromScreen(screen);
+        QCOMPARE(f.db->scalar(u"SELECT recorded FROM Games WHERE schedID = ?"_s, {game}).toInt(), 1);
+        const QString damico = f.db->scalar(u"SELECT playerID FROM Players WHERE Last = 'D''Amico'"_s).toString();
+        QCOMPARE(f.db->scalar(u"SELECT IP FROM Fielding WHERE playerID = ?"_s, {damico}).toInt(), 3);
+        QCOMPARE(f.db->scalar(u"SELECT SUM(IP) FROM Fielding WHERE teamID = (SELECT TeamNum FROM Players "
+                              u"WHERE playerID = ?)"_s,
+                              {damico})
+                     .toInt(),
+                 27);
+
+        // Read back as the report shows him: one inning at each place.
+        auto report = std::make_unique<playingTimeScrn>();
+        qlmListBox *list = report->timeBox;
+        QStringList row;
+        for (int r = 0; r < list->rowCount(); ++r)
+            if (list->cell(r, 0) == u"Gabriel D'Amico")
+                row = list->rowCells(r);
+        QCOMPARE(row, (QStringList{"Gabriel D'Amico", "Celtics", "1", "3", "0", "0", "0", "1", "0", "0", "1", "1", "0",
+                                   "0", "0", "0", "0"}));
+    }
+};
+
+QTEST_MAIN(TestDefenseDlog)
+#include "tst_defensedlog.moc"

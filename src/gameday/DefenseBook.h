@@ -7,6 +7,7 @@
 // so that a change log can take it back with DefenseStore::apply.
 
 #include "gameday/DefenseTable.h"
+#include "gameday/MinimumPlay.h"
 
 #include <functional>
 
@@ -32,6 +33,12 @@ public:
     // Puts the player at `pos` ("" for the bench) from `inning` on; see
     // DefenseStore::move. An empty change when refused or nothing changed.
     DefenseChange move(const QString &playerID, int inning, const QString &pos);
+    // From the next-to-last inning on: the players of the team on show (in
+    // the lineup or on its bench) below the minimum so far, as the game
+    // screen shows them; empty with no minimum, earlier in the game, or
+    // when everybody has met it.
+    QString minimumPlayLine(const MinimumPlay &minimum) const;
+
     // Told of every change written (for the change log).
     std::function<void(const DefenseChange &)> changed;
 

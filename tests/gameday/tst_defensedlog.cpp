@@ -5,15 +5,18 @@
 
 #include "SampleSeason.h"
 #include "fakes/TestKit.h"
+#include "gameday/MinimumPlay.h"
 #include "gameday/ui/defenseDlog.h"
 #include "gameday/ui/gameDayScrn.h"
 #include "reports/ReportsFixture.h"
 #include "reports/ui/playingTimeScrn.h"
 #include "reports/ui/qlmListBox.h"
+#include "seasondata/ui/prefScrn.h"
 #include "stats/ui/finalCheckScrn.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -150,6 +153,76 @@ private Q_SLOTS:
                 row = list->rowCells(r);
         QCOMPARE(row, (QStringList{"Gabriel D'Amico", "Celtics", "1", "3", "0", "0", "0", "1", "0", "0", "1", "1", "0",
                                    "0", "0", "0", "0"}));
+    }
+
+    // From the next-to-last inning on, the game screen names the players of
+    // the team on show below the minimum, its bench included.
+    void minimumPlayLine_data()
+    {
+        QTest::addColumn<int>("innings");
+        QTest::addColumn<int>("atBats");
+        QTest::addColumn<int>("played");          // innings the Wildcats batted
+        QTest::addColumn<QStringList>("benched"); // "name inning": out of the field from then
+        QTest::addColumn<QString>("line");
+        const QString schafer = u"Owen Schäfer (0 inn, 0 AB)"_s;
+        QTest::newRow("no minimum") << 0 << 0 << 6 << QStringList() << QString();
+        QTest::newRow("before the next-to-last inning") << 1 << 0 << 5 << QStringList() << QString();
+        QTest::newRow("the bench player") << 1 << 0 << 6 << QStringList() << u"Minimum play not met yet: "_s + schafer;
+        QTest::newRow("at bats: those who haven't batted")
+            << 0 << 1 << 6 << QStringList()
+            << u"Minimum play not met yet: Jackson Reyes (6 inn, 0 AB), Caleb Washington (6 inn, 0 AB), Lucas "
+               u"Brennan (6 inn, 0 AB), Elijah Park (6 inn, 0 AB), Gabriel D'Amico (6 inn, 0 AB), Noah Kowalski (6 "
+               u"inn, 0 AB), "_s +
+                   schafer;
+        QTest::newRow("benched after three innings")
+            << 4 << 0 << 6 << QStringList{u"Gabriel D'Amico 4"_s}
+            << u"Minimum play not met yet: Gabriel D'Amico (3 inn, 0 AB), "_s + schafer;
+    }
+    void minimumPlayLine()
+    {
+        QFETCH(int, innings);
+        QFETCH(int, atBats);
+        QFETCH(int, played);
+        QFETCH(QStringList, benched);
+        QFETCH(QString, line);
+        ReportsFixture f;
+        QVERIFY(sample::buildSeason(*f.db, *f.prefs, 0).isEmpty());
+        QVERIFY((gameday::MinimumPlay{innings, atBats}.save(f.prefs->strdDataLoc)));
+        const QString game =
+            f.db->scalar(u"SELECT eventID FROM Schedule WHERE Event = 'Game' ORDER BY SchedDate"_s).toString();
+        auto *screen = new gameDayScrn(game);
+        screen->show();
+        playTeam(screen->game(), {"SS", "CF", "C", "B3", "B1", "LF", "RF", "B2", "RHP"}, {0});
+        testkit::child<QRadioButton>(screen, "TeamBtn_0")->click();
+        QList<int> columns;
+        for (int c = 0; c < played; ++c)
+            columns.append(c);
+        playTeam(screen->game(), {"C", "B1", "B2"}, columns);
+        testkit::child<QRadioButton>(screen, "TeamBtn_1")->click();
+        defenseDlog *dlg = screen->openDefense();
+        for (const QString &out : benched) {
+            dlg->playerPop->setCurrentIndex(dlg->playerPop->findText(out.section(u' ', 0, -2)));
+            dlg->posPop->setCurrentIndex(dlg->posPop->findText(u"Bench"_s));
+            dlg->inningFld->setValue(out.section(u' ', -1).toInt());
+            dlg->moveChosen();
+        }
+        auto *shown = testkit::child<QLabel>(screen, "minPlayFld");
+        QCOMPARE(shown->text(), line);
+        QCOMPARE(shown->isVisible(), !line.isEmpty());
+    }
+
+    // The setting is made on the preferences screen and kept for the next time.
+    void minimumPlayIsAPreference()
+    {
+        ReportsFixture f;
+        auto *prefs = new prefScrn;
+        prefs->show();
+        auto *innings = testkit::child<QSpinBox>(prefs, "minInningsFld");
+        QCOMPARE(innings->text(), u"None"_s);
+        innings->setValue(4);
+        testkit::child<QSpinBox>(prefs, "minAtBatsFld")->setValue(2);
+        testkit::child<QPushButton>(prefs, "prefsavebutton")->click();
+        QCOMPARE(gameday::MinimumPlay::load(f.prefs->strdDataLoc), (gameday::MinimumPlay{4, 2}));
     }
 };
 

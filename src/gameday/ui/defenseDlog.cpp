@@ -146,8 +146,11 @@ void defenseDlog::moveChosen()
     }
     if (playerPop->currentIndex() < 0)
         return;
-    m_book.move(playerPop->currentData().toString(), inningFld->value(), posPop->currentData().toString());
+    const gameday::DefenseChange change = m_book.move(playerPop->currentData().toString(), inningFld->value(),
+                                                      posPop->currentData().toString());
     refresh();
+    if (!change.isEmpty())
+        Q_EMIT defenseChanged();
 }
 
 void defenseDlog::fillFieldingInnings()
@@ -163,5 +166,6 @@ void defenseDlog::fillFieldingInnings()
                      u"there is replaced."_s,
                      u"Fill"_s) != platform::MsgAction)
         return;
-    stats::fillFieldingInnings(m_db, m_game.schedID(), m_book.teamID(), m_book.table(), m_book.fieldedSoFar());
+    if (stats::fillFieldingInnings(m_db, m_game.schedID(), m_book.teamID(), m_book.table(), m_book.fieldedSoFar()))
+        Q_EMIT defenseChanged();
 }

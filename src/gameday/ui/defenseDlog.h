@@ -40,6 +40,11 @@ public:
     // fielding IP of this game becomes his innings in the field so far.
     void fillFieldingInnings();
 
+Q_SIGNALS:
+    // A move or a fill reached the file.
+    void defenseChanged();
+
+public:
     QLabel *teamLbl = nullptr;
     QTreeWidget *defenseTable = nullptr;
     QComboBox *playerPop = nullptr; // data: playerID

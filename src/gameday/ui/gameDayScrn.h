@@ -87,6 +87,8 @@ private:
     QLabel *InstrFld = nullptr;
     QPushButton *closeBtn = nullptr;
     QPushButton *defenseBtn = nullptr;
+    QLabel *minPlayFld = nullptr; // who hasn't met the minimum play, late in the game
+    void showMinimumPlay();
     QPointer<defenseDlog> m_defense;
     QTimer switchTeamTimer;
 

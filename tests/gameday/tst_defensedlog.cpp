@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(dlg && dlg->isVisible());
         QTreeWidget *table = dlg->defenseTable;
         QCOMPARE(table->columnCount(), 8); // the positions, then seven innings
-        QCOMPARE(rowTexts(table, u"2B"_s, 3), QStringList(3, u"Gabriel D'Amico"_s));
+        QCOMPARE(rowTexts(table, u"2B"_s, 3), QStringList(3, u"G. D'Amico"_s));
 
         // By mouse: left field in the 2nd, D'Amico there from then on.
         const QRect cell = table->visualRect(table->indexFromItem(rowOf(table, u"LF"_s), 2));
@@ -122,12 +122,11 @@ private Q_SLOTS:
         dlg->moveBtn->setFocus();
         QTest::keyClick(dlg->moveBtn, Qt::Key_Space);
 
-        QCOMPARE(rowTexts(table, u"2B"_s, 4),
-                 (QStringList{"Gabriel D'Amico", "Lucas Brennan", "Lucas Brennan", "Lucas Brennan"}));
+        QCOMPARE(rowTexts(table, u"2B"_s, 4), (QStringList{"G. D'Amico", "L. Brennan", "L. Brennan", "L. Brennan"}));
         QCOMPARE(rowTexts(table, u"LF"_s, 4),
-                 (QStringList{"Lucas Brennan", "Gabriel D'Amico", "Liam O'Sullivan", "Liam O'Sullivan"}));
+                 (QStringList{"L. Brennan", "G. D'Amico", "L. O'Sullivan", "L. O'Sullivan"}));
         QCOMPARE(rowTexts(table, u"CF"_s, 4),
-                 (QStringList{"Liam O'Sullivan", "Liam O'Sullivan", "Gabriel D'Amico", "Gabriel D'Amico"}));
+                 (QStringList{"L. O'Sullivan", "L. O'Sullivan", "G. D'Amico", "G. D'Amico"}));
 
         // The fielding innings of the three played, on the coach's word.
         f.platform.messages.answers.enqueue(platform::MsgAction);

@@ -18,6 +18,17 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// "G. D'Amico" for "Gabriel D'Amico", so that a game's innings fit side by side.
+QString shortName(const QString &name)
+{
+    const qsizetype last = name.lastIndexOf(u' ');
+    return last <= 0 ? name : name.left(1) + u". "_s + name.mid(last + 1);
+}
+
+} // namespace
+
 defenseDlog::defenseDlog(myDB &db, gameday::GameDay &game, QWidget *parent)
     : QDialog(parent), m_db(db), m_game(game), m_book(db, game)
 {
@@ -100,9 +111,13 @@ void defenseDlog::refresh()
         auto *item = new QTreeWidgetItem(defenseTable, QStringList{pos});
         for (int i = 1; i <= table.innings(); ++i) {
             QStringList names;
-            for (const QString &id : table.playersAt(pos, i))
+            QStringList shortNames;
+            for (const QString &id : table.playersAt(pos, i)) {
                 names.append(table.player(id)->name);
-            item->setText(i, names.join(u" / "_s));
+                shortNames.append(shortName(names.last()));
+            }
+            item->setText(i, shortNames.join(u" / "_s));
+            item->setToolTip(i, names.join(u" / "_s));
             const QString spoken = pos + u", inning "_s + QString::number(i) + u": "_s +
                                    (names.isEmpty() ? u"nobody"_s : names.join(u" and "_s));
             item->setData(i, Qt::AccessibleTextRole, spoken);

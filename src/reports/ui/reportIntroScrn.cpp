@@ -78,14 +78,16 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
         exportSeason();
         return true;
     });
-    for (const auto &[button, id] : {std::pair{pitchAvailBtn, ScreenId::pitcherAvailabilityScrn},
-                                     std::pair{playTimeBtn, ScreenId::playingTimeScrn}})
-        connect(button, &QPushButton::clicked, this, [this, id] {
+    for (const auto &door : {std::pair{pitchAvailBtn, ScreenId::pitcherAvailabilityScrn},
+                             std::pair{playTimeBtn, ScreenId::playingTimeScrn}}) {
+        const ScreenId id = door.second;
+        connect(door.first, &QPushButton::clicked, this, [this, id] {
             if (QWidget *report = screens::create(id))
                 report->show();
             setReturnToStart(false);
             close();
         });
+    }
 }
 
 void reportIntroScrn::exportSeason()

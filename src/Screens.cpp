@@ -13,6 +13,7 @@
 #include "people/ui/personnelScrn.h"
 #include "people/ui/teamScrn.h"
 #include "reports/ui/pitcherAvailabilityScrn.h"
+#include "reports/ui/playingTimeScrn.h"
 #include "reports/ui/reportIntroScrn.h"
 #include "reports/ui/standingsScrn.h"
 #include "schedule/ui/eventsCalendarScrn.h"
@@ -35,6 +36,7 @@ void registerScreens()
     screens::registerScreen(ScreenId::reportIntroScrn, [] { return new reportIntroScrn; });
     screens::registerScreen(ScreenId::standingsScrn, [] { return new standingsScrn; });
     screens::registerScreen(ScreenId::pitcherAvailabilityScrn, [] { return new pitcherAvailabilityScrn; });
+    screens::registerScreen(ScreenId::playingTimeScrn, [] { return new playingTimeScrn; });
     screens::registerScreen(ScreenId::gameDayScrn,
                             [](const QVariant &eventID) { return gameDayScrn::openFor(eventID.toString()); });
     // Only a build that knows where the newest version is told can check.

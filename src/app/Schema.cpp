@@ -128,6 +128,15 @@ const QStringList &indexStatements()
     return statements;
 }
 
+const QStringList &addedTableStatements()
+{
+    static const QStringList statements = {
+        QStringLiteral("CREATE TABLE IF NOT EXISTS DefenseMoves (moveID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL "
+                       "UNIQUE, schedID Varchar, teamID Varchar, playerID Varchar, inning Integer, pos Varchar)"),
+    };
+    return statements;
+}
+
 const QStringList &createStatements()
 {
     static const QStringList statements = build();

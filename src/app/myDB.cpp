@@ -161,12 +161,13 @@ bool myDB::connectToDB(const QString &file)
 
 void myDB::addIndexes()
 {
-    // A season made before the indexes existed gets them now. They only
+    // A season made before the indexes and the added tables existed gets
+    // them now. They only
     // speed up lookups, so a file that can't take them (a full disk) is
     // still opened and works as before.
     try {
         SQLite::Transaction transaction(*tlynData);
-        for (const QString &statement : schema::indexStatements())
+        for (const QString &statement : schema::addedTableStatements() + schema::indexStatements())
             tlynData->exec(utf8(statement));
         transaction.commit();
     } catch (const SQLite::Exception &) {
@@ -177,7 +178,8 @@ bool myDB::createSchema(const QString &file)
 {
     try {
         SQLite::Transaction transaction(*tlynData, SQLite::TransactionBehavior::IMMEDIATE);
-        for (const QString &statement : schema::createStatements() + schema::indexStatements())
+        for (const QString &statement :
+             schema::createStatements() + schema::addedTableStatements() + schema::indexStatements())
             tlynData->exec(utf8(statement));
         transaction.commit();
     } catch (const SQLite::Exception &) {

@@ -1,5 +1,6 @@
 #include "cli/ReportCommand.h"
 
+#include "cli/PlayingTimeReport.h"
 #include "cli/SeasonAccess.h"
 #include "cli/TableOutput.h"
 #include "reports/SeasonReport.h"
@@ -24,10 +25,15 @@ void ReportCommand::addOptions(QCommandLineParser &parser)
                       QStringLiteral("Only the players of division <name>; for the standings, the teams of the "
                                      "team's division <name>."),
                       QStringLiteral("name")});
+    parser.addOption({QStringLiteral("from"), QStringLiteral("Playing time: games from <date> (YYYY-MM-DD) on."),
+                      QStringLiteral("date")});
+    parser.addOption({QStringLiteral("to"), QStringLiteral("Playing time: games up to <date> (YYYY-MM-DD)."),
+                      QStringLiteral("date")});
     parser.addOption({QStringLiteral("more"), QStringLiteral("The modern rates (OBP, OPS, WHIP ...) instead.")});
     parser.addOption({QStringLiteral("format"), QStringLiteral("text, csv or json (default text)."),
                       QStringLiteral("format"), QStringLiteral("text")});
-    parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("batting, fielding, pitching or standings"));
+    parser.addPositionalArgument(QStringLiteral("report"),
+                                 QStringLiteral("batting, fielding, pitching, standings or playing-time"));
 }
 
 namespace {
@@ -47,10 +53,10 @@ int ReportCommand::execute(const QCommandLineParser &parser, QTextStream &out, Q
 {
     const QStringList words = parser.positionalArguments();
     static const QStringList kinds{QStringLiteral("batting"), QStringLiteral("fielding"), QStringLiteral("pitching"),
-                                   QStringLiteral("standings")};
+                                   QStringLiteral("standings"), QStringLiteral("playing-time")};
     const qsizetype which = words.size() == 1 ? kinds.indexOf(words.first()) : -1;
     if (which < 0) {
-        err << "report: name one report: batting, fielding, pitching or standings" << Qt::endl;
+        err << "report: name one report: batting, fielding, pitching, standings or playing-time" << Qt::endl;
         return Usage;
     }
     TableFormat format;
@@ -73,6 +79,8 @@ int ReportCommand::execute(const QCommandLineParser &parser, QTextStream &out, Q
         }
     }
 
+    if (which == 4)
+        return writePlayingTime(*db, parser, team, format, out, err);
     if (which == 3) {
         const QString home = team ? QString::number(*team) : season.prefs().prHomeTeam;
         reports::Standings standings(*db, home);

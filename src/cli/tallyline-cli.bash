@@ -44,7 +44,7 @@ _tallyline_cli()
     local words="--help"
     case $verb in
         report)
-            words+=" batting fielding pitching standings --data-dir --season --team --league --division --more --format" ;;
+            words+=" batting fielding pitching standings playing-time --data-dir --season --team --league --division --more --from --to --format" ;;
         seasons) words+=" --data-dir --format" ;;
         check) words+=" --data-dir --season" ;;
         backup) words+=" --data-dir --season --to" ;;

@@ -19,6 +19,8 @@
 #include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/BBScoringLB.h"
 #include "gameday/ui/battingPOP.h"
+#include "gameday/ui/defenseDlog.h"
+#include "gameday/ui/gameDayScrn.h"
 #include "people/ui/emailRecipientsDlog.h"
 #include "people/ui/teamScrn.h"
 #include "schedule/ui/Calendar.h"
@@ -151,6 +153,17 @@ private Q_SLOTS:
             auto *grid = new BBScoringLB;
             fillGrid(grid->grid());
             return grid;
+        });
+        // The defense window of a game, over its game screen.
+        QTest::newRow("defenseDlog") << Opener([] {
+            const qint64 hawks = gData->insert(u"Teams"_s, {{u"TeamName"_s, u"Hawks"_s}});
+            const qint64 event = gData->insert(u"Schedule"_s, {{u"SchedDate"_s, u"2026-04-15"_s},
+                                                               {u"Event"_s, u"Game"_s},
+                                                               {u"OppID"_s, QString::number(hawks)},
+                                                               {u"isHome"_s, 1}});
+            auto *game = static_cast<gameDayScrn *>(screens::create(ScreenId::gameDayScrn, QString::number(event)));
+            game->game().addPlayerToLineup(0);
+            return game->openDefense();
         });
         QTest::newRow("emailRecipientsDlog") << Opener([] { return new emailRecipientsDlog; });
         QTest::newRow("UDVStatsScrn") << Opener([] { return new UDVStatsScrn; });

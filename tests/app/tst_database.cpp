@@ -298,7 +298,7 @@ private Q_SLOTS:
             QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name <> "
                                               "'sqlite_sequence'"))
                          .toInt(),
-                     int(schema::tableNames().size()));
+                     int(schema::tableNames().size() + schema::addedTableStatements().size()));
             QVERIFY(db.exec(QStringLiteral("INSERT INTO Teams (TeamName) VALUES ('Hawks')")));
         } else {
             QCOMPARE(fake.messages.shown.size(), 1);
@@ -413,6 +413,8 @@ private Q_SLOTS:
                                               "'idx_%'"))
                          .toInt(),
                      int(schema::indexStatements().size()));
+            QCOMPARE(
+                db.scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE name = 'DefenseMoves'")).toInt(), 1);
             // The values bound as the program binds them: ids of game rows as text.
             const QList<std::pair<QString, QString>> lookups = {
                 {QStringLiteral("SELECT * FROM Games WHERE schedID = ?"), QStringLiteral("idx_Games_schedID")},

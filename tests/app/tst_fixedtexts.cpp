@@ -127,6 +127,9 @@ private Q_SLOTS:
         QTest::newRow("PlayerInventory") << QString(
             "CREATE TABLE PlayerInventory (serial INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, "
             "ctrlNum INTEGER NOT NULL DEFAULT 0, PlayerID Varchar, Item Varchar, ItemID Varchar)");
+        QTest::newRow("DefenseMoves") << QString(
+            "CREATE TABLE DefenseMoves (moveID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL UNIQUE, schedID Varchar, "
+            "teamID Varchar, playerID Varchar, inning Integer, pos Varchar)");
     }
     void schema()
     {
@@ -142,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name <> "
                                           "'sqlite_sequence'"))
                      .toInt(),
-                 15);
+                 16);
         QCOMPARE(db.scalar(QStringLiteral("SELECT COUNT(*) FROM ") + table).toInt(), 0);
         QVERIFY(fake.messages.shown.isEmpty());
     }

@@ -62,6 +62,7 @@ private Q_SLOTS:
             {u"startScrn1"_s, -1},
             {u"boxScoreScrn"_s, 9},
             {u"pitcherAvailabilityScrn"_s, 17},
+            {u"playingTimeScrn"_s, 9},
         };
         QTest::addColumn<int>("id");
         QTest::addColumn<int>("topic");

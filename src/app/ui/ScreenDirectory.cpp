@@ -31,6 +31,8 @@ QString screenName(ScreenId id)
         return QStringLiteral("standingsScrn");
     case ScreenId::pitcherAvailabilityScrn:
         return QStringLiteral("pitcherAvailabilityScrn");
+    case ScreenId::playingTimeScrn:
+        return QStringLiteral("playingTimeScrn");
     case ScreenId::formsScrn:
         return QStringLiteral("formsScrn");
     case ScreenId::prefScrn:

@@ -27,8 +27,9 @@ enum class ScreenId {
     updateDlog,
     helpScrn2, // argument: the topic number, or none for the index
     HelpAbbrevScrn,
-    startScrn1,   // the hub; made through startScrn1::showStartScreen()
-    boxScoreScrn, // argument: the event id of the game
+    startScrn1,      // the hub; made through startScrn1::showStartScreen()
+    boxScoreScrn,    // argument: the event id of the game
+    playingTimeScrn, // opened from reportIntroScrn
 };
 
 // The window's objectName: the name the program's design gives it.

@@ -5,10 +5,12 @@
 #include "app/myPrefs.h"
 #include "app/ui/Form.h"
 #include "app/ui/MainMenuBar.h"
+#include "gameday/DefenseBook.h"
 #include "gameday/ui/AddPlayersToGameScrn.h"
 #include "gameday/ui/BBPlayersLB.h"
 #include "gameday/ui/BBScoringLB.h"
 #include "gameday/ui/PitchCountBar.h"
+#include "gameday/ui/defenseDlog.h"
 #include "platform/Printing.h"
 #include "platform/Services.h"
 #include "reports/ui/qlmListBox.h"
@@ -78,6 +80,10 @@ gameDayScrn::gameDayScrn(const QString &schedID, QWidget *parent)
     InstrFld = form::valueLabel(central, QStringLiteral("InstrFld"), tr("Instruction"));
     InstrFld->setWordWrap(true);
     outer->addWidget(InstrFld);
+    minPlayFld = form::valueLabel(central, QStringLiteral("minPlayFld"), tr("Minimum play"));
+    minPlayFld->setWordWrap(true);
+    minPlayFld->hide();
+    outer->addWidget(minPlayFld);
     auto *middle = new QHBoxLayout;
     middle->addLayout(buildBench(central));
     middle->addWidget(buildGridArea(central), 1);
@@ -226,12 +232,37 @@ QLayout *gameDayScrn::buildBottom(QWidget *central)
                                   tr("Take the recorded game back out of the season to correct it"));
     correctGameBtn->hide();
     closeBtn = form::button(central, QStringLiteral("closeBtn"), tr("&Close"));
+    defenseBtn = form::button(central, QStringLiteral("defenseBtn"), tr("&Defense"),
+                              tr("Who plays where, inning by inning"));
+    connect(defenseBtn, &QPushButton::clicked, this, &gameDayScrn::openDefense);
+    bottom->addWidget(defenseBtn);
     bottom->addWidget(finalizeBtn);
     bottom->addWidget(dataRecordedLabel);
     bottom->addWidget(correctGameBtn);
     bottom->addStretch();
     bottom->addWidget(closeBtn);
     return bottom;
+}
+
+defenseDlog *gameDayScrn::openDefense()
+{
+    if (!m_defense) {
+        m_defense = new defenseDlog(*gData, *m_game, this);
+        connect(m_defense, &defenseDlog::defenseChanged, this, &gameDayScrn::showMinimumPlay);
+    }
+    m_defense->show();
+    m_defense->raise();
+    m_defense->activateWindow();
+    return m_defense;
+}
+
+void gameDayScrn::showMinimumPlay()
+{
+    const gameday::MinimumPlay minimum = gPrefs ? gameday::MinimumPlay::load(gPrefs->strdDataLoc)
+                                                : gameday::MinimumPlay();
+    const QString line = gameday::DefenseBook(*gData, *m_game).minimumPlayLine(minimum);
+    minPlayFld->setText(line);
+    minPlayFld->setVisible(!line.isEmpty());
 }
 
 void gameDayScrn::connectGame()
@@ -242,6 +273,8 @@ void gameDayScrn::connectGame()
     connect(m_game.get(), &GameDay::finalizeVisibleChanged, this, &gameDayScrn::showFinalize);
     connect(m_game.get(), &GameDay::selectionChanged, this, &gameDayScrn::showSelection);
     connect(m_game.get(), &GameDay::instructionChanged, this, [this] { InstrFld->setText(m_game->instruction()); });
+    for (auto signal : {&GameDay::teamShown, &GameDay::boardChanged, &GameDay::lineupChanged})
+        connect(m_game.get(), signal, this, &gameDayScrn::showMinimumPlay);
     connect(m_game.get(), &GameDay::enterRHEChanged, this, [this](bool on) {
         const QSignalBlocker block(EnterRHE_Btn);
         EnterRHE_Btn->setChecked(on);

@@ -3,6 +3,7 @@
 #include "app/ui/ScreenBase.h"
 #include "gameday/GameDay.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <array>
@@ -22,6 +23,7 @@ class QRadioButton;
 class QToolButton;
 class StatPanel;
 class battingCtr;
+class defenseDlog;
 class pitchingCtr;
 class pleaseWaitScrn;
 class qlmListBox;
@@ -43,6 +45,8 @@ public:
     gameday::GameDay &game() { return *m_game; }
     bool isOpen() const { return m_opened; }
     void printLineup();
+    // "Defense": the defense-by-inning window of the team on show, one per game.
+    defenseDlog *openDefense();
 
 protected:
     bool mayClose() override;
@@ -84,6 +88,10 @@ private:
     QLabel *InstrFld = nullptr;
     QPushButton *closeBtn = nullptr;
     PitchCountBar *pitchCountBar = nullptr;
+    QPushButton *defenseBtn = nullptr;
+    QLabel *minPlayFld = nullptr; // who hasn't met the minimum play, late in the game
+    void showMinimumPlay();
+    QPointer<defenseDlog> m_defense;
     QTimer switchTeamTimer;
 
     QLayout *buildTop(QWidget *central);

@@ -63,7 +63,10 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
     cancelBtn = form::button(central, QStringLiteral("cancelBtn"), QStringLiteral("Cancel"));
     pitchAvailBtn = form::button(central, QStringLiteral("pitchAvailBtn"), QStringLiteral("&Pitcher Availability"));
     pitchAvailBtn->setEnabled(screens::has(ScreenId::pitcherAvailabilityScrn));
+    playTimeBtn = form::button(central, QStringLiteral("playTimeBtn"), QStringLiteral("Playing &Time"));
+    playTimeBtn->setEnabled(screens::has(ScreenId::playingTimeScrn));
     buttons->addWidget(pitchAvailBtn);
+    buttons->addWidget(playTimeBtn);
     buttons->addStretch(1);
     buttons->addWidget(cancelBtn);
     outer->addLayout(buttons);
@@ -75,12 +78,16 @@ reportIntroScrn::reportIntroScrn(QWidget *parent)
         exportSeason();
         return true;
     });
-    connect(pitchAvailBtn, &QPushButton::clicked, this, [this] {
-        if (QWidget *report = screens::create(ScreenId::pitcherAvailabilityScrn))
-            report->show();
-        setReturnToStart(false);
-        close();
-    });
+    for (const auto &door : {std::pair{pitchAvailBtn, ScreenId::pitcherAvailabilityScrn},
+                             std::pair{playTimeBtn, ScreenId::playingTimeScrn}}) {
+        const ScreenId id = door.second;
+        connect(door.first, &QPushButton::clicked, this, [this, id] {
+            if (QWidget *report = screens::create(id))
+                report->show();
+            setReturnToStart(false);
+            close();
+        });
+    }
 }
 
 void reportIntroScrn::exportSeason()

@@ -35,6 +35,7 @@ public:
     std::array<QPushButton *, 3> viewBtn{};
     QPushButton *cancelBtn = nullptr;
     QPushButton *pitchAvailBtn = nullptr; // opens "Pitcher Availability"
+    QPushButton *playTimeBtn = nullptr;   // opens "Playing Time"
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -5,6 +5,7 @@
 #include "app/myPrefs.h"
 #include "app/ui/Form.h"
 #include "app/ui/ScreenDirectory.h"
+#include "gameday/MinimumPlay.h"
 #include "platform/Messages.h"
 #include "platform/Services.h"
 #include "reports/ui/qlmListBox.h"
@@ -22,7 +23,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 using namespace seasondata;
@@ -114,6 +117,16 @@ void prefScrn::buildControls()
     maxLineupPop->addItems(preflists::lineupRows());
     homeTeamPop = rows.comboBox(QStringLiteral("homeTeamPop"), QStringLiteral("&Home Team:"));
     pitchRulesPop = rows.comboBox(QStringLiteral("pitchRulesPop"), QStringLiteral("Pitch &Count Rules:"));
+    // A league's minimum play per game; "None" where it has none.
+    for (auto [field, name, caption] : {std::tuple{&minInningsFld, "minInningsFld", "Minimum In&nings in Field:"},
+                                        std::tuple{&minAtBatsFld, "minAtBatsFld", "Minimum At Ba&ts:"}}) {
+        *field = rows.add(QString::fromLatin1(name), QString::fromLatin1(caption), new QSpinBox(central));
+        (*field)->setRange(0, 99);
+        (*field)->setSpecialValueText(QStringLiteral("None"));
+        // The field's text box is what assistive tools reach.
+        if (auto *text = (*field)->findChild<QLineEdit *>())
+            text->setAccessibleName((*field)->accessibleName());
+    }
     backupPop = rows.comboBox(QStringLiteral("backupPop"), QStringLiteral("&Backup Every:"));
     backupPop->addItems(preflists::backupFreqRows());
     backupLocFld = form::valueLabel(central, QStringLiteral("backupLocFld"), QStringLiteral("Backup location"));
@@ -216,6 +229,9 @@ void prefScrn::scrnSetup()
     maxLineupPop->setCurrentIndex(maxLineupPop->findText(gPrefs->prLineUp, Qt::MatchExactly));
     homeTeamPop->setCurrentIndex(int(teamIDNums.indexOf(gPrefs->prHomeTeam)));
     fillPitchRulesPop();
+    const gameday::MinimumPlay minimum = gameday::MinimumPlay::load(gPrefs->strdDataLoc);
+    minInningsFld->setValue(minimum.innings);
+    minAtBatsFld->setValue(minimum.atBats);
     FillPositionLB();
     fillGameTypeLB();
     showBackupLocation();
@@ -334,6 +350,9 @@ void prefScrn::setValues()
     setGameTypes();
     gPrefs->prBackupFreq = preflists::backupFreqValue(backupPop->currentIndex());
     gPrefs->writePrefs();
+    const gameday::MinimumPlay minimum{minInningsFld->value(), minAtBatsFld->value()};
+    if (minimum != gameday::MinimumPlay::load(gPrefs->strdDataLoc) && !minimum.save(gPrefs->strdDataLoc))
+        gMsgBox(QStringLiteral("The minimum play setting couldn't be saved in the data folder."));
 }
 
 void prefScrn::keyPressEvent(QKeyEvent *event)

@@ -6,6 +6,7 @@
 
 class QComboBox;
 class QLabel;
+class QSpinBox;
 class QPushButton;
 class PlusMinusContainer;
 class qlmCheckBox;
@@ -46,6 +47,8 @@ public:
     QComboBox *maxLineupPop = nullptr;
     QComboBox *homeTeamPop = nullptr;
     QComboBox *pitchRulesPop = nullptr; // the home team's pitch-count rules
+    QSpinBox *minInningsFld = nullptr;  // minimum play: innings in the field, 0 for none
+    QSpinBox *minAtBatsFld = nullptr;   // minimum play: times at bat, 0 for none
     qlmListBox *PositionLB = nullptr;
     PlusMinusContainer *PlusMinusPositions = nullptr;
     qlmListBox *gameTypeLB = nullptr;

@@ -104,12 +104,24 @@ QString index(const char *table, const char *column)
 
 } // namespace
 
+const QStringList &addedTableStatements()
+{
+    // The game screen's change log: one row per change, undo and redo.
+    static const QStringList statements = {
+        QStringLiteral("CREATE TABLE IF NOT EXISTS GameChanges (") + key("changeID") +
+            QStringLiteral(", gameID VarChar NOT NULL, kind Integer NOT NULL DEFAULT 0, target Integer NOT NULL "
+                           "DEFAULT 0, team Integer NOT NULL DEFAULT -1, label VarChar, changes VarChar)"),
+        index("GameChanges", "gameID"),
+    };
+    return statements;
+}
+
 const QStringList &indexStatements()
 {
     // A game's row by its event (every click's save), the game's panel rows
     // by game (recording, the panels) and by player, a player's season rows
     // by player (recording), and the rows kept per team.
-    static const QStringList statements = {
+    static const QStringList statements = addedTableStatements() + QStringList{
         index("Games", "schedID"),
         index("GamesIndivHitting", "gameID"),
         index("GamesIndivHitting", "playerID"),

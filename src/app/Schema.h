@@ -11,6 +11,10 @@ const QStringList &tableNames();
 // The indexes on the columns rows are looked up by ("CREATE INDEX IF NOT
 // EXISTS"): made with a new season's tables and added to an older file when
 // it is opened. An index holds no value of its own; the rows stay as stored.
+// The indexes run after the tables added since the first fifteen (with
+// "IF NOT EXISTS"), so an older file gets those too.
 const QStringList &indexStatements();
+// The tables added since (the game's change log) and their indexes.
+const QStringList &addedTableStatements();
 
 } // namespace schema

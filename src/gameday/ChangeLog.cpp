@@ -174,6 +174,7 @@ ChangeLog::Result ChangeLog::add(const Change &change)
     if (result == Result::Saved && m_loaded) {
         m_undo.append(id);
         m_redo.clear();
+        m_label = {id, change.label};
     }
     return result;
 }
@@ -187,20 +188,26 @@ void ChangeLog::load()
     m_loaded = true;
     if (!m_db.isConnected())
         return;
-    SQLite::Statement all(*m_db.tlynData,
-                          "SELECT kind, target, changeID FROM GameChanges WHERE gameID = ? ORDER BY changeID");
-    myDB::bindAll(all, {m_game});
-    while (all.executeStep()) {
-        const int kind = all.getColumn(0).getInt();
-        const qint64 target = all.getColumn(1).getInt64();
-        if (kind == Made) {
-            m_undo.append(all.getColumn(2).getInt64());
-            m_redo.clear();
-        } else if (kind == Undone && !m_undo.isEmpty() && m_undo.last() == target) {
-            m_redo.append(m_undo.takeLast());
-        } else if (kind == Redone && !m_redo.isEmpty() && m_redo.last() == target) {
-            m_undo.append(m_redo.takeLast());
+    try {
+        SQLite::Statement all(*m_db.tlynData,
+                              "SELECT kind, target, changeID FROM GameChanges WHERE gameID = ? ORDER BY changeID");
+        myDB::bindAll(all, {m_game});
+        while (all.executeStep()) {
+            const int kind = all.getColumn(0).getInt();
+            const qint64 target = all.getColumn(1).getInt64();
+            if (kind == Made) {
+                m_undo.append(all.getColumn(2).getInt64());
+                m_redo.clear();
+            } else if (kind == Undone && !m_undo.isEmpty() && m_undo.last() == target) {
+                m_redo.append(m_undo.takeLast());
+            } else if (kind == Redone && !m_redo.isEmpty() && m_redo.last() == target) {
+                m_undo.append(m_redo.takeLast());
+            }
         }
+    } catch (const SQLite::Exception &) {
+        // A file that could not take the log's table: nothing to undo.
+        m_undo.clear();
+        m_redo.clear();
     }
 }
 

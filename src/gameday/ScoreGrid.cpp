@@ -221,12 +221,11 @@ bool ScoreGrid::applyChoice(int row, int col, const QString &choice)
     // out: the coach is told which at bat that would be.
     if (m_actionDict.value(choice) == kBkgOut) {
         if (const auto fourth = fourthOutIf(row, col)) {
-            const QString inning = heading(fourth->second);
-            gShowMsgDlog(QStringLiteral("That would make a fourth out in inning ") + inning + u'.',
+            gShowMsgDlog(QStringLiteral("That would make a fourth out in inning %1.").arg(numericValue(heading(col))),
                          QStringLiteral("The at bat in row %1, inning %2 would be the fourth out. Clear an out of "
                                         "that inning first.")
                              .arg(fourth->first + 1)
-                             .arg(inning),
+                             .arg(heading(fourth->second)),
                          QStringLiteral("OK"));
             return false;
         }
@@ -299,9 +298,12 @@ void ScoreGrid::applyCode(int row, int col, const QString &choice)
                          QStringLiteral("A game can use at most 23 columns, and the last one holds data."),
                          QStringLiteral("OK"));
         }
-    } else if (check4ThreeOuts(col) || wasClosed) {
-        Q_EMIT doCalcs(col);
     }
+    // A change in a finished inning works the board out again, also when
+    // it reopens the inning (and the order now goes round into a second
+    // column).
+    if (check4ThreeOuts(col) || wasClosed)
+        Q_EMIT doCalcs(col);
 }
 
 std::optional<std::pair<int, int>> ScoreGrid::fourthOutIf(int row, int col) const

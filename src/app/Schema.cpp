@@ -110,7 +110,8 @@ const QStringList &addedTableStatements()
     static const QStringList statements = {
         QStringLiteral("CREATE TABLE IF NOT EXISTS GameChanges (") + key("changeID") +
             QStringLiteral(", gameID VarChar NOT NULL, kind Integer NOT NULL DEFAULT 0, target Integer NOT NULL "
-                           "DEFAULT 0, team Integer NOT NULL DEFAULT -1, label VarChar, changes VarChar)"),
+                           "DEFAULT 0, undoTop Integer NOT NULL DEFAULT 0, redoTop Integer NOT NULL DEFAULT 0, team "
+                           "Integer NOT NULL DEFAULT -1, label VarChar, changes VarChar)"),
         index("GameChanges", "gameID"),
     };
     return statements;

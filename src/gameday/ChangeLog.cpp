@@ -109,12 +109,12 @@ void writeRow(myDB &db, const RowChange &r, const std::optional<QVariantList> &f
 }
 
 qint64 appendEntry(myDB &db, const QString &game, int kind, qint64 target, int team, const QString &label,
-                   const QString &changes)
+                   const QString &changes, std::pair<qint64, qint64> tops = {})
 {
     run(db,
-        QStringLiteral("INSERT INTO GameChanges (gameID, kind, target, team, label, changes) VALUES (?, ?, ?, ?, ?, "
-                       "?)"),
-        {game, kind, target, team, label, changes});
+        QStringLiteral("INSERT INTO GameChanges (gameID, kind, target, undoTop, redoTop, team, label, changes) "
+                       "VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+        {game, kind, target, tops.first, tops.second, team, label, changes});
     return db.lastRowId();
 }
 
@@ -140,7 +140,8 @@ void ChangeLog::setGame(const QString &game)
 {
     m_game = game;
     m_loaded = false;
-    m_label.reset();
+    m_tops.reset();
+    m_labels.clear();
 }
 
 std::optional<QVariantList> ChangeLog::readRow(myDB &db, const QString &table, const QStringList &keyColumns,
@@ -171,10 +172,13 @@ ChangeLog::Result ChangeLog::add(const Change &change)
 {
     qint64 id = -1;
     const Result result = transact(m_db, [&] { id = recordWithin(m_db, m_game, change); });
-    if (result == Result::Saved && m_loaded) {
-        m_undo.append(id);
-        m_redo.clear();
-        m_label = {id, change.label};
+    if (result == Result::Saved) {
+        if (m_loaded) {
+            m_undo.append(id);
+            m_redo.clear();
+        }
+        m_tops = {id, 0};
+        m_labels.insert(id, change.label);
     }
     return result;
 }
@@ -211,35 +215,71 @@ void ChangeLog::load()
     }
 }
 
+void ChangeLog::readTops()
+{
+    m_tops = {0, 0};
+    if (!m_db.isConnected())
+        return;
+    try {
+        SQLite::Statement last(*m_db.tlynData, "SELECT changeID, kind, undoTop, redoTop FROM GameChanges WHERE gameID "
+                                               "= ? ORDER BY changeID DESC LIMIT 1");
+        myDB::bindAll(last, {m_game});
+        if (!last.executeStep())
+            return;
+        if (last.getColumn(1).getInt() == Made)
+            m_tops = {last.getColumn(0).getInt64(), 0};
+        else
+            m_tops = {last.getColumn(2).getInt64(), last.getColumn(3).getInt64()};
+    } catch (const SQLite::Exception &) {
+        // A file that could not take the log's table: nothing to undo.
+    }
+}
+
+qint64 ChangeLog::undoTop()
+{
+    if (m_loaded)
+        return m_undo.isEmpty() ? 0 : m_undo.last();
+    if (!m_tops)
+        readTops();
+    return m_tops->first;
+}
+
+qint64 ChangeLog::redoTop()
+{
+    if (m_loaded)
+        return m_redo.isEmpty() ? 0 : m_redo.last();
+    if (!m_tops)
+        readTops();
+    return m_tops->second;
+}
+
 bool ChangeLog::canUndo()
 {
-    if (!m_loaded)
-        load();
-    return !m_undo.isEmpty();
+    return undoTop() != 0;
 }
 
 bool ChangeLog::canRedo()
 {
-    if (!m_loaded)
-        load();
-    return !m_redo.isEmpty();
+    return redoTop() != 0;
 }
 
 QString ChangeLog::labelOf(qint64 id)
 {
-    if (!m_label || m_label->first != id)
-        m_label = {id, m_db.scalar(QStringLiteral("SELECT label FROM GameChanges WHERE changeID = ?"), {id}).toString()};
-    return m_label->second;
+    auto it = m_labels.constFind(id);
+    if (it == m_labels.constEnd())
+        it = m_labels.insert(
+            id, m_db.scalar(QStringLiteral("SELECT label FROM GameChanges WHERE changeID = ?"), {id}).toString());
+    return *it;
 }
 
 QString ChangeLog::undoLabel()
 {
-    return canUndo() ? labelOf(m_undo.last()) : QString();
+    return canUndo() ? labelOf(undoTop()) : QString();
 }
 
 QString ChangeLog::redoLabel()
 {
-    return canRedo() ? labelOf(m_redo.last()) : QString();
+    return canRedo() ? labelOf(redoTop()) : QString();
 }
 
 std::optional<Change> ChangeLog::undo()
@@ -254,9 +294,20 @@ std::optional<Change> ChangeLog::redo()
 
 std::optional<Change> ChangeLog::step(Kind kind)
 {
+    if (!m_loaded)
+        load();
     QList<qint64> &from = kind == Undone ? m_undo : m_redo;
     QList<qint64> &to = kind == Undone ? m_redo : m_undo;
+    if (from.isEmpty())
+        return std::nullopt;
     const qint64 id = from.last();
+    // The tops once this step is taken, kept in its entry.
+    QList<qint64> undoAfter = m_undo;
+    QList<qint64> redoAfter = m_redo;
+    (kind == Undone ? redoAfter : undoAfter).append(id);
+    (kind == Undone ? undoAfter : redoAfter).removeLast();
+    const std::pair<qint64, qint64> tops{undoAfter.isEmpty() ? 0 : undoAfter.last(),
+                                         redoAfter.isEmpty() ? 0 : redoAfter.last()};
     const QList<Record> rows = m_db.select(
         QStringLiteral("SELECT label, team, changes FROM GameChanges WHERE changeID = ?"), {id});
     if (rows.isEmpty())
@@ -273,13 +324,14 @@ std::optional<Change> ChangeLog::step(Kind kind)
             for (const RowChange &r : change.rows)
                 writeRow(m_db, r, r.before, r.after);
         }
-        appendEntry(m_db, m_game, kind, id, change.team, change.label, QString());
+        appendEntry(m_db, m_game, kind, id, change.team, change.label, QString(), tops);
     });
     if (result == Result::Missing)
         missingMessage();
     if (result != Result::Saved)
         return std::nullopt;
     to.append(from.takeLast());
+    m_tops = tops;
     return change;
 }
 

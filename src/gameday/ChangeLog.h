@@ -10,6 +10,7 @@
 // truth the rest of the program reads; the log only lets the coach step
 // back through them.
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -52,7 +53,11 @@ public:
     void setGame(const QString &game);
     // Another writer appended an entry to this game's log: the stacks are
     // read again when next needed.
-    void reload() { m_loaded = false; }
+    void reload()
+    {
+        m_loaded = false;
+        m_tops.reset();
+    }
 
     // The row's values of `columns` as stored; empty when there is no row.
     static std::optional<QVariantList> readRow(myDB &db, const QString &table, const QStringList &keyColumns,
@@ -82,16 +87,24 @@ public:
 
 private:
     enum Kind { Made = 0, Undone = 1, Redone = 2 };
+    // The two changes Undo and Redo would take, from the last entry alone
+    // (an undo or redo entry keeps them; a new change is itself on top and
+    // leaves nothing to redo): what the menu needs when a game opens.
+    void readTops();
+    // Both stacks, from every entry in order: before the first step.
     void load();
+    qint64 undoTop();
+    qint64 redoTop();
     std::optional<Change> step(Kind kind);
     QString labelOf(qint64 id);
 
     myDB &m_db;
     QString m_game;
     bool m_loaded = false;
+    std::optional<std::pair<qint64, qint64>> m_tops; // undo, redo; 0 for none
     QList<qint64> m_undo;
     QList<qint64> m_redo;
-    std::optional<std::pair<qint64, QString>> m_label; // the last label read
+    QHash<qint64, QString> m_labels; // read once each: an entry never changes
 };
 
 } // namespace gameday

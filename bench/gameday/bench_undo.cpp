@@ -13,8 +13,8 @@
 
 #include "app/App.h"
 #include "app/globals.h"
-#include "app/myPrefs.h"
 #include "app/myDB.h"
+#include "app/myPrefs.h"
 #include "fakes/FakePlatform.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -39,8 +39,8 @@ TeamStrings fullTeam()
         headings.append(QString::number(i));
     const QStringList codes = {"B1", "GO", "KS", "", "HR", "BB", "FO", ""};
     for (int r = 0; r < 25; ++r) {
-        lineup.append(LineupLine{QString::number(r + 1), "SS", QStringLiteral("Player %1").arg(r),
-                                 QString::number(100 + r)});
+        lineup.append(
+            LineupLine{QString::number(r + 1), "SS", QStringLiteral("Player %1").arg(r), QString::number(100 + r)});
         QStringList line;
         for (int c = 0; c < 23; ++c)
             line.append(codes.at((r + c) % codes.size()));
@@ -133,10 +133,11 @@ class BenchUndo : public QObject
         QCOMPARE(store.load(twin)->teams[1].actions, after);
         QCOMPARE(store.load(bare)->teams[1].actions, after);
         const double b1 = median(baseBefore), b2 = median(baseAfter);
-        qInfo("%-6s keyed write of the same bytes %.3f / %.3f ms; undo's write %.3f ms (ratio %.2f), redo's %.3f ms "
-              "(ratio %.2f); the coach's undo with the card shown again %.3f ms (ratio %.2f), redo %.3f ms (ratio %.2f)",
-              qPrintable(place), b1, b2, median(writeUndos), median(writeUndos) / b1, median(writeRedos),
-              median(writeRedos) / b2, median(undos), median(undos) / b1, median(redos), median(redos) / b2);
+        qInfo(
+            "%-6s keyed write of the same bytes %.3f / %.3f ms; undo's write %.3f ms (ratio %.2f), redo's %.3f ms "
+            "(ratio %.2f); the coach's undo with the card shown again %.3f ms (ratio %.2f), redo %.3f ms (ratio %.2f)",
+            qPrintable(place), b1, b2, median(writeUndos), median(writeUndos) / b1, median(writeRedos),
+            median(writeRedos) / b2, median(undos), median(undos) / b1, median(redos), median(redos) / b2);
     }
 
     void openWithLog(const QString &place)

@@ -122,7 +122,7 @@ const QStringList &indexStatements()
     // A game's row by its event (every click's save), the game's panel rows
     // by game (recording, the panels) and by player, a player's season rows
     // by player (recording), and the rows kept per team.
-    static const QStringList statements = addedTableStatements() + QStringList{
+    static const QStringList indexes = {
         index("Games", "schedID"),
         index("GamesIndivHitting", "gameID"),
         index("GamesIndivHitting", "playerID"),
@@ -138,6 +138,8 @@ const QStringList &indexStatements()
         index("Coaches", "TeamNum"),
         index("Drills", "scheduleID"),
     };
+    // The tables come first: an older file gets them with their indexes.
+    static const QStringList statements = addedTableStatements() + indexes;
     return statements;
 }
 

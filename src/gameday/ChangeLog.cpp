@@ -13,6 +13,9 @@ namespace gameday {
 
 namespace {
 
+// The changes kept in memory for stepping back and forth, some KB each.
+constexpr qsizetype kKeptChanges = 200;
+
 // Thrown inside a step when a row to update is gone: the step rolls back.
 struct RowMissing
 {
@@ -142,6 +145,7 @@ void ChangeLog::setGame(const QString &game)
     m_loaded = false;
     m_tops.reset();
     m_labels.clear();
+    m_changes.clear();
 }
 
 std::optional<QVariantList> ChangeLog::readRow(myDB &db, const QString &table, const QStringList &keyColumns,
@@ -179,6 +183,9 @@ ChangeLog::Result ChangeLog::add(const Change &change)
         }
         m_tops = {id, 0};
         m_labels.insert(id, change.label);
+        if (m_changes.size() >= kKeptChanges)
+            m_changes.clear(); // read back from the file when stepped to
+        m_changes.insert(id, change);
     }
     return result;
 }
@@ -308,12 +315,16 @@ std::optional<Change> ChangeLog::step(Kind kind)
     (kind == Undone ? undoAfter : redoAfter).removeLast();
     const std::pair<qint64, qint64> tops{undoAfter.isEmpty() ? 0 : undoAfter.last(),
                                          redoAfter.isEmpty() ? 0 : redoAfter.last()};
-    const QList<Record> rows = m_db.select(
-        QStringLiteral("SELECT label, team, changes FROM GameChanges WHERE changeID = ?"), {id});
-    if (rows.isEmpty())
-        return std::nullopt;
-    Change change{rows.first().text(QStringLiteral("label")), int(rows.first().integer(QStringLiteral("team"))),
-                  decode(rows.first().text(QStringLiteral("changes")))};
+    if (!m_changes.contains(id)) {
+        const QList<Record> rows = m_db.select(
+            QStringLiteral("SELECT label, team, changes FROM GameChanges WHERE changeID = ?"), {id});
+        if (rows.isEmpty())
+            return std::nullopt;
+        m_changes.insert(id, Change{rows.first().text(QStringLiteral("label")),
+                                    int(rows.first().integer(QStringLiteral("team"))),
+                                    decode(rows.first().text(QStringLiteral("changes")))});
+    }
+    const Change change = m_changes.value(id);
     const Result result = transact(m_db, [&] {
         if (kind == Undone) {
             // Backwards, so a row made and then changed by one entry comes

@@ -105,6 +105,9 @@ private:
     QList<qint64> m_undo;
     QList<qint64> m_redo;
     QHash<qint64, QString> m_labels; // read once each: an entry never changes
+    // The changes made or stepped over in this sitting, so stepping back
+    // and forth over them reads nothing.
+    QHash<qint64, Change> m_changes;
 };
 
 } // namespace gameday

@@ -104,8 +104,8 @@ QString gameState(const QString &schedID)
     QString out = storedStrings(schedID);
     for (const char *table : {"GamesIndivHitting", "GamesIndivFielding", "GamesIndivPitching"}) {
         for (const Record &r : gData->select(QStringLiteral("SELECT * FROM ") + QString::fromLatin1(table) +
-                                             QStringLiteral(" WHERE gameID = ? ORDER BY playerID"),
-                                         {schedID})) {
+                                                 QStringLiteral(" WHERE gameID = ? ORDER BY playerID"),
+                                             {schedID})) {
             QStringList values{QString::fromLatin1(table)};
             for (qsizetype c = 0; c < r.columns.size(); ++c) {
                 if (r.columns.at(c) != u"recID") // a row made again gets a new one

@@ -157,21 +157,23 @@ private Q_SLOTS:
         QTest::addColumn<bool>("doubled");
         QTest::addColumn<QPoint>("cell"); // (col, row)
         QTest::addColumn<QString>("code");
-        QTest::addColumn<QString>("refusal"); // empty when the change is made
+        QTest::addColumn<QString>("refusal");    // empty when the change is made
         QTest::addColumn<bool>("threeOuts");     // the first inning's, afterwards
         QTest::addColumn<QString>("secondHead"); // column 1's heading, afterwards
         const QString fourthIn1a =
             "The at bat in row 3, inning 1a would be the fourth out. Clear an out of that inning first.";
-        QTest::newRow("an out for another out") << false << QPoint(0, 0) << "KL" << "" << true << "2";
+        QTest::newRow("an out for another out") << false << QPoint(0, 0) << "KL"
+                                                << "" << true << "2";
         QTest::newRow("a hit made an out")
             << false << QPoint(0, 1) << "GO"
             << "The at bat in row 4, inning 1 would be the fourth out. Clear an out of that inning first." << true
             << "2";
         // Two outs when the order comes round: the inning doubles, and the
         // second inning's at bat moves along, as if scored that way.
-        QTest::newRow("an out made a hit reopens the inning") << false << QPoint(0, 2) << "B2" << "" << false << "1a";
-        QTest::newRow("a fourth out in the doubled column") << true << QPoint(0, 1) << "FO" << fourthIn1a << true
-                                                            << "1a";
+        QTest::newRow("an out made a hit reopens the inning") << false << QPoint(0, 2) << "B2"
+                                                              << "" << false << "1a";
+        QTest::newRow("a fourth out in the doubled column")
+            << true << QPoint(0, 1) << "FO" << fourthIn1a << true << "1a";
         QTest::newRow("a result that is an out") << true << QPoint(0, 0) << "xCS" << fourthIn1a << true << "1a";
     }
     void editAnEarlierAtBat()
@@ -212,7 +214,8 @@ private Q_SLOTS:
             QCOMPARE(calcs.count(), 1); // the board follows the change
             QCOMPARE(grid.lastChoice(), code);
         } else {
-            QCOMPARE(env.fake.messages.texts(), QStringList{QStringLiteral("That would make a fourth out in inning 1.")});
+            QCOMPARE(env.fake.messages.texts(),
+                     QStringList{QStringLiteral("That would make a fourth out in inning 1.")});
             QCOMPARE(env.fake.messages.shown.first().explanation, refusal);
             QCOMPARE(edited.count(), 0);
             QCOMPARE(grid.getMyData(), data);

@@ -50,7 +50,7 @@ QString encode(const QList<RowChange> &rows)
 QStringList strings(const QJsonValue &json)
 {
     QStringList out;
-    for (const QJsonValue &v : json.toArray())
+    for (const auto &v : json.toArray())
         out.append(v.toString());
     return out;
 }
@@ -58,7 +58,7 @@ QStringList strings(const QJsonValue &json)
 QList<RowChange> decode(const QString &text)
 {
     QList<RowChange> rows;
-    for (const QJsonValue &v : QJsonDocument::fromJson(text.toUtf8()).array()) {
+    for (const auto &v : QJsonDocument::fromJson(text.toUtf8()).array()) {
         const QJsonObject o = v.toObject();
         rows.append({o.value(QStringLiteral("table")).toString(), strings(o.value(QStringLiteral("keyColumns"))),
                      o.value(QStringLiteral("key")).toArray().toVariantList(),

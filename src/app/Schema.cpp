@@ -104,12 +104,28 @@ QString index(const char *table, const char *column)
 
 } // namespace
 
+const QStringList &addedTableStatements()
+{
+    // The game screen's change log: one row per change, undo and redo.
+    static const QStringList statements = {
+        QStringLiteral("CREATE TABLE IF NOT EXISTS GameChanges (") + key("changeID") +
+            QStringLiteral(", gameID VarChar NOT NULL, kind Integer NOT NULL DEFAULT 0, target Integer NOT NULL "
+                           "DEFAULT 0, undoTop Integer NOT NULL DEFAULT 0, redoTop Integer NOT NULL DEFAULT 0, team "
+                           "Integer NOT NULL DEFAULT -1, label VarChar, changes VarChar)"),
+        index("GameChanges", "gameID"),
+        // The coach's defensive moves: who went to which position from an inning on.
+        QStringLiteral("CREATE TABLE IF NOT EXISTS DefenseMoves (moveID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL "
+                       "UNIQUE, schedID Varchar, teamID Varchar, playerID Varchar, inning Integer, pos Varchar)"),
+    };
+    return statements;
+}
+
 const QStringList &indexStatements()
 {
     // A game's row by its event (every click's save), the game's panel rows
     // by game (recording, the panels) and by player, a player's season rows
     // by player (recording), and the rows kept per team.
-    static const QStringList statements = {
+    static const QStringList indexes = {
         index("Games", "schedID"),
         index("GamesIndivHitting", "gameID"),
         index("GamesIndivHitting", "playerID"),
@@ -125,15 +141,8 @@ const QStringList &indexStatements()
         index("Coaches", "TeamNum"),
         index("Drills", "scheduleID"),
     };
-    return statements;
-}
-
-const QStringList &addedTableStatements()
-{
-    static const QStringList statements = {
-        QStringLiteral("CREATE TABLE IF NOT EXISTS DefenseMoves (moveID INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL "
-                       "UNIQUE, schedID Varchar, teamID Varchar, playerID Varchar, inning Integer, pos Varchar)"),
-    };
+    // The tables come first: an older file gets them with their indexes.
+    static const QStringList statements = addedTableStatements() + indexes;
     return statements;
 }
 

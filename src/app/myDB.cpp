@@ -167,7 +167,7 @@ void myDB::addIndexes()
     // still opened and works as before.
     try {
         SQLite::Transaction transaction(*tlynData);
-        for (const QString &statement : schema::addedTableStatements() + schema::indexStatements())
+        for (const QString &statement : schema::indexStatements())
             tlynData->exec(utf8(statement));
         transaction.commit();
     } catch (const SQLite::Exception &) {
@@ -179,7 +179,7 @@ bool myDB::createSchema(const QString &file)
     try {
         SQLite::Transaction transaction(*tlynData, SQLite::TransactionBehavior::IMMEDIATE);
         for (const QString &statement :
-             schema::createStatements() + schema::addedTableStatements() + schema::indexStatements())
+             schema::createStatements() + schema::indexStatements())
             tlynData->exec(utf8(statement));
         transaction.commit();
     } catch (const SQLite::Exception &) {

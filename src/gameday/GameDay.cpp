@@ -10,9 +10,52 @@ namespace {
 
 const QString kOK = QStringLiteral("OK");
 
+// "1st inning", "2nd inning", ... "11th inning".
+QString ordinalInning(int n)
+{
+    const int tens = n % 100;
+    const int ones = n % 10;
+    const char *suffix = "th";
+    if (tens < 11 || tens > 13)
+        suffix = ones == 1 ? "st" : ones == 2 ? "nd" : ones == 3 ? "rd" : "th";
+    return QString::number(n) + QString::fromLatin1(suffix) + QStringLiteral(" inning");
+}
+
+// A code, result or command as the Edit menu names it.
+QString describeChoice(const QString &choice)
+{
+    static const QHash<QString, QString> names = {
+        {QStringLiteral("B1"), QStringLiteral("Single")},
+        {QStringLiteral("B2"), QStringLiteral("Double")},
+        {QStringLiteral("B3"), QStringLiteral("Triple")},
+        {QStringLiteral("HR"), QStringLiteral("Home Run")},
+        {QStringLiteral("BB"), QStringLiteral("Ball Four")},
+        {QStringLiteral("IBB"), QStringLiteral("Intentional Walk")},
+        {QStringLiteral("HBP"), QStringLiteral("Hit by Pitch")},
+        {QStringLiteral("SAC"), QStringLiteral("Sacrifice")},
+        {QStringLiteral("SF"), QStringLiteral("Sacrifice Fly")},
+        {QStringLiteral("FO"), QStringLiteral("Fly Out")},
+        {QStringLiteral("GO"), QStringLiteral("Ground Out")},
+        {QStringLiteral("KS"), QStringLiteral("Strikeout Swinging")},
+        {QStringLiteral("KL"), QStringLiteral("Strikeout Looking")},
+        {QStringLiteral("HDP"), QStringLiteral("Double Play")},
+        {QStringLiteral("ROE"), QStringLiteral("Reached on Error")},
+        {QStringLiteral("FC"), QStringLiteral("Fielder's Choice")},
+        {QStringLiteral("CI"), QStringLiteral("Catcher's Interference")},
+        {QStringLiteral("xCS"), QStringLiteral("Caught Stealing")},
+        {QStringLiteral("xPOB"), QStringLiteral("Picked Off")},
+        {QStringLiteral("xFrcO"), QStringLiteral("Force Out")},
+        {QStringLiteral("xOUT"), QStringLiteral("Out on the Bases")},
+        {QStringLiteral("xRUN"), QStringLiteral("Run Scored")},
+        {QStringLiteral("xLOB"), QStringLiteral("Left on Base")},
+    };
+    return names.value(choice, choice);
+}
+
 } // namespace
 
-GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent) : QObject(parent), m_db(db), m_card(card), m_store(db)
+GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent)
+    : QObject(parent), m_db(db), m_card(card), m_store(db), m_log(db)
 {
     m_defLineup = lineupSlots();
     m_card.setDefInnings(regulationInnings());
@@ -25,9 +68,9 @@ GameDay::GameDay(myDB &db, ScoreGrid &card, QObject *parent) : QObject(parent), 
         if (!m_loading && !m_autoFill)
             m_dirty = true;
     });
-    connect(&m_card, &ScoreGrid::cellEdited, this, [this] {
+    connect(&m_card, &ScoreGrid::cellEdited, this, [this](int row, int col) {
         if (!m_autoFill)
-            commitClick();
+            commitClick(cellLabel(row, col));
     });
     connect(&m_card, &ScoreGrid::autoFillDataReturn, this, [this](const AutoFillData &figures) {
         const AutoFillData data = figures; // the grid's own array, cleared below
@@ -76,10 +119,13 @@ bool GameDay::open(const QString &schedID)
         m_rec.teamIDs = m_event.teamIDs;
         loadNewGame();
     }
+    m_logged = m_rec;
+    m_log.setGame(schedID);
     m_card.initCellBkg(kBkgCols - 1);
     m_cur = 1;
     m_dirty = false;
     displayCurrentTeam(true);
+    Q_EMIT undoChanged();
     if (m_lock == Lock::Damaged)
         gShowMsgDlog(QStringLiteral("There is an error in the saved data."),
                      QStringLiteral("The game opens read-only; its stored data is left as it was."), kOK);
@@ -232,6 +278,7 @@ void GameDay::setRecorded()
     applyClickLock();
     Q_EMIT finalizeVisibleChanged(false);
     Q_EMIT teamShown();
+    Q_EMIT undoChanged();
 }
 
 void GameDay::setCorrected()
@@ -243,6 +290,7 @@ void GameDay::setCorrected()
     Q_EMIT finalizeVisibleChanged(true);
     Q_EMIT instructionChanged();
     Q_EMIT teamShown();
+    Q_EMIT undoChanged();
 }
 
 void GameDay::setGameType(const QString &type)
@@ -250,7 +298,7 @@ void GameDay::setGameType(const QString &type)
     if (type == m_rec.gameType)
         return;
     m_rec.gameType = type;
-    commitClick();
+    commitClick(QStringLiteral("Game Type ") + type);
 }
 
 void GameDay::setFinalizeVisible(bool on)
@@ -293,7 +341,7 @@ bool GameDay::addPlayerToLineup(int rosterRow)
         gShowMsgDlog(QStringLiteral("Add a non-batting Pitcher to your lineup."),
                      QStringLiteral("You will add pitching stats for that player."), QStringLiteral("Continue"));
     }
-    commitClick();
+    commitClick(QStringLiteral("Add ") + rowName(rows - 1) + QStringLiteral(" to the Lineup"));
     Q_EMIT lineupChanged();
     return true;
 }
@@ -317,12 +365,13 @@ bool GameDay::removeFromLineup(int row)
     if (std::optional<BenchLine> p = m_store.player(m_lineup.at(row).playerID))
         m_roster.append(*p);
     const QString order = m_lineup.at(row).order;
+    const QString label = QStringLiteral("Remove ") + rowName(row) + QStringLiteral(" from the Lineup");
     m_lineup.removeAt(row);
     m_card.removeRow(row);
     if (row < m_batStats.size())
         m_batStats.removeAt(row);
     closeOrderGap(order);
-    commitClick();
+    commitClick(label);
     Q_EMIT lineupChanged();
     return true;
 }
@@ -365,7 +414,7 @@ bool GameDay::addReplacementPlayer(int rosterRow, int lineupRow)
     m_card.insertReplacementRow(lineupRow, numericValue(order));
     m_batStats.insert(qMin(lineupRow + 1, int(m_batStats.size())), BatterStat{});
     m_roster.removeAt(rosterRow);
-    commitClick();
+    commitClick(QStringLiteral("Replace ") + rowName(lineupRow) + QStringLiteral(" with ") + rowName(lineupRow + 1));
     Q_EMIT lineupChanged();
     return true;
 }
@@ -385,7 +434,7 @@ int GameDay::moveLineupRow(int row, int delta)
     std::swap(a.pos, b.pos);
     std::swap(a.name, b.name);
     std::swap(a.playerID, b.playerID);
-    commitClick();
+    commitClick(QStringLiteral("Batting Order, ") + rowName(to));
     Q_EMIT lineupChanged();
     return to;
 }
@@ -395,7 +444,7 @@ void GameDay::setLineupPosition(int row, const QString &pos)
     if (row < 0 || row >= m_lineup.size() || m_lineup.at(row).pos == pos.toUpper())
         return;
     m_lineup[row].pos = pos.toUpper();
-    commitClick();
+    commitClick(QStringLiteral("Position ") + pos.toUpper() + QStringLiteral(", ") + rowName(row));
     Q_EMIT lineupChanged();
 }
 
@@ -412,7 +461,7 @@ void GameDay::addBenchPlayers(const QList<BenchLine> &players)
         added = true;
     }
     if (added) {
-        commitClick();
+        commitClick(QStringLiteral("Add Players to the Bench"));
         Q_EMIT lineupChanged();
     }
 }
@@ -427,8 +476,10 @@ bool GameDay::removeBenchPlayer(int rosterRow)
                          QStringLiteral(" from the list of available players?"),
                      QStringLiteral("This action cannot be undone"), QStringLiteral("Remove")) != 0)
         return false;
+    const QString label = QStringLiteral("Remove ") + m_roster.at(rosterRow).name.section(u' ', -1) +
+                          QStringLiteral(" from the Bench");
     m_roster.removeAt(rosterRow);
-    commitClick();
+    commitClick(label);
     Q_EMIT lineupChanged();
     return true;
 }
@@ -446,7 +497,7 @@ void GameDay::setBatterStat(int row, int col, const QString &value)
     if (cell == value)
         return;
     cell = value;
-    commitClick();
+    commitClick((col == 0 ? QStringLiteral("RBI, ") : QStringLiteral("SB, ")) + rowName(row));
 }
 
 // --- Scoreboard ---------------------------------------------------------------------------
@@ -586,7 +637,9 @@ void GameDay::setBoardBox(int box, const QString &text)
     }
     markHomeHalf(m_board);
     Q_EMIT boardChanged();
-    commitClick();
+    static const QStringList boxes = {QStringLiteral("Hits"), QStringLiteral("Errors"), QStringLiteral("LOB")};
+    commitClick(box < 10 ? QStringLiteral("Line Score, ") + ordinalInning(box + 1)
+                         : QStringLiteral("Line Score ") + boxes.at(box - kHitsBox));
 }
 
 QString GameDay::getRHEData(int team) const
@@ -634,17 +687,43 @@ GameStore::SaveResult GameDay::saveDataToDB()
     return result;
 }
 
-bool GameDay::commitClick()
+bool GameDay::commitClick(const QString &label)
 {
     if (m_loading || m_rec.schedID.isEmpty() || isReadOnly())
         return false;
     m_dirty = true;
     saveCurState();
-    const GameStore::SaveResult result = m_store.saveTeam(m_rec, m_cur);
-    if (result == GameStore::SaveResult::Missing)
+    return writeChange(label.isEmpty() ? QStringLiteral("Change") : label);
+}
+
+bool GameDay::writeChange(const QString &label)
+{
+    // Only the columns that differ from the file go into the entry: a
+    // click writes its team's card, a game type its one column.
+    const QStringList columns = GameStore::cardColumns();
+    const QVariantList before = GameStore::cardValues(m_logged);
+    const QVariantList after = GameStore::cardValues(m_rec);
+    RowChange row{QStringLiteral("Games"), {QStringLiteral("schedID")}, {m_rec.schedID}, {}, QVariantList{},
+                  QVariantList{}};
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        if (before.at(i) == after.at(i))
+            continue;
+        row.columns.append(columns.at(i));
+        row.before->append(before.at(i));
+        row.after->append(after.at(i));
+    }
+    if (row.columns.isEmpty()) {
+        m_dirty = false;
+        return true;
+    }
+    const ChangeLog::Result result = m_log.add(Change{label, m_cur, {row}});
+    if (result == ChangeLog::Result::Missing)
         gShowMsgDlog(QStringLiteral("TallylineBB was unable to find the data for this game."),
                      QStringLiteral("Please reload this game from the Schedule."), kOK);
-    m_dirty = result != GameStore::SaveResult::Saved;
+    m_dirty = result != ChangeLog::Result::Saved;
+    if (!m_dirty)
+        m_logged = m_rec;
+    Q_EMIT undoChanged();
     return !m_dirty;
 }
 
@@ -655,8 +734,115 @@ bool GameDay::saveIfDirty()
     if (!m_dirty || isReadOnly() || m_rec.schedID.isEmpty())
         return true;
     saveCurState();
-    m_dirty = saveDataToDB() != GameStore::SaveResult::Saved;
-    return !m_dirty;
+    return writeChange(QStringLiteral("Changes"));
+}
+
+// --- Undo and redo ---------------------------------------------------------------------------
+
+bool GameDay::canUndo()
+{
+    return !isReadOnly() && !m_autoFill && m_log.canUndo();
+}
+
+bool GameDay::canRedo()
+{
+    return !isReadOnly() && !m_autoFill && m_log.canRedo();
+}
+
+QString GameDay::undoText()
+{
+    return canUndo() ? QStringLiteral("Undo ") + m_log.undoLabel() : QStringLiteral("Undo");
+}
+
+QString GameDay::redoText()
+{
+    return canRedo() ? QStringLiteral("Redo ") + m_log.redoLabel() : QStringLiteral("Redo");
+}
+
+bool GameDay::undo()
+{
+    return stepLog(true);
+}
+
+bool GameDay::redo()
+{
+    return stepLog(false);
+}
+
+void GameDay::logAppended()
+{
+    m_log.reload();
+    Q_EMIT undoChanged();
+}
+
+QString GameDay::panelLabel(const QString &panel, const QString &playerName)
+{
+    return panel + QStringLiteral(" Stats, ") + playerName.section(u' ', -1);
+}
+
+bool GameDay::stepLog(bool back)
+{
+    if ((back ? !canUndo() : !canRedo()) || !saveIfDirty())
+        return false;
+    const std::optional<Change> change = back ? m_log.undo() : m_log.redo();
+    if (!change) {
+        Q_EMIT undoChanged();
+        return false;
+    }
+    // The file holds the truth: the card is read back from it as a reopened
+    // game would be.
+    if (std::optional<GameRecord> stored = m_store.load(m_rec.schedID)) {
+        m_rec.teams = stored->teams;
+        m_rec.gameType = stored->gameType;
+    }
+    m_logged = m_rec;
+    m_dirty = false;
+    const int team = teamOfChange(*change);
+    if (team != -1 && team != m_cur)
+        setEnterRHE(false);
+    if (team != -1)
+        m_cur = team;
+    displayCurrentTeam(true);
+    refreshBoard();
+    Q_EMIT lineupChanged();
+    Q_EMIT undoChanged();
+    return true;
+}
+
+int GameDay::teamOfChange(const Change &change) const
+{
+    if (change.team == 0 || change.team == 1)
+        return change.team;
+    // A panel row names its team.
+    for (const RowChange &r : change.rows) {
+        const qsizetype at = r.columns.indexOf(QStringLiteral("teamID"));
+        const std::optional<QVariantList> &values = r.after ? r.after : r.before;
+        if (at < 0 || !values)
+            continue;
+        const QString team = values->value(at).toString();
+        for (int t = 0; t < 2; ++t) {
+            if (team == teamID(t))
+                return t;
+        }
+    }
+    return -1;
+}
+
+QString GameDay::rowName(int row) const
+{
+    return row >= 0 && row < m_lineup.size() ? m_lineup.at(row).name.section(u' ', -1) : QString();
+}
+
+QString GameDay::cellLabel(int row, int col) const
+{
+    const QString choice = m_card.lastChoice();
+    const QString inning = ordinalInning(numericValue(m_card.heading(col)));
+    const qsizetype command = commandCaptions().indexOf(choice);
+    if (command == 2 || command == 3)
+        return choice + QStringLiteral(", ") + inning;
+    if (command == 4 || command == 5)
+        return choice + QStringLiteral(", ") + rowName(row);
+    return describeChoice(choice) + QStringLiteral(", ") + rowName(row) + QStringLiteral(", ") + inning;
 }
 
 // --- Events of the grid ---------------------------------------------------------------------

@@ -7,6 +7,7 @@
 // screen shows this state and forwards the coach's clicks; a test plays a
 // whole game through it.
 
+#include "gameday/ChangeLog.h"
 #include "gameday/GameRecord.h"
 #include "gameday/GameStore.h"
 #include "gameday/ScoreGrid.h"
@@ -164,9 +165,30 @@ public:
     // change of it has not reached the file yet. Nothing else writes.
     bool saveIfDirty();
     GameStore::SaveResult saveDataToDB();
-    // The write after each of the coach's changes: the team on show, in
-    // one transaction. False when it did not reach the file.
-    bool commitClick();
+    // The write after each of the coach's changes: what changed of the
+    // game's row, with its entry in the change log named `label`, in one
+    // transaction. False when it did not reach the file.
+    bool commitClick(const QString &label = {});
+
+    // --- Undo and redo -------------------------------------------------------------
+
+    // Whether Edit > Undo / Redo can step, and the menu texts naming the
+    // change ("Undo Ball Four, Smith, 3rd inning"). A read-only game, and
+    // the auto-fill, offer neither.
+    bool canUndo();
+    bool canRedo();
+    QString undoText();
+    QString redoText();
+    // Steps back (or forward) over one change of the log: the stored rows
+    // get their values of before (after) it, the card that changed comes
+    // on show and the board is worked out anew. False when nothing moved.
+    bool undo();
+    bool redo();
+    // A statistics panel wrote its row (with its log entry): Undo may now
+    // take that.
+    void logAppended();
+    // What a change of a panel row is named: "Fielding Stats, Smith".
+    static QString panelLabel(const QString &panel, const QString &playerName);
 
     // --- Pitching auto-fill --------------------------------------------------------
 
@@ -187,6 +209,8 @@ Q_SIGNALS:
     void autoFillAbandoned();
     void selectionChanged(int row);
     void instructionChanged();
+    // What Undo and Redo would do changed.
+    void undoChanged();
 
 private:
     void loadNewGame();
@@ -202,11 +226,18 @@ private:
     void onColumnAdded(const QString &headings);
     void onDoCalcs();
     void onWalkoff();
+    bool writeChange(const QString &label);
+    bool stepLog(bool back);
+    int teamOfChange(const Change &change) const;
+    QString rowName(int row) const;
+    QString cellLabel(int row, int col) const;
 
     myDB &m_db;
     ScoreGrid &m_card;
     GameStore m_store;
     GameRecord m_rec;
+    GameRecord m_logged; // the row as the file holds it
+    ChangeLog m_log;
     GameEvent m_event;
     std::array<TeamInfo, 2> m_info;
     int m_cur = 1;

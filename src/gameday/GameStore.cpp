@@ -202,4 +202,14 @@ bool GameStore::writeWithin(myDB &db, const GameRecord &record)
                      record.schedID) > 0;
 }
 
+QStringList GameStore::cardColumns()
+{
+    return commonColumns() + teamColumns(0) + teamColumns(1);
+}
+
+QVariantList GameStore::cardValues(const GameRecord &record)
+{
+    return commonValues(record) + teamValues(record.teams[0]) + teamValues(record.teams[1]);
+}
+
 } // namespace gameday

@@ -77,6 +77,11 @@ public:
     // has no row.
     static bool writeWithin(myDB &db, const GameRecord &record);
 
+    // The columns of the card a change on the game screen may touch (Teams,
+    // gameType and both teams' six strings), and a record's values of them.
+    static QStringList cardColumns();
+    static QVariantList cardValues(const GameRecord &record);
+
 private:
     SaveResult saveColumns(const QString &schedID, const QStringList &columns, const QVariantList &values);
 

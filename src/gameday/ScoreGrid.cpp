@@ -196,6 +196,7 @@ void ScoreGrid::cellClicked(int row, int col, bool optionDown)
 
     // Option-click: the one-click "left on base", whatever the cell showed.
     if (!cellText(row, col).isEmpty() && optionDown) {
+        m_lastChoice = QStringLiteral("xLOB");
         setCellBkg(row, col, bkg(kBkgLeft));
         Q_EMIT changed();
         Q_EMIT cellEdited(row, col);
@@ -205,17 +206,33 @@ void ScoreGrid::cellClicked(int row, int col, bool optionDown)
     if (!m_popover)
         return;
     const QString choice = m_popover(row, col, cellBkg(row, col).isEmpty());
-    if (!choice.isEmpty()) {
-        applyChoice(row, col, choice);
+    if (!choice.isEmpty() && applyChoice(row, col, choice))
         Q_EMIT cellEdited(row, col);
-    }
 }
 
-void ScoreGrid::applyChoice(int row, int col, const QString &choice)
+bool ScoreGrid::applyChoice(int row, int col, const QString &choice)
 {
     // The popover ran an event loop: make sure the cell is still there.
     if (!inRows(row) || !inColumns(col))
-        return;
+        return false;
+    m_lastChoice = choice;
+
+    // An at bat of a finished inning may be changed, but not into a fourth
+    // out: the coach is told which at bat that would be.
+    if (m_actionDict.value(choice) == kBkgOut) {
+        if (const auto fourth = fourthOutIf(row, col)) {
+            gShowMsgDlog(QStringLiteral("That would make a fourth out in inning %1.").arg(numericValue(heading(col))),
+                         QStringLiteral("The at bat in row %1, inning %2 would be the fourth out. Clear an out of "
+                                        "that inning first.")
+                             .arg(fourth->first + 1)
+                             .arg(heading(fourth->second)),
+                         QStringLiteral("OK"));
+            return false;
+        }
+    }
+    // An inning that had its three outs works its runs out again whatever
+    // the change, so an edit of an earlier inning reaches the board.
+    const bool wasClosed = check4ThreeOuts(col);
 
     const QStringList &commands = commandCaptions();
     switch (commands.indexOf(choice)) {
@@ -223,28 +240,36 @@ void ScoreGrid::applyChoice(int row, int col, const QString &choice)
         setCellText(row, col, {});
         setCellBkg(row, col, bkg(kBkgNone));
         Q_EMIT changed();
-        return;
+        break;
     case 1: // Disable Cell
         setCellText(row, col, {});
         setCellBkg(row, col, bkg(kBkgDisabled));
         Q_EMIT changed();
-        return;
+        break;
     case 2:
         enableWholeCol(col);
-        return;
+        break;
     case 3:
         disableWholeCol(col);
-        return;
+        break;
     case 4:
         enableWholeRow(row);
-        return;
+        break;
     case 5:
         disableWholeRow(row);
-        return;
-    default:
         break;
+    default:
+        applyCode(row, col, choice);
+        return true;
     }
+    if (wasClosed)
+        Q_EMIT doCalcs(col);
+    return true;
+}
 
+void ScoreGrid::applyCode(int row, int col, const QString &choice)
+{
+    const bool wasClosed = check4ThreeOuts(col);
     bool walkoff = false;
     if (m_actionDict.contains(choice)) {
         setCellBkg(row, col, m_actionDict.value(choice));
@@ -273,9 +298,36 @@ void ScoreGrid::applyChoice(int row, int col, const QString &choice)
                          QStringLiteral("A game can use at most 23 columns, and the last one holds data."),
                          QStringLiteral("OK"));
         }
-    } else if (check4ThreeOuts(col)) {
-        Q_EMIT doCalcs(col);
     }
+    // A change in a finished inning works the board out again, also when
+    // it reopens the inning (and the order now goes round into a second
+    // column).
+    if (check4ThreeOuts(col) || wasClosed)
+        Q_EMIT doCalcs(col);
+}
+
+std::optional<std::pair<int, int>> ScoreGrid::fourthOutIf(int row, int col) const
+{
+    if (!inColumns(col) || cellBkg(row, col) == kBkgOut)
+        return std::nullopt;
+    // The inning's columns in order, each read from where its order started.
+    const int partner = findExtInningCol(col);
+    QList<int> columns{col};
+    if (partner != -1)
+        columns.insert(partner < col ? 0 : 1, partner);
+    const int rows = bkgRowsInUse();
+    int outs = 0;
+    for (const int c : columns) {
+        const int start = orderStart(c);
+        for (int i = 0; i < rows; ++i) {
+            const int r = (start + i) % rows;
+            if ((r == row && c == col) || cellBkg(r, c) == kBkgOut) {
+                if (++outs == 4)
+                    return std::pair{r, c};
+            }
+        }
+    }
+    return std::nullopt;
 }
 
 // --- Disabling and enabling -----------------------------------------------------

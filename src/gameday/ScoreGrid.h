@@ -14,6 +14,7 @@
 #include <QStringList>
 #include <array>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace gameday {
@@ -104,8 +105,17 @@ public:
     // Option (Alt) key. Clicks outside the cells are ignored.
     void cellClicked(int row, int col, bool optionDown);
     // What a code, result or command returned by the popover does to the
-    // cell at (row, col), with the events it raises.
-    void applyChoice(int row, int col, const QString &choice);
+    // cell at (row, col), with the events it raises. An out that would be
+    // the inning's fourth is refused, naming the cell, and nothing changes:
+    // false then.
+    bool applyChoice(int row, int col, const QString &choice);
+    // The code, result or command of the coach's last click ("xLOB" for
+    // an Option-click): what the change is named by.
+    const QString &lastChoice() const { return m_lastChoice; }
+    // The cell (row, col) that would be the fourth out of the inning of
+    // `col` if (row, col) became an out, in batting order; empty when there
+    // would be three or fewer.
+    std::optional<std::pair<int, int>> fourthOutIf(int row, int col) const;
 
     // --- Disabling and enabling ---------------------------------------------
 
@@ -199,6 +209,7 @@ private:
     int spareTrailingColumn(int doubledCol) const;
     void removeColumn(int col);
     void visitForAutoFill(int row, int col);
+    void applyCode(int row, int col, const QString &choice);
     int nextRow(int row) const { return row + 1 >= rowCount() ? 0 : row + 1; }
     // The row where the order starts in `col`: where the column before stopped.
     int orderStart(int col) const;
@@ -223,6 +234,7 @@ private:
     QList<int> m_slots;         // batting slot per lineup row, 0 when not known
     std::array<std::array<QString, kBkgCols>, kBkgRows> xCellBkg;
     PopoverRequest m_popover;
+    QString m_lastChoice;
 };
 
 // Innings per game and batting slots from the preferences, with the

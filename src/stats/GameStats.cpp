@@ -1,6 +1,8 @@
 #include "stats/GameStats.h"
 
 #include "app/myDB.h"
+#include "gameday/ChangeLog.h"
+#include "gameday/GameDay.h"
 #include "gameday/GameRecord.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -8,14 +10,6 @@
 namespace stats {
 
 namespace {
-
-// A statement inside runInTransaction: errors throw, so the step rolls back.
-int run(myDB &db, const QString &sql, const QVariantList &params)
-{
-    SQLite::Statement statement(*db.tlynData, sql.toUtf8().toStdString());
-    myDB::bindAll(statement, params);
-    return statement.exec();
-}
 
 // The leading number of a text, as the panels read a field: "12" 12, "1.5" 1, "" 0.
 int leadingInt(const QString &text)
@@ -116,18 +110,36 @@ std::optional<QString> GameStatStore::stats(Panel panel, const QString &game, co
 bool GameStatStore::saveStats(Panel panel, const QString &game, const QString &player, const QString &team,
                               const QString &statsText)
 {
+    return saveRow(panel, game, player, {QStringLiteral("teamID"), QStringLiteral("stats")}, {team, statsText});
+}
+
+bool GameStatStore::saveRow(Panel panel, const QString &game, const QString &player, const QStringList &columns,
+                            const QVariantList &values)
+{
+    // The player's row is updated or made, with its entry in the game's
+    // change log, in one transaction.
+    using gameday::ChangeLog;
     const QString table = tableName(panel);
-    return m_db.runInTransaction([&] {
-        const int changed = run(m_db,
-                                QStringLiteral("UPDATE ") + table +
-                                    QStringLiteral(" SET teamID = ?, stats = ? WHERE gameID = ? AND playerID = ?"),
-                                {team, statsText, game, player});
-        if (changed == 0)
-            run(m_db,
-                QStringLiteral("INSERT INTO ") + table +
-                    QStringLiteral(" (gameID, playerID, teamID, stats) VALUES (?, ?, ?, ?)"),
-                {game, player, team, statsText});
-    });
+    const QStringList keyColumns = {QStringLiteral("gameID"), QStringLiteral("playerID")};
+    const QVariantList key = {game, player};
+    std::optional<QVariantList> before = ChangeLog::readRow(m_db, table, keyColumns, key, columns);
+    if (before) {
+        // As stored, so an unchanged field doesn't count as a change.
+        for (qsizetype i = 0; i < before->size(); ++i) {
+            if ((*before)[i].toString() == values.value(i).toString())
+                (*before)[i] = values.value(i);
+        }
+        if (*before == values)
+            return true;
+    }
+    static const QStringList names = {QStringLiteral("Batting"), QStringLiteral("Fielding"),
+                                      QStringLiteral("Pitching")};
+    const QString name =
+        m_db.scalar(QStringLiteral("SELECT First || ' ' || Last FROM Players WHERE playerID = ?"), {player}).toString();
+    const gameday::Change change{gameday::GameDay::panelLabel(names.at(int(panel)), name),
+                                 -1,
+                                 {{table, keyColumns, key, columns, before, values}}};
+    return ChangeLog::record(m_db, game, change) == ChangeLog::Result::Saved;
 }
 
 namespace {
@@ -189,21 +201,12 @@ bool GameStatStore::addPitchesIf(const QString &game, const QString &player, con
 bool GameStatStore::savePitching(const QString &game, const QString &player, const QString &team,
                                  const PitchingLine &line)
 {
-    const QVariantList values = {
-        team,          line.gameResult, line.start ? 1 : 0, line.shutout ? 1 : 0, line.compGame ? 1 : 0,
-        line.totBalls, line.totKs,      line.stats};
-    return m_db.runInTransaction([&] {
-        const int changed = run(m_db,
-                                QStringLiteral("UPDATE GamesIndivPitching SET teamID = ?, gameResult = ?, start = ?, "
-                                               "shutout = ?, compGame = ?, totBalls = ?, totKs = ?, stats = ? "
-                                               "WHERE gameID = ? AND playerID = ?"),
-                                values + QVariantList{game, player});
-        if (changed == 0)
-            run(m_db,
-                QStringLiteral("INSERT INTO GamesIndivPitching (gameID, playerID, teamID, gameResult, start, shutout, "
-                               "compGame, totBalls, totKs, stats) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-                QVariantList{game, player} + values);
-    });
+    return saveRow(Panel::Pitching, game, player,
+                   {QStringLiteral("teamID"), QStringLiteral("gameResult"), QStringLiteral("start"),
+                    QStringLiteral("shutout"), QStringLiteral("compGame"), QStringLiteral("totBalls"),
+                    QStringLiteral("totKs"), QStringLiteral("stats")},
+                   {team, line.gameResult, line.start ? 1 : 0, line.shutout ? 1 : 0, line.compGame ? 1 : 0,
+                    line.totBalls, line.totKs, line.stats});
 }
 
 int GameStatStore::teamErrors(const QString &game, const QString &team) const

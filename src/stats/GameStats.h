@@ -63,8 +63,8 @@ struct PitchingLine
 // strikeouts, hit batters. Other fields keep their text.
 QStringList applyAutoFill(QStringList pitchingFields, const gameday::AutoFillData &data);
 
-// The per-game rows of the three panels. Each save is one transaction;
-// values are bound.
+// The per-game rows of the three panels. Each save is one transaction with
+// its entry in the game's change log; values are bound.
 class GameStatStore
 {
 public:
@@ -91,6 +91,9 @@ public:
     bool hasFieldingAndPitching(const QString &game) const;
 
 private:
+    bool saveRow(Panel panel, const QString &game, const QString &player, const QStringList &columns,
+                 const QVariantList &values);
+
     myDB &m_db;
 };
 

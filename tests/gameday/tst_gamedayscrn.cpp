@@ -98,6 +98,25 @@ QString storedStrings(const QString &schedID)
     return out.join(u'\n') + u'\n';
 }
 
+// The game's row and its panel rows: everything the game screen changes.
+QString gameState(const QString &schedID)
+{
+    QString out = storedStrings(schedID);
+    for (const char *table : {"GamesIndivHitting", "GamesIndivFielding", "GamesIndivPitching"}) {
+        for (const Record &r : gData->select(QStringLiteral("SELECT * FROM ") + QString::fromLatin1(table) +
+                                                 QStringLiteral(" WHERE gameID = ? ORDER BY playerID"),
+                                             {schedID})) {
+            QStringList values{QString::fromLatin1(table)};
+            for (qsizetype c = 0; c < r.columns.size(); ++c) {
+                if (r.columns.at(c) != u"recID") // a row made again gets a new one
+                    values.append(r.values.at(c).toString());
+            }
+            out += values.join(u'|') + u'\n';
+        }
+    }
+    return out;
+}
+
 } // namespace
 
 class TestGameDayScrn : public QObject
@@ -106,6 +125,8 @@ class TestGameDayScrn : public QObject
 
     gameDayScrn *m_scr = nullptr;
     QQueue<QString> m_codes;
+    QStringList m_boardA;
+    QStringList m_boardB;
 
     // Keyboard: the arrow keys' target cell, then Return; the popover's
     // answer comes from the script.
@@ -168,30 +189,17 @@ class TestGameDayScrn : public QObject
         ctl<BBScoringLB>("scoreCardLB")->grid().setPopoverRequest([this](int, int, bool) {
             return m_codes.isEmpty() ? QString() : m_codes.dequeue();
         });
+        if (m_onOpen)
+            m_onOpen();
         QTRY_COMPARE(m_scr->game().curSelTeam(), 0); // the switch timer brings team A on show
         schedule->close();
     }
+    std::function<void()> m_onOpen; // run as the game screen opens, before anything is done
 
-private Q_SLOTS:
-    // Whatever a function left open, also when it failed half-way, goes
-    // before the next one starts.
-    void cleanup()
+    // Scores the game of the golden file through the window, as a coach
+    // would, and leaves it open with team B on show.
+    void playGoldenGame(gamedaytest::Season &season)
     {
-        testkit::closeAllWindows();
-        m_scr = nullptr;
-    }
-
-    void initTestCase()
-    {
-        qRegisterMetaType<AutoFillData>();
-        screens::registerScreen(ScreenId::gameDayScrn,
-                                [](const QVariant &id) { return gameDayScrn::openFor(id.toString()); });
-    }
-
-    void playAGame()
-    {
-        gamedaytest::Season season;
-        gPrefs->prInnings = QStringLiteral("3 Innings");
         auto &msgs = season.fake.messages;
         openFromSchedule(season);
         QCOMPARE(ctl<QLabel>("InstrFld")->text(),
@@ -326,13 +334,38 @@ private Q_SLOTS:
         msgs.answers.enqueue(platform::MsgAction);
         inning(3, {"1:HR"});
         QCOMPARE(msgs.texts().last(), QStringLiteral("Is this game over?"));
-        const QStringList boardA = board(0);
-        const QStringList boardB = board(1);
-        QCOMPARE(boardB.mid(0, 4), (QStringList{"2", "0", "1", "--"}));
-        QCOMPARE(boardB.at(10), QStringLiteral("3"));
+        m_boardA = board(0);
+        m_boardB = board(1);
+        QCOMPARE(m_boardB.mid(0, 4), (QStringList{"2", "0", "1", "--"}));
+        QCOMPARE(m_boardB.at(10), QStringLiteral("3"));
         ctl<QRadioButton>("TeamBtn_0")->click();
         ctl<QRadioButton>("TeamBtn_1")->click();
-        QCOMPARE(board(1), boardB);
+        QCOMPARE(board(1), m_boardB);
+    }
+
+private Q_SLOTS:
+    // Whatever a function left open, also when it failed half-way, goes
+    // before the next one starts.
+    void cleanup()
+    {
+        testkit::closeAllWindows();
+        m_scr = nullptr;
+    }
+
+    void initTestCase()
+    {
+        qRegisterMetaType<AutoFillData>();
+        screens::registerScreen(ScreenId::gameDayScrn,
+                                [](const QVariant &id) { return gameDayScrn::openFor(id.toString()); });
+    }
+
+    void playAGame()
+    {
+        gamedaytest::Season season;
+        gPrefs->prInnings = QStringLiteral("3 Innings");
+        playGoldenGame(season);
+        const QStringList boardA = m_boardA;
+        const QStringList boardB = m_boardB;
 
         const QString data = ctl<BBScoringLB>("scoreCardLB")->grid().getMyData();
         QVERIFY(m_scr->close());
@@ -357,6 +390,114 @@ private Q_SLOTS:
         QVERIFY(ctl<QPushButton>("finalizeBtn")->isVisible());
         QCOMPARE(storedStrings(season.schedID()), stored);
         m_scr->close();
+    }
+
+    // The golden game is scored while every state the file passes through
+    // is kept; then Edit > Undo takes it back change by change to the
+    // empty card, and Redo brings it forward again, each step giving the
+    // very state it gave when scored (the team that changed on show). The
+    // window is closed and the game opened again between steps where a row
+    // says so: the log carries the stacks across.
+    void undoAndRedoTheWholeGame_data()
+    {
+        QTest::addColumn<QList<int>>("reopenAfter"); // undo steps, then redo steps, after which it reopens
+        QTest::newRow("in one sitting") << QList<int>{};
+        QTest::newRow("reopened while undoing and while redoing") << QList<int>{5, 30, 60};
+    }
+    void undoAndRedoTheWholeGame()
+    {
+        QFETCH(QList<int>, reopenAfter);
+        gamedaytest::Season season;
+        gPrefs->prInnings = QStringLiteral("3 Innings");
+        QStringList states;
+        QList<int> teams;
+        bool scoring = true;
+        const auto keep = [&] {
+            const QString state = gameState(season.schedID());
+            if (scoring && (states.isEmpty() || states.last() != state)) {
+                states.append(state);
+                teams.append(m_scr->game().curSelTeam());
+            }
+        };
+        m_onOpen = [&] {
+            keep(); // the empty card
+            connect(&m_scr->game(), &GameDay::undoChanged, m_scr, keep);
+        };
+        playGoldenGame(season);
+        m_onOpen = {};
+        scoring = false;
+        const int changes = int(states.size()) - 1;
+        QCOMPARE(gData->scalar("SELECT COUNT(*) FROM GameChanges WHERE gameID = ?", {season.schedID()}).toInt(),
+                 changes);
+        QAction *undo = m_scr->menus()->item(QStringLiteral("EditUndo"));
+        QAction *redo = m_scr->menus()->item(QStringLiteral("EditRedo"));
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Home Run, Smith, 3rd inning"));
+        QVERIFY(!redo->isEnabled());
+
+        int steps = 0;
+        auto step = [&](bool back, int to) {
+            (back ? undo : redo)->trigger();
+            QCOMPARE(gameState(season.schedID()), states.at(to));
+            QCOMPARE(m_scr->game().curSelTeam(), teams.at(back ? to + 1 : to));
+            if (reopenAfter.contains(++steps)) {
+                QVERIFY(m_scr->close());
+                openFromSchedule(season);
+                undo = m_scr->menus()->item(QStringLiteral("EditUndo"));
+                redo = m_scr->menus()->item(QStringLiteral("EditRedo"));
+                QCOMPARE(gameState(season.schedID()), states.at(to));
+            }
+        };
+        for (int i = changes - 1; i >= 0; --i) {
+            step(true, i);
+            if (QTest::currentTestFailed())
+                return;
+        }
+        QVERIFY(!undo->isEnabled());
+        QCOMPARE(undo->text(), QStringLiteral("&Undo"));
+        QCOMPARE(ctl<BBPlayersLB>("Names_PosLB")->rowCount(), 0);
+        for (int i = 1; i <= changes; ++i) {
+            step(false, i);
+            if (QTest::currentTestFailed())
+                return;
+        }
+        QVERIFY(!redo->isEnabled());
+    }
+
+    // The Edit menu names the change it would take back or make again, and
+    // its keys work from the grid; a recorded game offers neither.
+    void editMenuNamesTheChange()
+    {
+        gamedaytest::Season season;
+        openFromSchedule(season);
+        ctl<QRadioButton>("TeamBtn_1")->click();
+        addByPos({"C", "B1", "B2", "RHP"});
+        QAction *undo = m_scr->menus()->item(QStringLiteral("EditUndo"));
+        QAction *redo = m_scr->menus()->item(QStringLiteral("EditRedo"));
+        QCOMPARE(undo->shortcut(), QKeySequence(QStringLiteral("Ctrl+Z")));
+        QCOMPARE(redo->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Add Smith to the Lineup"));
+        atBat(1, 0, QStringLiteral("BB"));
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Ball Four, Smith, 1st inning"));
+        QCOMPARE(redo->text(), QStringLiteral("&Redo"));
+        QVERIFY(!redo->isEnabled());
+
+        // From team A's card, the key takes team B's walk back and shows team B.
+        ctl<QRadioButton>("TeamBtn_0")->click();
+        m_scr->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_scr));
+        auto *grid = ctl<BBScoringLB>("scoreCardLB");
+        grid->setFocus();
+        QTest::keyClick(grid, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(m_scr->game().curSelTeam(), 1);
+        QCOMPARE(grid->grid().cellText(1, 0), QString());
+        QCOMPARE(redo->text(), QStringLiteral("&Redo Ball Four, Smith, 1st inning"));
+        QTest::keyClick(grid, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(grid->grid().cellText(1, 0), QStringLiteral("BB"));
+        QCOMPARE(readPlayers(GameStore(*gData).load(season.schedID())->teams[1].players).size(), 4);
+
+        m_scr->game().setRecorded();
+        QVERIFY(!undo->isEnabled());
+        QVERIFY(!redo->isEnabled());
     }
 
     // The bottom line when a game is opened again: the button for a game

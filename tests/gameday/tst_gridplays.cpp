@@ -13,6 +13,8 @@
 // last with text ("text/bkg", "." for an empty cell without background), then the
 // columns added, the walk-off questions, the columns with three outs, the
 // auto-filled figures and the messages shown.
+//
+// Below the cases, an at bat of a finished inning changed afterwards.
 
 #include "GridTestSupport.h"
 #include "fakes/Golden.h"
@@ -60,6 +62,17 @@ QStringList board(const ScoreGrid &grid)
     return out;
 }
 
+// Plays one column: each entry is "row:code" or "row:code>result".
+void play(ScoreGrid &grid, ScriptedPopover &popover, int col, const QStringList &plays)
+{
+    for (const QString &p : plays) {
+        for (const QString &code : p.section(u':', 1).split(u'>')) {
+            popover.script({code});
+            grid.cellClicked(p.section(u':', 0, 0).toInt(), col, false);
+        }
+    }
+}
+
 QPoint columnRow(const QString &text)
 {
     return {text.section(u',', 0, 0).toInt(), text.section(u',', 1).toInt()};
@@ -91,12 +104,7 @@ private Q_SLOTS:
                     grid.setRowSlot(r, r + 1);
             } else if (command == u"play") {
                 const int col = words.value(0).toInt();
-                for (const QString &p : words.mid(1)) {
-                    for (const QString &code : p.section(u':', 1).split(u'>')) {
-                        popover.script({code});
-                        grid.cellClicked(p.section(u':', 0, 0).toInt(), col, false);
-                    }
-                }
+                play(grid, popover, col, words.mid(1));
             } else if (command == u"replace") {
                 grid.insertReplacementRow(words.value(0).toInt(), words.value(1).toInt());
             } else if (command == u"clear-column") {
@@ -123,6 +131,82 @@ private Q_SLOTS:
         for (const QString &message : env.fake.messages.texts())
             shown.append(QStringLiteral("message: ") + message);
         TL_COMPARE_CASE(c, shown.join(u'\n').toUtf8() + '\n');
+    }
+
+    // Four batters; the first inning is finished (plain, or doubled into
+    // "1a") and the second begun, then an at bat of the first is changed.
+    // A change that would make a fourth out is refused naming the at bat
+    // that would be it, in batting order, and leaves the card as it was;
+    // any other change is made and the inning's runs are worked out again.
+    void editAnEarlierAtBat_data()
+    {
+        QTest::addColumn<bool>("doubled");
+        QTest::addColumn<QPoint>("cell"); // (col, row)
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("refusal");    // empty when the change is made
+        QTest::addColumn<bool>("threeOuts");     // the first inning's, afterwards
+        QTest::addColumn<QString>("secondHead"); // column 1's heading, afterwards
+        const QString fourthIn1a =
+            "The at bat in row 3, inning 1a would be the fourth out. Clear an out of that inning first.";
+        QTest::newRow("an out for another out") << false << QPoint(0, 0) << "KL"
+                                                << "" << true << "2";
+        QTest::newRow("a hit made an out")
+            << false << QPoint(0, 1) << "GO"
+            << "The at bat in row 4, inning 1 would be the fourth out. Clear an out of that inning first." << true
+            << "2";
+        // Two outs when the order comes round: the inning doubles, and the
+        // second inning's at bat moves along, as if scored that way.
+        QTest::newRow("an out made a hit reopens the inning") << false << QPoint(0, 2) << "B2"
+                                                              << "" << false << "1a";
+        QTest::newRow("a fourth out in the doubled column")
+            << true << QPoint(0, 1) << "FO" << fourthIn1a << true << "1a";
+        QTest::newRow("a result that is an out") << true << QPoint(0, 0) << "xCS" << fourthIn1a << true << "1a";
+    }
+    void editAnEarlierAtBat()
+    {
+        QFETCH(bool, doubled);
+        QFETCH(QPoint, cell);
+        QFETCH(QString, code);
+        QFETCH(QString, refusal);
+        QFETCH(bool, threeOuts);
+        QFETCH(QString, secondHead);
+
+        GridEnv env;
+        ScoreGrid grid;
+        loadTeam(grid, 4);
+        ScriptedPopover popover;
+        popover.install(grid);
+        if (doubled) {
+            play(grid, popover, 0, {"0:B1>xRUN", "1:BB", "2:HR", "3:GO"});
+            play(grid, popover, 1, {"0:B1", "1:KS", "2:FO"});
+        } else {
+            play(grid, popover, 0, {"0:GO", "1:B1", "2:FO", "3:KS"});
+        }
+        const int next = doubled ? 2 : 1;
+        play(grid, popover, next, {"3:B1"});
+        QVERIFY(grid.check4ThreeOuts(0));
+        const QString data = grid.getMyData();
+        const QString outcomes = grid.getMyBkgArray();
+
+        QSignalSpy edited(&grid, &ScoreGrid::cellEdited);
+        QSignalSpy calcs(&grid, &ScoreGrid::doCalcs);
+        popover.script({code});
+        grid.cellClicked(cell.y(), cell.x(), false);
+        QCOMPARE(grid.check4ThreeOuts(0), threeOuts);
+        QCOMPARE(grid.heading(1), secondHead);
+        if (refusal.isEmpty()) {
+            QVERIFY(env.fake.messages.shown.isEmpty());
+            QCOMPARE(edited.count(), 1);
+            QCOMPARE(calcs.count(), 1); // the board follows the change
+            QCOMPARE(grid.lastChoice(), code);
+        } else {
+            QCOMPARE(env.fake.messages.texts(),
+                     QStringList{QStringLiteral("That would make a fourth out in inning 1.")});
+            QCOMPARE(env.fake.messages.shown.first().explanation, refusal);
+            QCOMPARE(edited.count(), 0);
+            QCOMPARE(grid.getMyData(), data);
+            QCOMPARE(grid.getMyBkgArray(), outcomes);
+        }
     }
 };
 

@@ -58,10 +58,15 @@ MainMenuBar::MainMenuBar(QWidget *parent) : QMenuBar(parent)
     {
         const char *name, *text, *key, *slot;
     } editItems[] = {
-        {"EditUndo", "&Undo", "Ctrl+Z", "undo"},    {"EditSeparator1", "-", "", nullptr},
-        {"EditCut", "Cu&t", "Ctrl+X", "cut"},       {"EditCopy", "&Copy", "Ctrl+C", "copy"},
-        {"EditPaste", "&Paste", "Ctrl+V", "paste"}, {"EditClear", "&Delete", "", "del"},
-        {"EditSeparator2", "-", "", nullptr},       {"EditSelectAll", "Select &All", "Ctrl+A", "selectAll"},
+        {"EditUndo", "&Undo", "Ctrl+Z", "undo"},
+        {"EditRedo", "&Redo", "Ctrl+Shift+Z", "redo"},
+        {"EditSeparator1", "-", "", nullptr},
+        {"EditCut", "Cu&t", "Ctrl+X", "cut"},
+        {"EditCopy", "&Copy", "Ctrl+C", "copy"},
+        {"EditPaste", "&Paste", "Ctrl+V", "paste"},
+        {"EditClear", "&Delete", "", "del"},
+        {"EditSeparator2", "-", "", nullptr},
+        {"EditSelectAll", "Select &All", "Ctrl+A", "selectAll"},
     };
     for (const auto &e : editItems) {
         if (!e.slot) {

@@ -27,6 +27,7 @@
 #include "support/ui/PlusMinusContainer.h"
 #include "support/ui/pleaseWaitScrn.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QGridLayout>
@@ -376,8 +377,11 @@ void gameDayScrn::connectBoardAndPanels()
             button->setFocus();
         });
     }
-    // The errors box follows every fielding row as it is written.
+    // The errors box follows every fielding row as it is written; every
+    // panel row written is a change Undo can take back.
     connect(myFldCtr, &StatPanel::saved, this, [this] { m_game->recalcErrs(); });
+    for (StatPanel *panel : std::initializer_list<StatPanel *>{myBatCtr, myFldCtr, myPitchCtr})
+        connect(panel, &StatPanel::saved, m_game.get(), &GameDay::logAppended);
     connect(myPitchCtr, &pitchingCtr::autoFillCalled, this, [this] {
         myPitchCtr->hide();
         pitchCountBar->count().warnIfResting(m_game->selectedPlayerID());
@@ -390,7 +394,51 @@ void gameDayScrn::connectBoardAndPanels()
         return true;
     });
     menus()->item(QStringLiteral("FilePrint"))->setText(QStringLiteral("Print Lineup"));
+    connectUndo();
     scoreCardLB->installEventFilter(this);
+}
+
+void gameDayScrn::connectUndo()
+{
+    // Edit > Undo and Redo step through the game's change log; in a text
+    // field that has its own typing to undo, they undo that first.
+    for (const bool back : {true, false}) {
+        const QString name = back ? QStringLiteral("EditUndo") : QStringLiteral("EditRedo");
+        menus()->installHandler(name, [this, back] {
+            stepChange(back);
+            return true;
+        });
+        menus()->item(name)->setShortcutContext(Qt::WindowShortcut);
+        addAction(menus()->item(name));
+    }
+    connect(m_game.get(), &GameDay::undoChanged, this, &gameDayScrn::showUndo);
+}
+
+void gameDayScrn::showUndo()
+{
+    QAction *undo = menus()->item(QStringLiteral("EditUndo"));
+    QAction *redo = menus()->item(QStringLiteral("EditRedo"));
+    undo->setText(u'&' + m_game->undoText());
+    undo->setEnabled(m_game->canUndo());
+    redo->setText(u'&' + m_game->redoText());
+    redo->setEnabled(m_game->canRedo());
+}
+
+void gameDayScrn::stepChange(bool back)
+{
+    if (auto *field = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+        field && !field->isReadOnly() && (back ? field->isUndoAvailable() : field->isRedoAvailable())) {
+        back ? field->undo() : field->redo();
+        return;
+    }
+    // An open panel writes its row and closes first, so what it showed
+    // can't be written back over the undone row.
+    if (!reinitStatsScrns())
+        return;
+    if (back)
+        m_game->undo();
+    else
+        m_game->redo();
 }
 
 void gameDayScrn::openGame(const QString &schedID)

@@ -102,6 +102,9 @@ private:
     void connectGame();
     void connectLineup();
     void connectBoardAndPanels();
+    void connectUndo();
+    void showUndo();
+    void stepChange(bool back);
     void openGame(const QString &schedID);
     void switchToTeam(int team);
     void showLock();

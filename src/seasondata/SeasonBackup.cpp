@@ -96,6 +96,8 @@ BackupJob::~BackupJob()
     closeWork();
     if (!m_done && !m_intoLive && m_lock)
         QFile::remove(workFile());
+    if (m_asideJournal)
+        QFile::remove(asideJournal()); // checkAndPlace never ran
 }
 
 void BackupJob::closeWork()
@@ -115,6 +117,8 @@ bool BackupJob::fail(int code, const QString &message)
     m_errorCode = code ? code : SQLITE_ERROR;
     m_errorMessage = message;
     closeWork();
+    if (m_intoLive)
+        setJournalAside();
     // Only the job holding the working name may take its file away.
     if (!m_intoLive && m_lock) {
         QFile::remove(workFile());
@@ -132,6 +136,11 @@ bool BackupJob::start()
         int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READONLY, nullptr);
         if (rc != SQLITE_OK)
             return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+        // The restore's journal holds the whole season as it was; deleting a
+        // file that size at the commit would hold the window for a long
+        // moment. Kept instead (its header zeroed by the commit), it is put
+        // aside after the commit and deleted off the window's thread.
+        sqlite3_exec(m_source, "PRAGMA journal_mode=PERSIST", nullptr, nullptr, nullptr);
         m_backup = sqlite3_backup_init(m_source, "main", m_dest, "main");
         if (!m_backup)
             return fail(sqlite3_errcode(m_source), QString::fromUtf8(sqlite3_errmsg(m_source)));
@@ -238,6 +247,7 @@ bool BackupJob::endCopy()
         return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_intoLive ? m_source : m_dest)));
     if (m_intoLive) {
         closeWork();
+        setJournalAside();
         m_done = true;
         // A backup made before the lookups had their indexes gets them, as
         // the season would when opened; they change no stored value.
@@ -247,10 +257,34 @@ bool BackupJob::endCopy()
     return true;
 }
 
+void BackupJob::setJournalAside()
+{
+    // Once the transaction has ended the kept journal is no hot journal, so
+    // it may be renamed; the season goes back to deleting its journals,
+    // which finds none left to delete.
+    if (!m_source)
+        return;
+    const QString journal = QString::fromUtf8(sqlite3_db_filename(m_source, "main")) + QStringLiteral("-journal");
+    if (QFile::exists(journal)) {
+        QFile::remove(asideJournal());
+        m_asideJournal = QFile::rename(journal, asideJournal());
+    }
+    sqlite3_exec(m_source, "PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
+}
+
+QString BackupJob::asideJournal() const
+{
+    return QString::fromUtf8(sqlite3_db_filename(m_source, "main")) + QStringLiteral("-journal.restored");
+}
+
 bool BackupJob::checkAndPlace()
 {
-    if (m_intoLive)
+    if (m_intoLive) {
+        if (m_asideJournal)
+            QFile::remove(asideJournal());
+        m_asideJournal = false;
         return m_done;
+    }
     if (!m_dest || m_backup)
         return false;
     sqlite3_close_v2(m_dest);

@@ -180,35 +180,47 @@ bool BackupJob::step(int pages)
 
 bool BackupJob::restoreStep(int pages)
 {
+    // A step that syncs the season file does nothing else: on a busy disk a
+    // sync may take tens of milliseconds, and pages copied before or after
+    // it would add to the time the window waits.
+    if (flushDue()) {
+        flushSeasonFile();
+        return true;
+    }
     // Pages written into the live season may make SQLite sync its journal
     // when its cache spills, so a batch that takes a moment on a copy can
     // hold the window much longer here: the batch goes in small slices and
-    // stops early once it has taken its share of the window's time.
+    // stops early once it has taken its share of the window's time, or
+    // once the season file is due a sync.
     constexpr int kSlice = 16;
     constexpr qint64 kBudgetNs = 20'000'000;
     QElapsedTimer spent;
     spent.start();
     bool more = true;
-    for (int done = 0; more && done < pages && spent.nsecsElapsed() < kBudgetNs; done += kSlice) {
+    for (int done = 0; more && done < pages && spent.nsecsElapsed() < kBudgetNs && !flushDue(); done += kSlice)
         more = copyStep(std::min(kSlice, pages - done));
-        if (more)
-            flushSeasonFile();
-    }
     return more;
+}
+
+int BackupJob::copiedPages() const
+{
+    return m_backup ? sqlite3_backup_pagecount(m_backup) - sqlite3_backup_remaining(m_backup) : 0;
+}
+
+bool BackupJob::flushDue() const
+{
+    // The commit at the end syncs the season file, and with it every page
+    // the system still holds unwritten: for a big season that one sync
+    // would hold the window for a long moment. Synced every megabyte
+    // instead, the pages reach the disk along the way and the commit's
+    // sync has little left to do.
+    constexpr int kPagesBetweenSyncs = 256;
+    return copiedPages() - m_syncedPages >= kPagesBetweenSyncs;
 }
 
 void BackupJob::flushSeasonFile()
 {
-    // The commit at the end syncs the season file, and with it every page
-    // the system still holds unwritten: for a big season that one sync
-    // would hold the window for a long moment. Synced every few megabytes
-    // instead, the pages reach the disk along the way and the commit's
-    // sync has little left to do.
-    constexpr int kPagesBetweenSyncs = 1024;
-    const int copied = sqlite3_backup_pagecount(m_backup) - sqlite3_backup_remaining(m_backup);
-    if (copied - m_syncedPages < kPagesBetweenSyncs)
-        return;
-    m_syncedPages = copied;
+    m_syncedPages = copiedPages();
     sqlite3_file *file = nullptr;
     if (sqlite3_file_control(m_source, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK && file && file->pMethods)
         file->pMethods->xSync(file, SQLITE_SYNC_NORMAL);

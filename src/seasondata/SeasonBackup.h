@@ -74,6 +74,9 @@ private:
     void closeWork();
     bool copyStep(int pages);
     bool restoreStep(int pages);
+    // Restoring: the season file is synced every few megabytes.
+    int copiedPages() const;
+    bool flushDue() const;
     void flushSeasonFile();
     // Restoring: the kept journal renamed, for checkAndPlace to delete.
     void setJournalAside();

@@ -69,6 +69,7 @@ class BenchGameSave : public QObject
         QVERIFY(home.isValid());
         App app(home.path());
         QCOMPARE(app.Event_Open(), App::OpenResult::Ok);
+        gPrefs->prHomeTeam = QStringLiteral("1"); // a game opens only with a home team
 
         // The season's games, each row as big as the one on show; the last
         // two are the coach's game and the baseline's twin.

@@ -15,8 +15,14 @@ _tallyline_cli()
         --output|-o)
             COMPREPLY=($(compgen -f -- "$cur"))
             return ;;
-        --data-dir|--to)
+        --to)
+            # backup's --to is a folder; the reports' is a date
+            [[ $verb == backup ]] && COMPREPLY=($(compgen -d -- "$cur"))
+            return ;;
+        --data-dir)
             COMPREPLY=($(compgen -d -- "$cur"))
+            return ;;
+        --from|--date)
             return ;;
         --format)
             if [[ $verb == box-score ]]; then
@@ -44,7 +50,8 @@ _tallyline_cli()
     local words="--help"
     case $verb in
         report)
-            words+=" batting fielding pitching standings playing-time --data-dir --season --team --league --division --more --from --to --format" ;;
+            words+=" batting fielding pitching standings availability playing-time --data-dir --season --team --league"
+            words+=" --division --more --from --to --date --format" ;;
         seasons) words+=" --data-dir --format" ;;
         check) words+=" --data-dir --season" ;;
         backup) words+=" --data-dir --season --to" ;;

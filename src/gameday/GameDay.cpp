@@ -669,11 +669,11 @@ void GameDay::saveCurState()
 {
     TeamStrings &s = m_rec.teams[size_t(m_cur)];
     s.headings = m_card.getColHeadings();
-    s.bench = writeBench(m_roster);
-    s.players = writePlayers(m_lineup);
+    s.bench = m_rosterText.of(m_roster, writeBench);
+    s.players = m_lineupText.of(m_lineup, writePlayers);
     s.actions = m_card.getMyData();
     s.outcomes = m_card.getMyBkgArray();
-    s.batStats = writeBatStats(m_batStats);
+    s.batStats = m_batStatsText.of(m_batStats, writeBatStats);
     if (s.actions.isEmpty())
         s.actions = getRHEData(m_cur);
 }

@@ -245,6 +245,9 @@ private:
     QList<BenchLine> m_roster;
     QList<LineupLine> m_lineup;
     QList<BatterStat> m_batStats;
+    WrittenText<BenchLine> m_rosterText;
+    WrittenText<LineupLine> m_lineupText;
+    WrittenText<BatterStat> m_batStatsText;
     Scoreboard m_board;
     bool m_enterRHE = false;
     bool m_finalizeVisible = false;

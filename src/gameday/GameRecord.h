@@ -63,6 +63,28 @@ struct BatterStat
 QList<BatterStat> readBatStats(const QString &text);
 QString writeBatStats(const QList<BatterStat> &lines);
 
+// A list's stored text, made again only when the list changed since the
+// last call: the list kept shares its data with the one given, so any
+// write to that one parts the two. For the texts saved after every click.
+template<class Line>
+class WrittenText
+{
+public:
+    using Writer = QString (*)(const QList<Line> &);
+    const QString &of(const QList<Line> &lines, Writer write)
+    {
+        if (!lines.isSharedWith(m_seen) || m_text.isNull()) {
+            m_seen = lines;
+            m_text = write(lines);
+        }
+        return m_text;
+    }
+
+private:
+    QList<Line> m_seen;
+    QString m_text;
+};
+
 // --- Run entry: the line score typed without at bats -------------------------
 
 struct RunEntry

@@ -716,11 +716,20 @@ std::array<int, 21> ScoreGrid::getHittingStats(int row) const
 
 QString ScoreGrid::getMyData() const
 {
-    QStringList lines;
-    lines.reserve(rowCount());
-    for (const QStringList &texts : m_texts)
-        lines.append(texts.join(kTab));
-    return lines.join(kCR);
+    const qsizetype rows = m_texts.size();
+    bool same = m_textsSeen.size() == rows && !m_textsJoined.isNull();
+    m_textsSeen.resize(rows);
+    m_textLines.resize(rows);
+    for (qsizetype r = 0; r < rows; ++r) {
+        if (m_texts.at(r).isSharedWith(m_textsSeen.at(r)))
+            continue;
+        m_textsSeen[r] = m_texts.at(r);
+        m_textLines[r] = m_texts.at(r).join(kTab);
+        same = false;
+    }
+    if (!same)
+        m_textsJoined = m_textLines.join(kCR);
+    return m_textsJoined;
 }
 
 bool ScoreGrid::setMyData(const QString &data)
@@ -746,18 +755,36 @@ bool ScoreGrid::setMyData(const QString &data)
 
 QString ScoreGrid::getMyBkgArray() const
 {
-    // Written after every click: one allocation, one character per code.
-    QString out;
-    out.reserve(kBkgRows * (2 * kStoredBkgCols + 1));
+    bool same = !m_bkgJoined.isNull();
     for (int r = 0; r < kBkgRows; ++r) {
-        if (r > 0)
-            out += u'\r';
+        const auto &now = xCellBkg[r];
+        auto &seen = m_bkgSeen[r];
+        bool rowSame = !m_bkgLines[r].isNull();
+        for (int c = 0; c < kStoredBkgCols && rowSame; ++c)
+            rowSame = now[c].constData() == seen[c].constData() && now[c].size() == seen[c].size();
+        if (rowSame)
+            continue;
+        same = false;
+        QString &line = m_bkgLines[r];
+        line.clear();
+        line.reserve(2 * kStoredBkgCols);
         for (int c = 0; c < kStoredBkgCols; ++c) {
-            out += xCellBkg[r][c];
-            out += u'\t';
+            seen[c] = now[c];
+            line += now[c];
+            line += u'\t';
         }
     }
-    return out;
+    if (same)
+        return m_bkgJoined;
+    // One allocation, one character per code.
+    m_bkgJoined.clear();
+    m_bkgJoined.reserve(kBkgRows * (2 * kStoredBkgCols + 1));
+    for (int r = 0; r < kBkgRows; ++r) {
+        if (r > 0)
+            m_bkgJoined += u'\r';
+        m_bkgJoined += m_bkgLines[r];
+    }
+    return m_bkgJoined;
 }
 
 // Columns 20 to 22 exist only after doublings, and the stored form has no

@@ -235,6 +235,17 @@ private:
     std::array<std::array<QString, kBkgCols>, kBkgRows> xCellBkg;
     PopoverRequest m_popover;
     QString m_lastChoice;
+
+    // The stored forms are gathered after every click, which changes a cell
+    // or two. Each row's line is kept with the row it was made from (sharing
+    // its data, so any write to the row parts them) and made again only for
+    // a row that changed.
+    mutable QList<QStringList> m_textsSeen;
+    mutable QStringList m_textLines;
+    mutable QString m_textsJoined;
+    mutable std::array<std::array<QString, kStoredBkgCols>, kBkgRows> m_bkgSeen;
+    mutable std::array<QString, kBkgRows> m_bkgLines;
+    mutable QString m_bkgJoined;
 };
 
 // Innings per game and batting slots from the preferences, with the

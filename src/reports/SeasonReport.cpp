@@ -123,32 +123,40 @@ int SeasonReport::listWidth() const
 
 bool SeasonReport::load(myDB &db)
 {
+    clear();
+    const QHash<qint64, double> flies = m_kind == Batting ? sacrificeFlies(db) : QHash<qint64, double>{};
+    return readSeasonRows(db, m_kind, [&](const SeasonRow &row) { take(row, flies); });
+}
+
+void SeasonReport::load(const QList<SeasonRow> &rows, const QHash<qint64, double> &flies)
+{
+    clear();
+    for (const SeasonRow &row : rows)
+        take(row, flies);
+}
+
+void SeasonReport::clear()
+{
     hData.clear();
     fData.clear();
     pData.clear();
     m_more.clear();
-    const QHash<qint64, double> flies = m_kind == Batting ? sacrificeFlies(db) : QHash<qint64, double>{};
-    const auto more = [this, &flies](const SeasonRow &row) {
-        m_more.append(moreRates(m_kind, row.figures, flies.value(row.playerID)));
-    };
+}
+
+void SeasonReport::take(const SeasonRow &row, const QHash<qint64, double> &flies)
+{
     switch (m_kind) {
     case Batting:
-        return readSeasonRows(db, m_kind, [&](const SeasonRow &row) {
-            hData.append(hitReporter(row));
-            more(row);
-        });
+        hData.append(hitReporter(row));
+        break;
     case Fielding:
-        return readSeasonRows(db, m_kind, [&](const SeasonRow &row) {
-            fData.append(fldReporter(row));
-            more(row);
-        });
+        fData.append(fldReporter(row));
+        break;
     case Pitching:
+        pData.append(pitchReporter(row));
         break;
     }
-    return readSeasonRows(db, m_kind, [&](const SeasonRow &row) {
-        pData.append(pitchReporter(row));
-        more(row);
-    });
+    m_more.append(moreRates(m_kind, row.figures, flies.value(row.playerID)));
 }
 
 QStringList SeasonReport::moreHeaders() const

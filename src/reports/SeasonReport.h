@@ -2,6 +2,7 @@
 
 #include "reports/StatReporters.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -74,6 +75,9 @@ public:
 
     // Reads the season rows into reporters (one query). False on a database error.
     bool load(myDB &db);
+    // Takes rows read elsewhere (a span of days' totals) with the players'
+    // sacrifice flies, as load() takes the season's.
+    void load(const QList<SeasonRow> &rows, const QHash<qint64, double> &flies);
 
     // The lines that pass `filter`, in the season table's row order, each
     // cell as shown: names, then the figures through their masks.
@@ -89,6 +93,8 @@ public:
     QList<pitchReporter> pData;
 
 private:
+    void clear();
+    void take(const SeasonRow &row, const QHash<qint64, double> &flies);
     // One line's cells; `figures` are the dictionary indices of the columns
     // after the fixed ones.
     QStringList displayHitData(const hitReporter &r, const QList<int> &figures) const;

@@ -96,6 +96,8 @@ BackupJob::~BackupJob()
     closeWork();
     if (!m_done && !m_intoLive && m_lock)
         QFile::remove(workFile());
+    if (m_asideJournal)
+        QFile::remove(asideJournal()); // checkAndPlace never ran
 }
 
 void BackupJob::closeWork()
@@ -115,6 +117,8 @@ bool BackupJob::fail(int code, const QString &message)
     m_errorCode = code ? code : SQLITE_ERROR;
     m_errorMessage = message;
     closeWork();
+    if (m_intoLive)
+        setJournalAside();
     // Only the job holding the working name may take its file away.
     if (!m_intoLive && m_lock) {
         QFile::remove(workFile());
@@ -132,6 +136,11 @@ bool BackupJob::start()
         int rc = sqlite3_open_v2(path.constData(), &m_dest, SQLITE_OPEN_READONLY, nullptr);
         if (rc != SQLITE_OK)
             return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_dest)));
+        // The restore's journal holds the whole season as it was; deleting a
+        // file that size at the commit would hold the window for a long
+        // moment. Kept instead (its header zeroed by the commit), it is put
+        // aside after the commit and deleted off the window's thread.
+        sqlite3_exec(m_source, "PRAGMA journal_mode=PERSIST", nullptr, nullptr, nullptr);
         m_backup = sqlite3_backup_init(m_source, "main", m_dest, "main");
         if (!m_backup)
             return fail(sqlite3_errcode(m_source), QString::fromUtf8(sqlite3_errmsg(m_source)));
@@ -171,35 +180,47 @@ bool BackupJob::step(int pages)
 
 bool BackupJob::restoreStep(int pages)
 {
+    // A step that syncs the season file does nothing else: on a busy disk a
+    // sync may take tens of milliseconds, and pages copied before or after
+    // it would add to the time the window waits.
+    if (flushDue()) {
+        flushSeasonFile();
+        return true;
+    }
     // Pages written into the live season may make SQLite sync its journal
     // when its cache spills, so a batch that takes a moment on a copy can
     // hold the window much longer here: the batch goes in small slices and
-    // stops early once it has taken its share of the window's time.
+    // stops early once it has taken its share of the window's time, or
+    // once the season file is due a sync.
     constexpr int kSlice = 16;
     constexpr qint64 kBudgetNs = 20'000'000;
     QElapsedTimer spent;
     spent.start();
     bool more = true;
-    for (int done = 0; more && done < pages && spent.nsecsElapsed() < kBudgetNs; done += kSlice) {
+    for (int done = 0; more && done < pages && spent.nsecsElapsed() < kBudgetNs && !flushDue(); done += kSlice)
         more = copyStep(std::min(kSlice, pages - done));
-        if (more)
-            flushSeasonFile();
-    }
     return more;
+}
+
+int BackupJob::copiedPages() const
+{
+    return m_backup ? sqlite3_backup_pagecount(m_backup) - sqlite3_backup_remaining(m_backup) : 0;
+}
+
+bool BackupJob::flushDue() const
+{
+    // The commit at the end syncs the season file, and with it every page
+    // the system still holds unwritten: for a big season that one sync
+    // would hold the window for a long moment. Synced every megabyte
+    // instead, the pages reach the disk along the way and the commit's
+    // sync has little left to do.
+    constexpr int kPagesBetweenSyncs = 256;
+    return copiedPages() - m_syncedPages >= kPagesBetweenSyncs;
 }
 
 void BackupJob::flushSeasonFile()
 {
-    // The commit at the end syncs the season file, and with it every page
-    // the system still holds unwritten: for a big season that one sync
-    // would hold the window for a long moment. Synced every few megabytes
-    // instead, the pages reach the disk along the way and the commit's
-    // sync has little left to do.
-    constexpr int kPagesBetweenSyncs = 1024;
-    const int copied = sqlite3_backup_pagecount(m_backup) - sqlite3_backup_remaining(m_backup);
-    if (copied - m_syncedPages < kPagesBetweenSyncs)
-        return;
-    m_syncedPages = copied;
+    m_syncedPages = copiedPages();
     sqlite3_file *file = nullptr;
     if (sqlite3_file_control(m_source, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK && file && file->pMethods)
         file->pMethods->xSync(file, SQLITE_SYNC_NORMAL);
@@ -238,6 +259,7 @@ bool BackupJob::endCopy()
         return fail(rc, QString::fromUtf8(sqlite3_errmsg(m_intoLive ? m_source : m_dest)));
     if (m_intoLive) {
         closeWork();
+        setJournalAside();
         m_done = true;
         // A backup made before the lookups had their indexes gets them, as
         // the season would when opened; they change no stored value.
@@ -247,10 +269,34 @@ bool BackupJob::endCopy()
     return true;
 }
 
+void BackupJob::setJournalAside()
+{
+    // Once the transaction has ended the kept journal is no hot journal, so
+    // it may be renamed; the season goes back to deleting its journals,
+    // which finds none left to delete.
+    if (!m_source)
+        return;
+    const QString journal = QString::fromUtf8(sqlite3_db_filename(m_source, "main")) + QStringLiteral("-journal");
+    if (QFile::exists(journal)) {
+        QFile::remove(asideJournal());
+        m_asideJournal = QFile::rename(journal, asideJournal());
+    }
+    sqlite3_exec(m_source, "PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
+}
+
+QString BackupJob::asideJournal() const
+{
+    return QString::fromUtf8(sqlite3_db_filename(m_source, "main")) + QStringLiteral("-journal.restored");
+}
+
 bool BackupJob::checkAndPlace()
 {
-    if (m_intoLive)
+    if (m_intoLive) {
+        if (m_asideJournal)
+            QFile::remove(asideJournal());
+        m_asideJournal = false;
         return m_done;
+    }
     if (!m_dest || m_backup)
         return false;
     sqlite3_close_v2(m_dest);

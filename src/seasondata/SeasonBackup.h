@@ -54,7 +54,8 @@ public:
     // After the last step: the copy is closed, synced, opened again by its
     // name, must pass integrity_check and hold as many pages as the source
     // had when the copy ended; only then is it renamed into place. A copy
-    // that fails leaves the earlier file of that name as it was.
+    // that fails leaves the earlier file of that name as it was. A restore
+    // has nothing to check: checkAndPlace deletes the journal it kept.
     bool finish() { return endCopy() && checkAndPlace(); }
     // The two halves of finish(). endCopy lets go of the source connection;
     // checkAndPlace uses only the copy's own, so it may run on another thread.
@@ -73,7 +74,13 @@ private:
     void closeWork();
     bool copyStep(int pages);
     bool restoreStep(int pages);
+    // Restoring: the season file is synced every few megabytes.
+    int copiedPages() const;
+    bool flushDue() const;
     void flushSeasonFile();
+    // Restoring: the kept journal renamed, for checkAndPlace to delete.
+    void setJournalAside();
+    QString asideJournal() const;
 
     sqlite3 *m_source;
     QString m_target;
@@ -83,7 +90,8 @@ private:
     std::unique_ptr<QLockFile> m_lock; // held on the working name while it is ours
     int m_sourcePages = 0;             // the source's size when the copy ended
     bool m_done = false;
-    int m_syncedPages = 0; // restoring: pages copied at the last sync of the season file
+    int m_syncedPages = 0;       // restoring: pages copied at the last sync of the season file
+    bool m_asideJournal = false; // restoring: the journal waits under asideJournal()
     int m_errorCode = 0;
     QString m_errorMessage;
 };

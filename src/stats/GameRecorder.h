@@ -83,10 +83,11 @@ public:
     // subtracted, and the game's `recorded` is set to 0, in one transaction.
     Correction correct(const QString &schedID);
 
-private:
-    // Every player's additions of both teams, or the refusal to show.
+    // Every player's additions of both teams, or the refusal (shown).
     Result collectAdditions(const gameday::GameRecord &game, const GamePanels &panels,
                             std::array<TeamAdditions, 2> &additions, QList<qint64> &playerIDs);
+
+private:
     Result recordChecked(const gameday::GameRecord &game, int runsA, int runsB);
 
     myDB &m_db;

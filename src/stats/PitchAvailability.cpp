@@ -87,6 +87,16 @@ Availability availabilityOn(const PitchRuleSet &set, const PitcherLog &log, cons
     return a;
 }
 
+AvailabilityReport AvailabilityReport::read(myDB &db, const PitchRuleSet &set, const QString &teamID,
+                                            const QDate &today)
+{
+    // How far back the logs are read: past the longest rest any set asks.
+    constexpr int kDaysRead = 30;
+    return make(set,
+                teamID.isEmpty() ? QList<PitcherLog>{} : pitchlog::read(db, teamID, today.addDays(-kDaysRead), today),
+                today);
+}
+
 AvailabilityReport AvailabilityReport::make(const PitchRuleSet &set, const QList<PitcherLog> &logs, const QDate &today)
 {
     AvailabilityReport report;

@@ -52,6 +52,9 @@ struct AvailabilityReport
     QList<QStringList> rows;
     QString columnWidths;
     static AvailabilityReport make(const PitchRuleSet &set, const QList<PitcherLog> &logs, const QDate &today);
+    // The report of the team's players from the season, its logs read far
+    // enough back for every rule's rest.
+    static AvailabilityReport read(myDB &db, const PitchRuleSet &set, const QString &teamID, const QDate &today);
 };
 
 namespace pitchlog {

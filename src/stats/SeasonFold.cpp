@@ -325,6 +325,24 @@ void SeasonFold::write(SQLite::Database &db) const
     }
 }
 
+const SeasonRow<kHittingFigures> *SeasonFold::hitting(qint64 playerID) const
+{
+    const auto it = m_hitting.constFind(playerID);
+    return it == m_hitting.cend() ? nullptr : &*it;
+}
+
+const SeasonRow<kFieldingFigures> *SeasonFold::fielding(qint64 playerID) const
+{
+    const auto it = m_fielding.constFind(playerID);
+    return it == m_fielding.cend() ? nullptr : &*it;
+}
+
+const TeamRecordRow *SeasonFold::record(qint64 teamID) const
+{
+    const auto it = m_records.constFind(teamID);
+    return it == m_records.cend() ? nullptr : &*it;
+}
+
 const SeasonRow<kPitchingFigures> *SeasonFold::pitching(qint64 playerID) const
 {
     const auto it = m_pitching.constFind(playerID);

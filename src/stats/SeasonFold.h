@@ -49,6 +49,9 @@ public:
     // Reads the season rows of these players and the records of these teams.
     // Throws SQLite::Exception on a database error.
     SeasonFold(SQLite::Database &db, const QList<qint64> &playerIDs, const QList<qint64> &teamIDs);
+    // A fold over no stored rows: it holds the totals of the games added to
+    // it alone, as a season recording only those games would.
+    SeasonFold() = default;
 
     // Adds one lineup row's game. False, with nothing changed, when the
     // player's stored innings total has a thirds digit above 2: such a
@@ -73,8 +76,14 @@ public:
     // transaction then takes everything back.
     void write(SQLite::Database &db) const;
 
-    // The player's pitching row as it stands, or null.
+    // The player's rows as they stand, or null.
+    const SeasonRow<kHittingFigures> *hitting(qint64 playerID) const;
+    const SeasonRow<kFieldingFigures> *fielding(qint64 playerID) const;
     const SeasonRow<kPitchingFigures> *pitching(qint64 playerID) const;
+    const TeamRecordRow *record(qint64 teamID) const;
+    // The players and teams in the order they were first folded.
+    const QList<qint64> &players() const { return m_order; }
+    const QList<qint64> &teams() const { return m_teamOrder; }
 
 private:
     QHash<qint64, SeasonRow<kHittingFigures>> m_hitting;

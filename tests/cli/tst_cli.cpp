@@ -128,6 +128,39 @@ private Q_SLOTS:
         QVERIFY(run.out.contains("--help"));
     }
 
+    // A span holding every game gives the season's own totals: the games
+    // counted again one by one come to what recording stored.
+    void spanOfWholeSeason_data()
+    {
+        QTest::addColumn<QStringList>("report");
+        QTest::newRow("batting") << QStringList{QStringLiteral("batting")};
+        QTest::newRow("batting more") << QStringList{QStringLiteral("batting"), QStringLiteral("--more")};
+        QTest::newRow("fielding") << QStringList{QStringLiteral("fielding")};
+        QTest::newRow("pitching") << QStringList{QStringLiteral("pitching")};
+        QTest::newRow("pitching league") << QStringList{QStringLiteral("pitching"), QStringLiteral("--league"),
+                                                        QStringLiteral("OCC")};
+    }
+    void spanOfWholeSeason()
+    {
+        QFETCH(QStringList, report);
+        const QStringList args = QStringList{QStringLiteral("report")} + report +
+                                 QStringList{QStringLiteral("--data-dir"), m_folder, QStringLiteral("--format"),
+                                             QStringLiteral("csv")};
+        const Run season = runCli(args);
+        const Run span = runCli(args + QStringList{QStringLiteral("--from"), QStringLiteral("2026-04-07"),
+                                                   QStringLiteral("--to"), QStringLiteral("2026-04-14")});
+        QCOMPARE(season.status, 0);
+        QCOMPARE(span.status, 0);
+        QVERIFY(season.out.count('\n') > 2);
+        // Rows come in the order each player was first counted: the same
+        // lines, perhaps in another order.
+        QList<QByteArray> seasonLines = season.out.split('\n');
+        QList<QByteArray> spanLines = span.out.split('\n');
+        std::sort(seasonLines.begin(), seasonLines.end());
+        std::sort(spanLines.begin(), spanLines.end());
+        QCOMPARE(spanLines, seasonLines);
+    }
+
     // Another folder is only read: no preference file is made there, a
     // season that isn't there is not made either, and its backup goes
     // where it is told.

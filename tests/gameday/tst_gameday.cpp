@@ -294,10 +294,14 @@ private Q_SLOTS:
             QCOMPARE(other.getMyData(), card.getMyData());
             QCOMPARE(other.getMyBkgArray(), card.getMyBkgArray());
         }
+        // The lineup and batter texts, saved with every change, follow
+        // their own later changes.
         game.setBatterStat(2, 0, QStringLiteral("2"));
         game.setGameType(QStringLiteral("PreSeason"));
         const GameRecord stored = GameStore(*gData).load(season.schedID()).value();
         QCOMPARE(readBatStats(stored.teams[1].batStats).at(2).rbi, QStringLiteral("2"));
+        QCOMPARE(readPlayers(stored.teams[1].players).size(), 5);
+        QCOMPARE(readPlayers(stored.teams[1].players).last().pos, QStringLiteral("SS"));
         QCOMPARE(stored.gameType, QStringLiteral("PreSeason"));
     }
 

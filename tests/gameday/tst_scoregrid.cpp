@@ -485,6 +485,63 @@ private Q_SLOTS:
         QVERIFY(grid.check4IncompleteCells());
     }
 
+    // The stored texts and backgrounds are gathered after every click and
+    // remade only for rows that changed: after each kind of edit they are
+    // what a grid that never gathered before gives.
+    void storedFormsFollowEveryEdit_data()
+    {
+        QTest::addColumn<int>("edit");
+        const char *names[] = {"text",        "background",   "column inserted", "replacement row",
+                               "row removed", "texts loaded", "rows rebuilt",    "backgrounds loaded"};
+        for (int i = 0; i < int(std::size(names)); ++i)
+            QTest::newRow(names[i]) << i;
+    }
+    void storedFormsFollowEveryEdit()
+    {
+        QFETCH(int, edit);
+        const auto apply = [edit](ScoreGrid &grid) {
+            switch (edit) {
+            case 0:
+                grid.setCellText(2, 3, QStringLiteral("HR"));
+                break;
+            case 1:
+                grid.setCellBkg(2, 3, QStringLiteral("G"));
+                break;
+            case 2:
+                grid.insertColumn(1, 30);
+                break;
+            case 3:
+                grid.insertReplacementRow(1, 2);
+                break;
+            case 4:
+                grid.removeRow(0);
+                break;
+            case 5:
+                grid.setMyData(QStringLiteral("KL\tB2\r\tFO"));
+                break;
+            case 6:
+                loadTeam(grid, 2);
+                fill(grid, {"GO/R"});
+                break;
+            default:
+                grid.setMyBkgArray(QStringLiteral("Y\tR\t\rG"));
+                break;
+            }
+        };
+        ScoreGrid gathered, fresh;
+        for (ScoreGrid *grid : {&gathered, &fresh}) {
+            grid->setColumnCount(20);
+            loadTeam(*grid, 4);
+            fill(*grid, {"B1/Y GO/R", "KS/R . BB/Y", "HR/G", "FO/R SAC/R"});
+        }
+        const QString before = gathered.getMyData() + gathered.getMyBkgArray();
+        apply(gathered);
+        apply(fresh);
+        QCOMPARE(gathered.getMyData(), fresh.getMyData());
+        QCOMPARE(gathered.getMyBkgArray(), fresh.getMyBkgArray());
+        QVERIFY(gathered.getMyData() + gathered.getMyBkgArray() != before);
+    }
+
     void fullAndEmptyColumns_data()
     {
         QTest::addColumn<QStringList>("column");

@@ -503,6 +503,11 @@ private Q_SLOTS:
             SQLite::Database copy(QDir(f.dataFolder()).filePath(kept.first()).toStdString(), SQLite::OPEN_READONLY);
             QCOMPARE(copy.execAndGet("SELECT COUNT(*) FROM Teams").getInt(), int(later.size()));
         }
+        // No journal is left beside the season, and it deletes its journals
+        // again.
+        QCOMPARE(QDir(f.dataFolder()).entryList({QStringLiteral("*-journal*")}, QDir::Files | QDir::Hidden),
+                 QStringList{});
+        QCOMPARE(gData->scalar(QStringLiteral("PRAGMA journal_mode")).toString(), QStringLiteral("delete"));
         // The restored season is what the program opens next time.
         f.restart();
         QCOMPARE(f.dump(*gData, QStringLiteral("Teams")), restored ? backedUp : later);

@@ -21,8 +21,6 @@
 namespace {
 // The help page on pitch-count rules.
 constexpr int kHelpTopic = 17;
-// How far back the report reads: past the longest rest any set asks.
-constexpr int kDaysRead = 30;
 } // namespace
 
 pitcherAvailabilityScrn::pitcherAvailabilityScrn(QWidget *parent)
@@ -105,10 +103,8 @@ void pitcherAvailabilityScrn::showDay(const QDate &day)
         todayFld->setDate(day); // shows the day through dateChanged
         return;
     }
-    QList<stats::PitcherLog> logs;
-    if (gData && gPrefs && !gPrefs->prHomeTeam.isEmpty())
-        logs = stats::pitchlog::read(*gData, gPrefs->prHomeTeam, day.addDays(-kDaysRead), day);
-    const auto report = stats::AvailabilityReport::make(m_rules, logs, day);
+    const auto report = gData && gPrefs ? stats::AvailabilityReport::read(*gData, m_rules, gPrefs->prHomeTeam, day)
+                                        : stats::AvailabilityReport::make(m_rules, {}, day);
     availBox->deleteAllRows();
     availBox->setColumnCount(int(report.headings.size()));
     availBox->setHeadings(report.headings);

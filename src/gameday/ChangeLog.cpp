@@ -164,6 +164,11 @@ qint64 ChangeLog::recordWithin(myDB &db, const QString &game, const Change &chan
 {
     for (const RowChange &r : change.rows)
         writeRow(db, r, r.before, r.after);
+    return appendWithin(db, game, change);
+}
+
+qint64 ChangeLog::appendWithin(myDB &db, const QString &game, const Change &change)
+{
     return appendEntry(db, game, Made, 0, change.team, change.label, encode(change.rows));
 }
 

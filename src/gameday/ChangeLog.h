@@ -69,6 +69,10 @@ public:
     // The same inside the caller's transaction: throws on a database error
     // or a missing row. The new entry's id.
     static qint64 recordWithin(myDB &db, const QString &game, const Change &change);
+    // The entry alone, inside the caller's transaction, for a writer that
+    // has put the rows itself (a pitch is one keyed UPDATE): its rows'
+    // before and after must be what the file held and holds now.
+    static qint64 appendWithin(myDB &db, const QString &game, const Change &change);
 
     // As record(), and the entry goes on this game's undo stack.
     Result add(const Change &change);

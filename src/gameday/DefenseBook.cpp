@@ -36,9 +36,19 @@ DefenseChange DefenseBook::move(const QString &playerID, int inning, const QStri
 {
     if (!refusal().isEmpty())
         return {};
-    DefenseChange change = m_store.move(m_game.schedID(), teamID(), table(), playerID, inning, pos);
-    if (!change.isEmpty() && changed)
-        changed(change);
+    const DefenseTable current = table();
+    // "Smith to LF from the 4th inning": what Edit > Undo names.
+    const DefenseTable::Player *player = current.player(playerID);
+    const QString label = (player ? player->name.section(u' ', -1) : playerID) + QStringLiteral(" to ") +
+                          (pos.isEmpty() ? QStringLiteral("the bench") : pos) + QStringLiteral(" from the ") +
+                          GameDay::ordinalInning(inning);
+    DefenseChange change = m_store.move(m_game.schedID(), teamID(), current, playerID, inning, pos,
+                                        {label, m_game.curSelTeam()});
+    if (!change.isEmpty()) {
+        m_game.logAppended();
+        if (changed)
+            changed(change);
+    }
     return change;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/Schema.h"
 #include "app/myDB.h"
+#include "gameday/ChangeLog.h"
 #include "gameday/GameDay.h"
 #include "gameday/GridCodes.h"
 #include "gameday/ScoreGrid.h"
@@ -280,7 +281,7 @@ QHash<QString, QList<DefenseMove>> DefenseStore::allMoves() const
 }
 
 DefenseChange DefenseStore::move(const QString &schedID, const QString &teamID, const DefenseTable &current,
-                                 const QString &playerID, int inning, const QString &pos)
+                                 const QString &playerID, int inning, const QString &pos, const DefenseLogEntry &log)
 {
     DefenseChange change{schedID, teamID, {}};
     const QString target = fieldPosition(pos);
@@ -302,7 +303,27 @@ DefenseChange DefenseStore::move(const QString &schedID, const QString &teamID, 
                 row.before = m.pos;
         change.rows.append(row);
     }
-    if (!apply(change))
+    const bool written = m_db.runInTransaction([&] {
+        apply(change);
+        if (log.label.isEmpty())
+            return;
+        // Each row of the move as the log keeps rows: its position before
+        // and after, no value where the row was made or removed.
+        Change entry{log.label, log.team, {}};
+        const QStringList keyColumns = {u"schedID"_s, u"teamID"_s, u"playerID"_s, u"inning"_s};
+        const auto values = [](const std::optional<QString> &value) {
+            return value ? std::optional<QVariantList>(QVariantList{*value}) : std::nullopt;
+        };
+        for (const DefenseChange::Row &row : change.rows)
+            entry.rows.append({u"DefenseMoves"_s,
+                               keyColumns,
+                               {schedID, teamID, row.playerID, row.inning},
+                               {u"pos"_s},
+                               values(row.before),
+                               values(row.after)});
+        ChangeLog::appendWithin(m_db, schedID, entry);
+    });
+    if (!written)
         change.rows.clear();
     return change;
 }

@@ -119,6 +119,14 @@ struct DefenseChange
     bool isEmpty() const { return rows.isEmpty(); }
 };
 
+// What the game's change log names a move ("Smith to LF from the 4th
+// inning") and the card it belongs to. A move without a label is not logged.
+struct DefenseLogEntry
+{
+    QString label;
+    int team = -1;
+};
+
 // Table DefenseMoves: one row per game, team, player and inning.
 class DefenseStore
 {
@@ -131,10 +139,11 @@ public:
 
     // Puts `playerID` at `pos` from `inning` on. Whoever held `pos` in that
     // inning takes the player's old position from the same inning, so no
-    // position is held twice. One transaction; the change is empty when
-    // nothing changed or the write failed.
+    // position is held twice. One transaction, with the entry of the game's
+    // change log when `log` names one; the change is empty when nothing
+    // changed or the write failed.
     DefenseChange move(const QString &schedID, const QString &teamID, const DefenseTable &current,
-                       const QString &playerID, int inning, const QString &pos);
+                       const QString &playerID, int inning, const QString &pos, const DefenseLogEntry &log = {});
     // Writes each row's `after` (a missing value deletes the row), in one
     // transaction: a change as made, or with before and after swapped to
     // take it back.

@@ -11,7 +11,7 @@ namespace {
 const QString kOK = QStringLiteral("OK");
 
 // "1st inning", "2nd inning", ... "11th inning".
-QString ordinalInning(int n)
+QString inningName(int n)
 {
     const int tens = n % 100;
     const int ones = n % 10;
@@ -638,7 +638,7 @@ void GameDay::setBoardBox(int box, const QString &text)
     markHomeHalf(m_board);
     Q_EMIT boardChanged();
     static const QStringList boxes = {QStringLiteral("Hits"), QStringLiteral("Errors"), QStringLiteral("LOB")};
-    commitClick(box < 10 ? QStringLiteral("Line Score, ") + ordinalInning(box + 1)
+    commitClick(box < 10 ? QStringLiteral("Line Score, ") + inningName(box + 1)
                          : QStringLiteral("Line Score ") + boxes.at(box - kHitsBox));
 }
 
@@ -775,6 +775,11 @@ void GameDay::logAppended()
     Q_EMIT undoChanged();
 }
 
+QString GameDay::ordinalInning(int n)
+{
+    return inningName(n);
+}
+
 QString GameDay::panelLabel(const QString &panel, const QString &playerName)
 {
     return panel + QStringLiteral(" Stats, ") + playerName.section(u' ', -1);
@@ -836,7 +841,7 @@ QString GameDay::rowName(int row) const
 QString GameDay::cellLabel(int row, int col) const
 {
     const QString choice = m_card.lastChoice();
-    const QString inning = ordinalInning(numericValue(m_card.heading(col)));
+    const QString inning = inningName(numericValue(m_card.heading(col)));
     const qsizetype command = commandCaptions().indexOf(choice);
     if (command == 2 || command == 3)
         return choice + QStringLiteral(", ") + inning;

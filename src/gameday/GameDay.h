@@ -189,6 +189,8 @@ public:
     void logAppended();
     // What a change of a panel row is named: "Fielding Stats, Smith".
     static QString panelLabel(const QString &panel, const QString &playerName);
+    // "1st inning", "2nd inning", ... as the change names say it.
+    static QString ordinalInning(int n);
 
     // --- Pitching auto-fill --------------------------------------------------------
 

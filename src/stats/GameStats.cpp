@@ -11,6 +11,14 @@ namespace stats {
 
 namespace {
 
+// A statement inside runInTransaction: errors throw, so the step rolls back.
+int run(myDB &db, const QString &sql, const QVariantList &params)
+{
+    SQLite::Statement statement(*db.tlynData, sql.toUtf8().toStdString());
+    myDB::bindAll(statement, params);
+    return statement.exec();
+}
+
 // The leading number of a text, as the panels read a field: "12" 12, "1.5" 1, "" 0.
 int leadingInt(const QString &text)
 {
@@ -113,11 +121,15 @@ bool GameStatStore::saveStats(Panel panel, const QString &game, const QString &p
     return saveRow(panel, game, player, {QStringLiteral("teamID"), QStringLiteral("stats")}, {team, statsText});
 }
 
-bool GameStatStore::saveRow(Panel panel, const QString &game, const QString &player, const QStringList &columns,
-                            const QVariantList &values)
+std::optional<gameday::RowChange> GameStatStore::statsChange(Panel panel, const QString &game, const QString &player,
+                                                             const QString &team, const QString &statsText) const
 {
-    // The player's row is updated or made, with its entry in the game's
-    // change log, in one transaction.
+    return rowChange(panel, game, player, {QStringLiteral("teamID"), QStringLiteral("stats")}, {team, statsText});
+}
+
+std::optional<gameday::RowChange> GameStatStore::rowChange(Panel panel, const QString &game, const QString &player,
+                                                           const QStringList &columns, const QVariantList &values) const
+{
     using gameday::ChangeLog;
     const QString table = tableName(panel);
     const QStringList keyColumns = {QStringLiteral("gameID"), QStringLiteral("playerID")};
@@ -130,16 +142,25 @@ bool GameStatStore::saveRow(Panel panel, const QString &game, const QString &pla
                 (*before)[i] = values.value(i);
         }
         if (*before == values)
-            return true;
+            return std::nullopt;
     }
+    return gameday::RowChange{table, keyColumns, key, columns, before, values};
+}
+
+bool GameStatStore::saveRow(Panel panel, const QString &game, const QString &player, const QStringList &columns,
+                            const QVariantList &values)
+{
+    // The player's row is updated or made, with its entry in the game's
+    // change log, in one transaction.
+    const std::optional<gameday::RowChange> row = rowChange(panel, game, player, columns, values);
+    if (!row)
+        return true;
     static const QStringList names = {QStringLiteral("Batting"), QStringLiteral("Fielding"),
                                       QStringLiteral("Pitching")};
     const QString name =
         m_db.scalar(QStringLiteral("SELECT First || ' ' || Last FROM Players WHERE playerID = ?"), {player}).toString();
-    const gameday::Change change{gameday::GameDay::panelLabel(names.at(int(panel)), name),
-                                 -1,
-                                 {{table, keyColumns, key, columns, before, values}}};
-    return ChangeLog::record(m_db, game, change) == ChangeLog::Result::Saved;
+    const gameday::Change change{gameday::GameDay::panelLabel(names.at(int(panel)), name), -1, {*row}};
+    return gameday::ChangeLog::record(m_db, game, change) == gameday::ChangeLog::Result::Saved;
 }
 
 namespace {

@@ -6,6 +6,7 @@
 // with the decision, achievements and pitch counts in columns of their own),
 // and the rules the panels apply to them.
 
+#include "gameday/ChangeLog.h"
 #include "gameday/ScoreGrid.h"
 
 #include <QString>
@@ -74,6 +75,10 @@ public:
     std::optional<QString> stats(Panel panel, const QString &game, const QString &player) const;
     // Updates the player's row (teamID and stats) or inserts one.
     bool saveStats(Panel panel, const QString &game, const QString &player, const QString &team, const QString &stats);
+    // What saveStats would change of the row, for a caller that logs
+    // several rows as one change; none when the row already holds it.
+    std::optional<gameday::RowChange> statsChange(Panel panel, const QString &game, const QString &player,
+                                                  const QString &team, const QString &stats) const;
 
     std::optional<PitchingLine> pitching(const QString &game, const QString &player) const;
     bool savePitching(const QString &game, const QString &player, const QString &team, const PitchingLine &line);
@@ -91,6 +96,8 @@ public:
     bool hasFieldingAndPitching(const QString &game) const;
 
 private:
+    std::optional<gameday::RowChange> rowChange(Panel panel, const QString &game, const QString &player,
+                                                const QStringList &columns, const QVariantList &values) const;
     bool saveRow(Panel panel, const QString &game, const QString &player, const QStringList &columns,
                  const QVariantList &values);
 

@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/myDB.h"
+#include "gameday/ChangeLog.h"
 #include "gameday/GameDay.h"
 
 #include <QLocale>
@@ -113,7 +114,25 @@ void PitchCounter::reload()
     m_line = row.value_or(PitchingLine{});
 }
 
-PitchWrite PitchCounter::add(Pitch pitch)
+namespace {
+
+// The entry of a pitch added to an existing row: its balls and strikes
+// before and after.
+gameday::Change pitchChange(const QString &label, const PitchWrite &write)
+{
+    return {label,
+            -1,
+            {{QStringLiteral("GamesIndivPitching"),
+              {QStringLiteral("gameID"), QStringLiteral("playerID")},
+              {write.game, write.playerID},
+              {QStringLiteral("totBalls"), QStringLiteral("totKs")},
+              QVariantList{write.before->totBalls, write.before->totKs},
+              QVariantList{write.after.totBalls, write.after.totKs}}}};
+}
+
+} // namespace
+
+PitchWrite PitchCounter::add(Pitch pitch, const QString &label)
 {
     PitchWrite write;
     write.game = m_game;
@@ -131,6 +150,8 @@ PitchWrite PitchCounter::add(Pitch pitch)
             write.after = m_line;
             write.after.totBalls += ball;
             write.after.totKs += 1 - ball;
+            if (!label.isEmpty())
+                gameday::ChangeLog::appendWithin(m_db, m_game, pitchChange(label, write));
             return;
         }
         // Written elsewhere since: the row as it was is the row after it
@@ -140,6 +161,8 @@ PitchWrite PitchCounter::add(Pitch pitch)
             write.before = *after;
             write.before->totBalls -= ball;
             write.before->totKs -= 1 - ball;
+            if (!label.isEmpty())
+                gameday::ChangeLog::appendWithin(m_db, m_game, pitchChange(label, write));
             return;
         }
         write.after = freshLine();
@@ -228,9 +251,15 @@ PitchWrite GamePitchCount::add(Pitch pitch)
 {
     if (!mayCount())
         return {};
-    const PitchWrite write = m_counter.add(pitch);
-    if (write.ok)
+    // "Ball, Smith": what Edit > Undo names. A pitch that made the row is
+    // logged as the pitching panel's row.
+    static const QStringList names = {QStringLiteral("Ball"), QStringLiteral("Strike"), QStringLiteral("Foul")};
+    const PitchWrite write = m_counter.add(pitch, names.at(int(pitch)) + QStringLiteral(", ") +
+                                                      pitcherName().section(u' ', -1));
+    if (write.ok) {
+        m_game.logAppended();
         Q_EMIT pitchWritten(write);
+    }
     Q_EMIT changed();
     return write;
 }

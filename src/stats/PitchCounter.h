@@ -71,8 +71,10 @@ public:
 
     // Reads the row again (the pitching panel may have changed it).
     void reload();
-    // Adds one pitch to the row in one transaction.
-    PitchWrite add(Pitch pitch);
+    // Adds one pitch to the row in one transaction; with a label, the
+    // game's change log gets the entry in the same transaction, so Undo
+    // takes the pitch back.
+    PitchWrite add(Pitch pitch, const QString &label = {});
 
     int balls() const { return m_line.totBalls; }
     int strikes() const { return m_line.totKs; }

@@ -1,6 +1,7 @@
 #include "stats/PlayingTime.h"
 
 #include "app/myDB.h"
+#include "gameday/ChangeLog.h"
 #include "gameday/DefenseTable.h"
 #include "gameday/GameDay.h"
 #include "gameday/GameRecord.h"
@@ -170,24 +171,29 @@ QList<QStringList> PlayingTimeReport::texts() const
 bool fillFieldingInnings(myDB &db, const QString &schedID, const QString &teamID, const gameday::DefenseTable &table,
                          const QSet<int> &counted)
 {
+    // Every player's row in one change of the game's log: one Undo takes
+    // the whole fill back.
     GameStatStore store(db);
-    return db.runInTransaction([&] {
-        for (const auto &player : table.players()) {
-            bool isPlayer = false;
-            player.playerID.toLongLong(&isPlayer);
-            if (!isPlayer)
-                continue; // a lineup row without a player of the season
-            const int innings = table.fieldInnings(player.playerID, counted);
-            const std::optional<QString> stored = store.stats(Panel::Fielding, schedID, player.playerID);
-            if (!stored && innings == 0)
-                continue;
-            QStringList fields(kFieldingFields, u"0"_s);
-            if (stored)
-                fields = spreadStats(*stored, fields);
-            fields[0] = QString::number(innings);
-            store.saveStats(Panel::Fielding, schedID, player.playerID, teamID, gatherStats(fields));
-        }
-    });
+    gameday::Change change{u"Fill Fielding Innings"_s, -1, {}};
+    for (const auto &player : table.players()) {
+        bool isPlayer = false;
+        player.playerID.toLongLong(&isPlayer);
+        if (!isPlayer)
+            continue; // a lineup row without a player of the season
+        const int innings = table.fieldInnings(player.playerID, counted);
+        const std::optional<QString> stored = store.stats(Panel::Fielding, schedID, player.playerID);
+        if (!stored && innings == 0)
+            continue;
+        QStringList fields(kFieldingFields, u"0"_s);
+        if (stored)
+            fields = spreadStats(*stored, fields);
+        fields[0] = QString::number(innings);
+        if (std::optional<gameday::RowChange> row = store.statsChange(Panel::Fielding, schedID, player.playerID, teamID,
+                                                                      gatherStats(fields)))
+            change.rows.append(*row);
+    }
+    return change.rows.isEmpty() ||
+           gameday::ChangeLog::record(db, schedID, change) == gameday::ChangeLog::Result::Saved;
 }
 
 } // namespace stats

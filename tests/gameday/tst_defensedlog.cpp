@@ -4,6 +4,7 @@
 // innings at each position read back from the season and the report.
 
 #include "SampleSeason.h"
+#include "app/ui/MainMenuBar.h"
 #include "fakes/TestKit.h"
 #include "gameday/MinimumPlay.h"
 #include "gameday/ui/defenseDlog.h"
@@ -14,6 +15,7 @@
 #include "seasondata/ui/prefScrn.h"
 #include "stats/ui/finalCheckScrn.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -128,11 +130,21 @@ private Q_SLOTS:
         QCOMPARE(rowTexts(table, u"CF"_s, 4),
                  (QStringList{"L. O'Sullivan", "L. O'Sullivan", "G. D'Amico", "G. D'Amico"}));
 
+        // A move is a change of the game's log like any other.
+        QAction *undo = screen->menus()->item(u"EditUndo"_s);
+        QCOMPARE(undo->text(), u"&Undo D'Amico to CF from the 3rd inning"_s);
+        undo->trigger();
+        QCOMPARE(rowTexts(table, u"CF"_s, 4), QStringList(4, u"L. O'Sullivan"_s));
+        screen->menus()->item(u"EditRedo"_s)->trigger();
+        QCOMPARE(rowTexts(table, u"CF"_s, 4),
+                 (QStringList{"L. O'Sullivan", "L. O'Sullivan", "G. D'Amico", "G. D'Amico"}));
+
         // The fielding innings of the three played, on the coach's word.
         f.platform.messages.answers.enqueue(platform::MsgAction);
         dlg->fillIPBtn->click();
         QCOMPARE(f.platform.messages.texts().last(),
                  u"Fill the fielding innings of every player of Celtics from the defense table?"_s);
+        QCOMPARE(undo->text(), u"&Undo Fill Fielding Innings"_s); // the whole team in one change
         recordFromScreen(screen);
         QCOMPARE(f.db->scalar(u"SELECT recorded FROM Games WHERE schedID = ?"_s, {game}).toInt(), 1);
         const QString damico = f.db->scalar(u"SELECT playerID FROM Players WHERE Last = 'D''Amico'"_s).toString();

@@ -764,6 +764,14 @@ private Q_SLOTS:
         const auto row = stats::GameStatStore(*gData).pitching(season.schedID(), pitcher);
         QCOMPARE(row->totBalls, 2);
         QCOMPARE(row->totKs, 2);
+        // Each pitch is a change of the game's log: Undo takes the last back.
+        QAction *undo = m_scr->menus()->item(QStringLiteral("EditUndo"));
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Ball, Smith"));
+        undo->trigger();
+        QCOMPARE(ctl<QLabel>("pitchCountFld")->text(), QStringLiteral("3 pitches, 2 strikes"));
+        QCOMPARE(stats::GameStatStore(*gData).pitching(season.schedID(), pitcher)->totBalls, 1);
+        m_scr->menus()->item(QStringLiteral("EditRedo"))->trigger();
+        QCOMPARE(ctl<QLabel>("pitchCountFld")->text(), QStringLiteral("4 pitches, 2 strikes"));
 
         ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(1);
         ctl<QPushButton>("pitchStatsBtn")->click();

@@ -181,6 +181,8 @@ void defenseDlog::fillFieldingInnings()
                      u"there is replaced."_s,
                      u"Fill"_s) != platform::MsgAction)
         return;
-    if (stats::fillFieldingInnings(m_db, m_game.schedID(), m_book.teamID(), m_book.table(), m_book.fieldedSoFar()))
+    if (stats::fillFieldingInnings(m_db, m_game.schedID(), m_book.teamID(), m_book.table(), m_book.fieldedSoFar())) {
+        m_game.logAppended();
         Q_EMIT defenseChanged();
+    }
 }

@@ -178,8 +178,7 @@ bool myDB::createSchema(const QString &file)
 {
     try {
         SQLite::Transaction transaction(*tlynData, SQLite::TransactionBehavior::IMMEDIATE);
-        for (const QString &statement :
-             schema::createStatements() + schema::indexStatements())
+        for (const QString &statement : schema::createStatements() + schema::indexStatements())
             tlynData->exec(utf8(statement));
         transaction.commit();
     } catch (const SQLite::Exception &) {

@@ -38,8 +38,8 @@ QStringList render(const DefenseTable &table)
 QList<DefenseMove> readMoves(const QStringList &specs)
 {
     QList<DefenseMove> moves;
-    for (const QString &spec : specs) {
-        const QStringList f = spec.split(u' ');
+    for (const QString &line : specs) {
+        const QStringList f = line.split(u' ');
         moves.append({f.at(0), f.at(1).toInt(), f.value(2)});
     }
     return moves;

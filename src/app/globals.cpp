@@ -81,6 +81,11 @@ void gMsgBox(const QString &text)
     platform::messages().msgBox(text);
 }
 
+void gNotice(const QString &message, const QString &explanation)
+{
+    platform::messages().notice(message, explanation);
+}
+
 void gBeep()
 {
     platform::beeper().beep();

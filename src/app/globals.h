@@ -50,6 +50,8 @@ std::uint8_t gShowMsgDlog(const QString &message, const QString &explanation, co
                           const QString &altCaption = {});
 // A plain one-line message box.
 void gMsgBox(const QString &text);
+// A notice with its explanation and one OK button.
+void gNotice(const QString &message, const QString &explanation);
 // The system's alert sound.
 void gBeep();
 

@@ -23,6 +23,10 @@ public:
         return platform::MsgCancel;
     }
     void msgBox(const QString &text) override { m_err << text << Qt::endl; }
+    void notice(const QString &message, const QString &explanation) override
+    {
+        m_err << message << Qt::endl << explanation << Qt::endl;
+    }
 
 private:
     QTextStream &m_err;

@@ -23,6 +23,10 @@ public:
 
     // A plain one-line message box with an OK button.
     virtual void msgBox(const QString &text) = 0;
+
+    // A notice with the caution icon, its explanation and one OK button:
+    // what the coach should know, with nothing to choose.
+    virtual void notice(const QString &message, const QString &explanation) = 0;
 };
 
 } // namespace platform

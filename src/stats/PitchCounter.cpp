@@ -279,10 +279,10 @@ bool GamePitchCount::warnIfResting(const QString &playerID)
     QString name = nameOf(playerID);
     if (name.isEmpty())
         name = QStringLiteral("This player");
-    gShowMsgDlog(QStringLiteral("%1 may not pitch on %2 under %3.")
-                     .arg(name, QLocale::c().toString(m_game.gameEvent().date, QStringLiteral("dddd d MMMM")),
-                          m_rules.name),
-                 why.left(1).toUpper() + why.mid(1) + u'.', QStringLiteral("OK"));
+    // A notice, not a question: the coach knows his league and decides.
+    gNotice(QStringLiteral("%1 may not pitch on %2 under %3.")
+                .arg(name, QLocale::c().toString(m_game.gameEvent().date, QStringLiteral("dddd d MMMM")), m_rules.name),
+            why.left(1).toUpper() + why.mid(1) + u'.');
     return true;
 }
 

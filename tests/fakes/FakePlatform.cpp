@@ -47,6 +47,11 @@ std::uint8_t FakeMessages::showMsgDlog(const QString &message, const QString &ex
     return answers.dequeue();
 }
 
+void FakeMessages::notice(const QString &message, const QString &explanation)
+{
+    shown.append({message, explanation, QStringLiteral("OK"), {}, false});
+}
+
 void FakeMessages::msgBox(const QString &text)
 {
     shown.append({text, {}, {}, {}, true});

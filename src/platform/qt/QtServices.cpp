@@ -105,6 +105,17 @@ std::uint8_t QtMessageService::showMsgDlog(const QString &message, const QString
     return MsgCancel;
 }
 
+void QtMessageService::notice(const QString &message, const QString &explanation)
+{
+    QMessageBox box(dialogParent());
+    box.setIcon(QMessageBox::Warning);
+    box.setWindowTitle(QApplication::applicationDisplayName());
+    box.setText(message);
+    box.setInformativeText(explanation);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
 void QtMessageService::msgBox(const QString &text)
 {
     QMessageBox box(dialogParent());

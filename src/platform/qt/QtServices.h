@@ -14,6 +14,7 @@ public:
     std::uint8_t showMsgDlog(const QString &message, const QString &explanation, const QString &actionCaption,
                              const QString &altCaption) override;
     void msgBox(const QString &text) override;
+    void notice(const QString &message, const QString &explanation) override;
 };
 
 class QtFileDialogService final : public FileDialogService

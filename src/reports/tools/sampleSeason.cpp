@@ -31,6 +31,10 @@ public:
         return platform::MsgAction;
     }
     void msgBox(const QString &text) override { std::fprintf(stderr, "%s\n", qUtf8Printable(text)); }
+    void notice(const QString &message, const QString &explanation) override
+    {
+        std::fprintf(stderr, "%s %s\n", qUtf8Printable(message), qUtf8Printable(explanation));
+    }
 };
 
 } // namespace

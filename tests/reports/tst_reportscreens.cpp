@@ -216,6 +216,22 @@ private Q_SLOTS:
             ->setCurrentIndex(testkit::child<QComboBox>(report, "leagueFilter")->findText("North"));
         testkit::child<QComboBox>(report, "DivisionFilter")->setCurrentIndex(0);
         QCOMPARE(list->rowCount(), 3);
+
+        // The order follows its heading into the other set of columns: the
+        // modern rates have no "Avg" (OPS stands in its place), but a team.
+        QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {},
+                          QPoint(list->header()->sectionViewportPosition(avg) + 5, 5));
+        auto *columnSet = testkit::child<QComboBox>(report, "columnSetPop");
+        columnSet->setCurrentIndex(1);
+        QCOMPARE(list->header()->sortIndicatorSection(), -1);
+        QCOMPARE(column(list, 1), (QStringList{"Ames", "Bell", "O'Neil"}));
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Right, Qt::ControlModifier); // the first heading: first names
+        QTest::keyClick(list, Qt::Key_Right, Qt::ControlModifier);
+        QTest::keyClick(list, Qt::Key_Right, Qt::ControlModifier); // the team, A to Z
+        QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
+        columnSet->setCurrentIndex(0);
+        QCOMPARE(column(list, 2), (QStringList{"Owls", "Eagles", "Eagles"}));
     }
 
     // Wide print in landscape: the report's lines, or "No Data Available"

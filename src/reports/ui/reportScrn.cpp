@@ -128,7 +128,16 @@ void reportScrn::scrnSetup()
                                          "first; Ctrl+Up and Ctrl+Down turn the order"));
     showColumnSet();
     connect(columnSetPop, &QComboBox::currentIndexChanged, this, [this] {
+        // The order follows its heading, not its place: a heading the other
+        // set lacks leaves the lines in the report's own order.
+        QHeaderView *heading = reportBox->header();
+        const QStringList before = showsMore() ? m_report.curHeaders() : m_report.moreHeaders();
+        const QString sortedBy = heading->isSortIndicatorShown() ? before.value(heading->sortIndicatorSection())
+                                                                 : QString();
+        const Qt::SortOrder order = heading->sortIndicatorOrder();
         showColumnSet();
+        const QStringList after = showsMore() ? m_report.moreHeaders() : m_report.curHeaders();
+        heading->setSortIndicator(sortedBy.isEmpty() ? -1 : int(after.indexOf(sortedBy)), order);
         displayData();
     });
     titleLbl->setText(m_report.title());

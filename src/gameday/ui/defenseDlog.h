@@ -44,7 +44,7 @@ Q_SIGNALS:
     // A move or a fill reached the file.
     void defenseChanged();
 
-public:
+private:
     QLabel *teamLbl = nullptr;
     QTreeWidget *defenseTable = nullptr;
     QComboBox *playerPop = nullptr; // data: playerID
@@ -53,8 +53,6 @@ public:
     QPushButton *moveBtn = nullptr;
     QPushButton *fillIPBtn = nullptr;
     QPushButton *closeBtn = nullptr;
-
-private:
     myDB &m_db;
     gameday::GameDay &m_game;
     gameday::DefenseBook m_book;

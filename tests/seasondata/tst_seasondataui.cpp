@@ -644,8 +644,8 @@ private Q_SLOTS:
             QTest::mouseClick(testkit::child<QPushButton>(screen, "setUDVBtn"), Qt::LeftButton);
             auto *sheet = screen->findChild<UDVStatsScrn *>();
             QVERIFY(sheet && sheet->windowModality() == Qt::WindowModal);
-            sheet->batAbbrev.at(0)->setText(input.section(u'\t', 0, 0));
-            sheet->fldDesc.at(2)->setText(input.section(u'\t', 1));
+            testkit::child<QLineEdit>(sheet, "batAbbrev0")->setText(input.section(u'\t', 0, 0));
+            testkit::child<QLineEdit>(sheet, "fldDesc2")->setText(input.section(u'\t', 1));
             QTest::mouseClick(testkit::child<QPushButton>(sheet, "saveBtn"), Qt::LeftButton);
         }
         if (control == u"InnPerGamePop")
@@ -777,8 +777,8 @@ private Q_SLOTS:
         QPointer<UDVStatsScrn> sheet = screen->findChild<UDVStatsScrn *>();
         QVERIFY(sheet);
         for (int i = 0; i < 5; ++i) {
-            sheet->batAbbrev.at(i)->setText(abbrevs.at(i));
-            sheet->batDesc.at(i)->setText(description);
+            testkit::child<QLineEdit>(sheet, qPrintable(QStringLiteral("batAbbrev%1").arg(i)))->setText(abbrevs.at(i));
+            testkit::child<QLineEdit>(sheet, qPrintable(QStringLiteral("batDesc%1").arg(i)))->setText(description);
         }
         QTest::mouseClick(testkit::child<QPushButton>(sheet, "saveBtn"), Qt::LeftButton);
         QTRY_VERIFY(!sheet);
@@ -819,7 +819,7 @@ private Q_SLOTS:
         QVERIFY(sheet);
         const QString typed(1000, u'a');
         for (int i = 0; i < 3; ++i)
-            sheet->batAbbrev.at(i)->setText(typed);
+            testkit::child<QLineEdit>(sheet, qPrintable(QStringLiteral("batAbbrev%1").arg(i)))->setText(typed);
         int pressedOnce = 0;
         if (!pressed.isEmpty()) {
             f.fake.messages.whileShown = [&] {

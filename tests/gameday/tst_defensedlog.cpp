@@ -221,7 +221,7 @@ private Q_SLOTS:
             playerPop->setCurrentIndex(playerPop->findText(out.section(u' ', 0, -2)));
             posPop->setCurrentIndex(posPop->findText(u"Bench"_s));
             testkit::child<QSpinBox>(dlg, "inningFld")->setValue(out.section(u' ', -1).toInt());
-            dlg->moveChosen();
+            testkit::child<QPushButton>(dlg, "moveBtn")->click();
         }
         auto *shown = testkit::child<QLabel>(screen, "minPlayFld");
         QCOMPARE(shown->text(), line);

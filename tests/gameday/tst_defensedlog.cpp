@@ -101,28 +101,32 @@ private Q_SLOTS:
         testkit::child<QPushButton>(screen, "defenseBtn")->click();
         auto *dlg = screen->findChild<defenseDlog *>();
         QVERIFY(dlg && dlg->isVisible());
-        QTreeWidget *table = dlg->defenseTable;
+        auto *table = testkit::child<QTreeWidget>(dlg, "defenseTable");
+        auto *posPop = testkit::child<QComboBox>(dlg, "posPop");
+        auto *inningFld = testkit::child<QSpinBox>(dlg, "inningFld");
+        auto *playerPop = testkit::child<QComboBox>(dlg, "playerPop");
+        auto *moveBtn = testkit::child<QPushButton>(dlg, "moveBtn");
         QCOMPARE(table->columnCount(), 8); // the positions, then seven innings
         QCOMPARE(rowTexts(table, u"2B"_s, 3), QStringList(3, u"G. D'Amico"_s));
 
         // By mouse: left field in the 2nd, D'Amico there from then on.
         const QRect cell = table->visualRect(table->indexFromItem(rowOf(table, u"LF"_s), 2));
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
-        QCOMPARE(dlg->posPop->currentText(), u"LF"_s);
-        QCOMPARE(dlg->inningFld->value(), 2);
-        QCOMPARE(dlg->playerPop->currentText(), u"Lucas Brennan"_s);
-        dlg->playerPop->setCurrentIndex(dlg->playerPop->findText(u"Gabriel D'Amico"_s));
-        QTest::mouseClick(dlg->moveBtn, Qt::LeftButton);
+        QCOMPARE(posPop->currentText(), u"LF"_s);
+        QCOMPARE(inningFld->value(), 2);
+        QCOMPARE(playerPop->currentText(), u"Lucas Brennan"_s);
+        playerPop->setCurrentIndex(playerPop->findText(u"Gabriel D'Amico"_s));
+        QTest::mouseClick(moveBtn, Qt::LeftButton);
 
         // By keyboard: down to center field, right to the 3rd, and Move.
         table->setFocus();
         QTest::keyClick(table, Qt::Key_Down);
         QTest::keyClick(table, Qt::Key_Right);
-        QCOMPARE(dlg->posPop->currentText(), u"CF"_s);
-        QCOMPARE(dlg->inningFld->value(), 3);
-        dlg->playerPop->setCurrentIndex(dlg->playerPop->findText(u"Gabriel D'Amico"_s));
-        dlg->moveBtn->setFocus();
-        QTest::keyClick(dlg->moveBtn, Qt::Key_Space);
+        QCOMPARE(posPop->currentText(), u"CF"_s);
+        QCOMPARE(inningFld->value(), 3);
+        playerPop->setCurrentIndex(playerPop->findText(u"Gabriel D'Amico"_s));
+        moveBtn->setFocus();
+        QTest::keyClick(moveBtn, Qt::Key_Space);
 
         QCOMPARE(rowTexts(table, u"2B"_s, 4), (QStringList{"G. D'Amico", "L. Brennan", "L. Brennan", "L. Brennan"}));
         QCOMPARE(rowTexts(table, u"LF"_s, 4),
@@ -141,7 +145,7 @@ private Q_SLOTS:
 
         // The fielding innings of the three played, on the coach's word.
         f.platform.messages.answers.enqueue(platform::MsgAction);
-        dlg->fillIPBtn->click();
+        testkit::child<QPushButton>(dlg, "fillIPBtn")->click();
         QCOMPARE(f.platform.messages.texts().last(),
                  u"Fill the fielding innings of every player of Celtics from the defense table?"_s);
         QCOMPARE(undo->text(), u"&Undo Fill Fielding Innings"_s); // the whole team in one change
@@ -157,7 +161,7 @@ private Q_SLOTS:
 
         // Read back as the report shows him: one inning at each place.
         auto report = std::make_unique<playingTimeScrn>();
-        qlmListBox *list = report->timeBox;
+        auto *list = testkit::child<qlmListBox>(report, "timeBox");
         QStringList row;
         for (int r = 0; r < list->rowCount(); ++r)
             if (list->cell(r, 0) == u"Gabriel D'Amico")
@@ -212,10 +216,12 @@ private Q_SLOTS:
         testkit::child<QRadioButton>(screen, "TeamBtn_1")->click();
         defenseDlog *dlg = screen->openDefense();
         for (const QString &out : benched) {
-            dlg->playerPop->setCurrentIndex(dlg->playerPop->findText(out.section(u' ', 0, -2)));
-            dlg->posPop->setCurrentIndex(dlg->posPop->findText(u"Bench"_s));
-            dlg->inningFld->setValue(out.section(u' ', -1).toInt());
-            dlg->moveChosen();
+            auto *playerPop = testkit::child<QComboBox>(dlg, "playerPop");
+            auto *posPop = testkit::child<QComboBox>(dlg, "posPop");
+            playerPop->setCurrentIndex(playerPop->findText(out.section(u' ', 0, -2)));
+            posPop->setCurrentIndex(posPop->findText(u"Bench"_s));
+            testkit::child<QSpinBox>(dlg, "inningFld")->setValue(out.section(u' ', -1).toInt());
+            testkit::child<QPushButton>(dlg, "moveBtn")->click();
         }
         auto *shown = testkit::child<QLabel>(screen, "minPlayFld");
         QCOMPARE(shown->text(), line);

@@ -29,6 +29,17 @@ void addByPos(GameDay &game, const QStringList &positions)
         game.addPlayerToLineup(rosterRowOf(game, pos));
 }
 
+// Four players in the lineup of the team on show, and its first inning
+// played: a home run, then three outs.
+void playRunThenThreeOuts(GameDay &game, ScoreGrid &card, ScriptedPopover &popover)
+{
+    addByPos(game, {"C", "B1", "B2", "B3"});
+    for (const auto &[row, code] : QList<std::pair<int, QString>>{{0, "HR"}, {1, "GO"}, {2, "FO"}, {3, "KL"}}) {
+        popover.script({code});
+        card.cellClicked(row, 0, false);
+    }
+}
+
 const QStringList kNine = {"C", "B1", "B2", "B3", "SS", "LF", "CF", "RF", "DH"};
 
 } // namespace
@@ -192,11 +203,7 @@ private Q_SLOTS:
         QVERIFY(game.setEnterRHE(true));
         game.setBoardBox(0, QStringLiteral("2"));
         game.showTeam(1);
-        addByPos(game, {"C", "B1", "B2", "B3"});
-        for (const auto &[row, code] : QList<std::pair<int, QString>>{{0, "HR"}, {1, "GO"}, {2, "FO"}, {3, "KL"}}) {
-            popover.script({code});
-            card.cellClicked(row, 0, false);
-        }
+        playRunThenThreeOuts(game, card, popover);
         game.showTeam(0);
         QCOMPARE(gridtest::bkgRow(card, 0, 2) + gridtest::bkgRow(card, 1, 2), QStringLiteral("----"));
         addByPos(game, {"C", "B1", "B2"});
@@ -315,11 +322,7 @@ private Q_SLOTS:
         QVERIFY(game.open(season.schedID()));
         game.errorCounter = [](const QString &, const QString &team) { return team.toInt() % 7; };
         // Team B: three up, a run in the first inning, three outs.
-        addByPos(game, {"C", "B1", "B2", "B3"});
-        for (const auto &[row, code] : QList<std::pair<int, QString>>{{0, "HR"}, {1, "GO"}, {2, "FO"}, {3, "KL"}}) {
-            popover.script({code});
-            card.cellClicked(row, 0, false);
-        }
+        playRunThenThreeOuts(game, card, popover);
         QVERIFY(game.finalizeVisible());
         QCOMPARE(game.board().innings[1][0], QStringLiteral("1"));
         QCOMPARE(game.board().innings[1][1], QStringLiteral("--"));

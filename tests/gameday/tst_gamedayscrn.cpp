@@ -71,6 +71,14 @@ void continueAutoFill()
         [](AutoFillPitchScrn *w) { w->findChild<QPushButton *>(QStringLiteral("ContBtn"))->click(); });
 }
 
+// A statistics panel's number field `i` (the pitching panel names its own).
+QLineEdit *statFld(StatPanel *panel, int i)
+{
+    const QString name = qobject_cast<pitchingCtr *>(panel) ? QStringLiteral("PStatFld_%1")
+                                                            : QStringLiteral("dataFld_%1");
+    return testkit::child<QLineEdit>(panel, qPrintable(name.arg(i)));
+}
+
 int rowOfPos(qlmListBox *list, const QString &pos)
 {
     for (int r = 0; r < list->rowCount(); ++r) {
@@ -237,8 +245,9 @@ class TestGameDayScrn : public QObject
                  QStringLiteral("Are you sure you wish to remove Bo12 Smith from the list of available players?"));
         QCOMPARE(ctl<qlmListBox>("rosterList")->rowCount(), 7);
         whenShown<AddPlayersToGameScrn>([](AddPlayersToGameScrn *w) {
-            for (int r = 0; r < w->PlayerList->rowCount(); ++r)
-                w->PlayerList->setCellCheck(r, 0, true);
+            auto *players = testkit::child<qlmListBox>(w, "PlayerList");
+            for (int r = 0; r < players->rowCount(); ++r)
+                players->setCellCheck(r, 0, true);
             w->findChild<QPushButton *>(QStringLiteral("doneBtn"))->click();
         });
         Q_EMIT ctl<PlusMinusContainer>("PlusMinusPlayers")->PlusPressed();
@@ -284,18 +293,18 @@ class TestGameDayScrn : public QObject
         ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(4);
         ctl<QPushButton>("UDBatStatsBtn")->click();
         QVERIFY(ctl<battingCtr>("myBatCtr")->isVisible());
-        QTest::keyClick(ctl<battingCtr>("myBatCtr")->dataFld(1), Qt::Key_Plus);
-        QTest::keyClick(ctl<battingCtr>("myBatCtr")->dataFld(1), Qt::Key_Escape);
+        QTest::keyClick(statFld(ctl<battingCtr>("myBatCtr"), 1), Qt::Key_Plus);
+        QTest::keyClick(statFld(ctl<battingCtr>("myBatCtr"), 1), Qt::Key_Escape);
         QVERIFY(!ctl<battingCtr>("myBatCtr")->isVisible());
         QVERIFY(!ctl<QPushButton>("UDBatStatsBtn")->isChecked());
         ctl<QPushButton>("fldStatsBtn")->click();
         m_scr->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_scr));
-        ctl<FieldingCtr>("myFldCtr")->dataFld(5)->setFocus();
-        ctl<FieldingCtr>("myFldCtr")->dataFld(5)->setText(QString());
-        QTest::keyClicks(ctl<FieldingCtr>("myFldCtr")->dataFld(5), QStringLiteral("2x"));
+        statFld(ctl<FieldingCtr>("myFldCtr"), 5)->setFocus();
+        statFld(ctl<FieldingCtr>("myFldCtr"), 5)->setText(QString());
+        QTest::keyClicks(statFld(ctl<FieldingCtr>("myFldCtr"), 5), QStringLiteral("2x"));
         QCOMPARE(season.fake.beeper.beeps, 1);
-        ctl<FieldingCtr>("myFldCtr")->dataFld(6)->setFocus();
+        statFld(ctl<FieldingCtr>("myFldCtr"), 6)->setFocus();
         QCOMPARE(ctl<QLineEdit>("errsFld_0")->text(), QStringLiteral("2")); // at once, the panel still open
         ctl<QPushButton>("fldStatsBtn")->click();
 
@@ -303,7 +312,7 @@ class TestGameDayScrn : public QObject
         QVERIFY(ctl<QPushButton>("pitchStatsBtn")->isEnabled());
         ctl<QPushButton>("pitchStatsBtn")->click();
         QVERIFY(ctl<BBScoringLB>("scoreCardLB")->grid().clickDisabled());
-        QLineEdit *ip = ctl<pitchingCtr>("myPitchCtr")->dataFld(0);
+        QLineEdit *ip = statFld(ctl<pitchingCtr>("myPitchCtr"), 0);
         ip->setText(QString());
         QTest::keyClicks(ip, QStringLiteral("6.3"));
         QTest::keyClick(ip, Qt::Key_Escape);
@@ -313,7 +322,7 @@ class TestGameDayScrn : public QObject
         // Auto-fill over team B's card: from the first batter of "1" to
         // the last of "2" (the doubled inning in between).
         continueAutoFill();
-        ctl<pitchingCtr>("myPitchCtr")->autoFillButton()->click();
+        ctl<QPushButton>("autoFillBtn")->click();
         QCOMPARE(m_scr->game().curSelTeam(), 1);
         QVERIFY(!ctl<pitchingCtr>("myPitchCtr")->isVisible());
         for (const QPoint mark : {QPoint(0, 0), QPoint(2, 0)}) { // (col, row)
@@ -323,9 +332,9 @@ class TestGameDayScrn : public QObject
         QCOMPARE(m_scr->game().curSelTeam(), 0);
         QVERIFY(ctl<pitchingCtr>("myPitchCtr")->isVisible());
         QCOMPARE(ip->text(), QStringLiteral("2.0")); // six outs
-        QCOMPARE(ctl<pitchingCtr>("myPitchCtr")->dataFld(1)->text(), QStringLiteral("9"));
-        QCOMPARE(ctl<pitchingCtr>("myPitchCtr")->dataFld(2)->text(), QStringLiteral("3"));
-        ctl<pitchingCtr>("myPitchCtr")->gameBtn(0)->click();
+        QCOMPARE(statFld(ctl<pitchingCtr>("myPitchCtr"), 1)->text(), QStringLiteral("9"));
+        QCOMPARE(statFld(ctl<pitchingCtr>("myPitchCtr"), 2)->text(), QStringLiteral("3"));
+        ctl<QRadioButton>("gameBtn_0")->click();
         QTest::keyClick(ip, Qt::Key_Escape);
         QVERIFY(!ctl<pitchingCtr>("myPitchCtr")->isVisible());
 
@@ -634,7 +643,7 @@ private Q_SLOTS:
         ctl<BBPlayersLB>("Names_PosLB")->setSelectedRow(0);
         ctl<QPushButton>("pitchStatsBtn")->click();
         continueAutoFill();
-        ctl<pitchingCtr>("myPitchCtr")->autoFillButton()->click();
+        ctl<QPushButton>("autoFillBtn")->click();
         QCOMPARE(m_scr->game().curSelTeam(), 1);
         auto *instruction = ctl<QLabel>("InstrFld");
         QVERIFY(instruction->text().contains(QStringLiteral("first batter")));
@@ -685,18 +694,18 @@ private Q_SLOTS:
         QVERIFY(open->isVisible());
         m_scr->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_scr));
-        open->dataFld(1)->setFocus();
+        statFld(open, 1)->setFocus();
         if (typed == u"Win") {
-            ctl<pitchingCtr>("myPitchCtr")->gameBtn(0)->click();
+            ctl<QRadioButton>("gameBtn_0")->click();
         } else {
             for (const QChar c : typed) {
                 if (c == u'\b')
-                    QTest::keyClick(open->dataFld(1), Qt::Key_Backspace);
+                    QTest::keyClick(statFld(open, 1), Qt::Key_Backspace);
                 else
-                    QTest::keyClick(open->dataFld(1), c.toLatin1());
+                    QTest::keyClick(statFld(open, 1), c.toLatin1());
             }
         }
-        open->dataFld(0)->setFocus();
+        statFld(open, 0)->setFocus();
         const stats::Panel kind = panel == u"UDBatStatsBtn" ? stats::Panel::Batting
                                   : panel == u"fldStatsBtn" ? stats::Panel::Fielding
                                                             : stats::Panel::Pitching;
@@ -705,7 +714,7 @@ private Q_SLOTS:
             return stats::GameStatStore(*gData).stats(kind, season.schedID(), player).value_or(QString());
         };
         QCOMPARE(storedRow(), stored); // the panel still open
-        QTest::keyClick(open->dataFld(0), Qt::Key_Escape);
+        QTest::keyClick(statFld(open, 0), Qt::Key_Escape);
         QVERIFY(!open->isVisible());
         QCOMPARE(storedRow(), stored);
         if (kind == stats::Panel::Pitching)
@@ -777,15 +786,15 @@ private Q_SLOTS:
         ctl<QPushButton>("pitchStatsBtn")->click();
         auto *panel = ctl<pitchingCtr>("myPitchCtr");
         QVERIFY(!ball->isEnabled());
-        QCOMPARE(panel->pitchCtFld(0)->text(), QStringLiteral("2"));
-        QCOMPARE(panel->pitchCtFld(1)->text(), QStringLiteral("2"));
-        QTest::keyClick(panel->dataFld(0), Qt::Key_Escape);
+        QCOMPARE(ctl<QLineEdit>("pitchCtFld_0")->text(), QStringLiteral("2"));
+        QCOMPARE(ctl<QLineEdit>("pitchCtFld_1")->text(), QStringLiteral("2"));
+        QTest::keyClick(statFld(panel, 0), Qt::Key_Escape);
         QVERIFY(ball->isEnabled());
         m_codes.clear();
 
         ctl<QPushButton>("pitchStatsBtn")->click();
         continueAutoFill();
-        panel->autoFillButton()->click();
+        ctl<QPushButton>("autoFillBtn")->click();
         QVERIFY(m_scr->game().autoFillRunning());
         QCOMPARE(warnings(), 2);
         QVERIFY(!ball->isEnabled());

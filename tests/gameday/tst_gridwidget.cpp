@@ -46,7 +46,7 @@ protected:
         if (pop && event->type() == QEvent::Show) {
             ++opened;
             lastPos = pop->pos();
-            lastListsVisible = pop->batActionLB->isVisibleTo(pop);
+            lastListsVisible = testkit::child<PopoverCodeList>(pop, "batActionLB")->isVisibleTo(pop);
             lastHeight = pop->height();
             QPointer<battingPOP> guard(pop);
             Action action = actions.isEmpty() ? Action() : actions.takeFirst();
@@ -76,7 +76,10 @@ PopoverDriver::Action pickIn(const QString &list, int row, int col)
 
 PopoverDriver::Action pressButton(int index)
 {
-    return [index](battingPOP *pop) { QTest::mouseClick(pop->actionBtn[index], Qt::LeftButton); };
+    return [index](battingPOP *pop) {
+        QTest::mouseClick(testkit::child<QPushButton>(pop, qPrintable(QStringLiteral("actionBtn%1").arg(index))),
+                          Qt::LeftButton);
+    };
 }
 
 QColor paintedColour(BBScoringLB &grid, int row, int col)
@@ -254,10 +257,11 @@ private Q_SLOTS:
         // list in focus; Down, Right, Return there picks "IBB".
         PopoverDriver driver;
         driver.actions.append([](battingPOP *pop) {
-            QCOMPARE(pop->focusWidget(), static_cast<QWidget *>(pop->batActionLB));
-            QTest::keyClick(pop->batActionLB, Qt::Key_Down);
-            QTest::keyClick(pop->batActionLB, Qt::Key_Right);
-            QTest::keyClick(pop->batActionLB, Qt::Key_Return);
+            auto *actions = testkit::child<PopoverCodeList>(pop, "batActionLB");
+            QCOMPARE(pop->focusWidget(), static_cast<QWidget *>(actions));
+            QTest::keyClick(actions, Qt::Key_Down);
+            QTest::keyClick(actions, Qt::Key_Right);
+            QTest::keyClick(actions, Qt::Key_Return);
         });
         QTest::keyClick(&grid, Qt::Key_Down);
         QTest::keyClick(&grid, Qt::Key_Right);
@@ -266,8 +270,9 @@ private Q_SLOTS:
 
         // On an out only the buttons are there; Space on the first clears it.
         driver.actions.append([](battingPOP *pop) {
-            QCOMPARE(pop->focusWidget(), static_cast<QWidget *>(pop->actionBtn[0]));
-            QTest::keyClick(pop->actionBtn[0], Qt::Key_Space);
+            auto *clear = testkit::child<QPushButton>(pop, "actionBtn0");
+            QCOMPARE(pop->focusWidget(), static_cast<QWidget *>(clear));
+            QTest::keyClick(clear, Qt::Key_Space);
         });
         QTest::keyClick(&grid, Qt::Key_Down);
         QTest::keyClick(&grid, Qt::Key_Space);

@@ -22,6 +22,8 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include <array>
+
 using testkit::typeInto;
 
 class TestInventoryScrn : public QObject
@@ -62,38 +64,42 @@ private Q_SLOTS:
         QCOMPARE(testkit::child<QComboBox>(screen, "selPlayerPop")->itemText(0), QStringLiteral("Select A Player"));
         QVERIFY(!testkit::child<QPushButton>(screen, "addBtn")->isEnabled());
 
-        typeInto(screen->inputFld[0], QStringLiteral("3x+"));
-        QCOMPARE(screen->inputFld[0]->text(), QStringLiteral("4"));
+        // Quantity, item, number.
+        const std::array<QLineEdit *, 3> inputFld = {testkit::child<QLineEdit>(screen, "inputFld0"),
+                                                     testkit::child<QLineEdit>(screen, "inputFld1"),
+                                                     testkit::child<QLineEdit>(screen, "inputFld2")};
+        typeInto(inputFld[0], QStringLiteral("3x+"));
+        QCOMPARE(inputFld[0]->text(), QStringLiteral("4"));
         QCOMPARE(s.fake.beeper.beeps, 1);
-        QTest::keyClick(screen->inputFld[0], Qt::Key_Tab);
-        QVERIFY(screen->inputFld[1]->hasFocus());
-        QTest::keyClicks(screen->inputFld[1], QStringLiteral("Helmet"));
-        QTest::keyClick(screen->inputFld[1], Qt::Key_Tab);
-        QTest::keyClicks(screen->inputFld[2], QStringLiteral("H-1"));
-        QTest::keyClick(screen->inputFld[2], Qt::Key_Tab);
-        QVERIFY(screen->inputFld[0]->hasFocus());
-        QTest::keyClick(screen->inputFld[0], Qt::Key_Return);
+        QTest::keyClick(inputFld[0], Qt::Key_Tab);
+        QVERIFY(inputFld[1]->hasFocus());
+        QTest::keyClicks(inputFld[1], QStringLiteral("Helmet"));
+        QTest::keyClick(inputFld[1], Qt::Key_Tab);
+        QTest::keyClicks(inputFld[2], QStringLiteral("H-1"));
+        QTest::keyClick(inputFld[2], Qt::Key_Tab);
+        QVERIFY(inputFld[0]->hasFocus());
+        QTest::keyClick(inputFld[0], Qt::Key_Return);
         QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")), QStringList{QStringLiteral("4|Helmet|H-1")});
-        QVERIFY(screen->inputFld[1]->text().isEmpty());
+        QVERIFY(inputFld[1]->text().isEmpty());
 
         // Enter with no count adds one; the plus button adds only with a count.
-        typeInto(screen->inputFld[1], QStringLiteral("Glove"));
-        QTest::keyClick(screen->inputFld[1], Qt::Key_Return);
+        typeInto(inputFld[1], QStringLiteral("Glove"));
+        QTest::keyClick(inputFld[1], Qt::Key_Return);
         QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).last(), QStringLiteral("1|Glove|"));
         testkit::child<qlmListBox>(screen, "teamInvList")->setSelectedRow(1);
         testkit::clickHalf(testkit::child<PlusMinusContainer>(screen, "TeamInvPlusMinus"), false);
-        typeInto(screen->inputFld[1], QStringLiteral("Bat"));
+        typeInto(inputFld[1], QStringLiteral("Bat"));
         testkit::clickHalf(testkit::child<PlusMinusContainer>(screen, "TeamInvPlusMinus"), true);
         QCOMPARE(testkit::child<qlmListBox>(screen, "teamInvList")->rowCount(), 1);
-        typeInto(screen->inputFld[0], QStringLiteral("0"));
+        typeInto(inputFld[0], QStringLiteral("0"));
         testkit::clickHalf(testkit::child<PlusMinusContainer>(screen, "TeamInvPlusMinus"), true);
         QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).last(), QStringLiteral("1|Bat|"));
 
         // A selected row fills the fields; Enter saves it over.
         testkit::child<qlmListBox>(screen, "teamInvList")->setSelectedRow(0);
-        QCOMPARE(screen->inputFld[1]->text(), QStringLiteral("Helmet"));
-        QTest::keyClick(screen->inputFld[0], Qt::Key_Minus);
-        QTest::keyClick(screen->inputFld[0], Qt::Key_Enter);
+        QCOMPARE(inputFld[1]->text(), QStringLiteral("Helmet"));
+        QTest::keyClick(inputFld[0], Qt::Key_Minus);
+        QTest::keyClick(inputFld[0], Qt::Key_Enter);
         QCOMPARE(rows(testkit::child<qlmListBox>(screen, "teamInvList")).first(), QStringLiteral("3|Helmet|H-1"));
         QCOMPARE(testkit::child<qlmListBox>(screen, "teamInvList")->selectedRow(), -1);
 

@@ -48,18 +48,20 @@ private Q_SLOTS:
         auto *screen = new playingTimeScrn;
         QVERIFY(testkit::showActive(screen));
         // The home team over the whole season, from its first game day.
-        QCOMPARE(screen->teamPop->currentText(), u"Celtics"_s);
-        QCOMPARE(screen->fromFld->date(), QDate(2026, 4, 7));
-        qlmListBox *list = screen->timeBox;
+        auto *teamPop = testkit::child<QComboBox>(screen, "teamPop");
+        auto *fromFld = testkit::child<QDateEdit>(screen, "fromFld");
+        QCOMPARE(teamPop->currentText(), u"Celtics"_s);
+        QCOMPARE(fromFld->date(), QDate(2026, 4, 7));
+        auto *list = testkit::child<qlmListBox>(screen, "timeBox");
         QCOMPARE(teams(list), QSet<QString>{u"Celtics"_s});
         QCOMPARE(column(list, 2), (QStringList{"3", "3", "3", "3", "3", "3", "3", "3", "2", "1"}));
 
-        screen->fromFld->setDate(QDate(2026, 4, 8));
+        fromFld->setDate(QDate(2026, 4, 8));
         QCOMPARE(column(list, 2), (QStringList{"2", "2", "2", "2", "2", "2", "2", "2", "1", "1"}));
-        screen->toFld->setDate(QDate(2026, 4, 13));
+        testkit::child<QDateEdit>(screen, "toFld")->setDate(QDate(2026, 4, 13));
         QCOMPARE(column(list, 3).first(), u"6"_s); // one game, fielded six innings
 
-        screen->teamPop->setCurrentIndex(screen->teamPop->findText(u"All Teams"_s));
+        teamPop->setCurrentIndex(teamPop->findText(u"All Teams"_s));
         QCOMPARE(teams(list), (QSet<QString>{u"Celtics"_s, u"Patriots"_s}));
 
         const QString path = season.home.filePath(u"playing.txt"_s);

@@ -73,12 +73,19 @@ struct BattingSeason : ReportsFixture
     }
 };
 
+// The chooser's control `name` of list `which` (0 batting, 1 fielding, 2 pitching).
+template<class T>
+T *listCtl(const QWidget *intro, const char *name, int which)
+{
+    return testkit::child<T>(intro, qPrintable(QString::fromLatin1(name) + QString::number(which)));
+}
+
 // Opens the batting report with the default columns, through the chooser.
 reportScrn *openBattingReport()
 {
     auto *intro = new reportIntroScrn;
     intro->show();
-    QTest::mouseClick(intro->viewBtn[0], Qt::LeftButton);
+    QTest::mouseClick(listCtl<QPushButton>(intro, "viewBtn", 0), Qt::LeftButton);
     return shown<reportScrn>();
 }
 
@@ -113,16 +120,16 @@ private Q_SLOTS:
         ReportsFixture f;
         auto *intro = new reportIntroScrn;
         intro->show();
-        qlmListBox *list = intro->statsLB[which];
+        auto *list = listCtl<qlmListBox>(intro, "statsLB", which);
         QCOMPARE(checkedRows(list), checked);
         for (int r = 0; r < fixed.size(); ++r) {
             QCOMPARE(list->cell(r, 1), fixed.at(r));
             QCOMPARE(list->cell(r, 0), QStringLiteral("\u2714"));
         }
 
-        QTest::mouseClick(intro->checkAll[which], Qt::LeftButton);
+        QTest::mouseClick(listCtl<qlmCheckBox>(intro, "checkAll", which), Qt::LeftButton);
         QCOMPARE(checkedRows(list).size(), list->rowCount());
-        QTest::mouseClick(intro->checkAll[which], Qt::LeftButton);
+        QTest::mouseClick(listCtl<qlmCheckBox>(intro, "checkAll", which), Qt::LeftButton);
         QCOMPARE(checkedRows(list), checked);
 
         // Space flips a chosen row; a fixed row stays in the report.
@@ -134,7 +141,7 @@ private Q_SLOTS:
         QTest::keyClick(list, Qt::Key_Space);
         QVERIFY(!list->cellCheck(0, 0));
 
-        QTest::mouseClick(intro->viewBtn[which], Qt::LeftButton);
+        QTest::mouseClick(listCtl<QPushButton>(intro, "viewBtn", which), Qt::LeftButton);
         reportScrn *report = shown<reportScrn>();
         QVERIFY(report);
         QVERIFY(!intro->isVisible());
@@ -148,9 +155,10 @@ private Q_SLOTS:
         BattingSeason f;
         auto *intro = new reportIntroScrn;
         intro->show();
-        for (int r = 0; r < intro->statsLB[0]->rowCount(); ++r)
-            intro->statsLB[0]->setCellCheck(r, 0, false);
-        QTest::mouseClick(intro->viewBtn[0], Qt::LeftButton);
+        auto *batting = listCtl<qlmListBox>(intro, "statsLB", 0);
+        for (int r = 0; r < batting->rowCount(); ++r)
+            batting->setCellCheck(r, 0, false);
+        QTest::mouseClick(listCtl<QPushButton>(intro, "viewBtn", 0), Qt::LeftButton);
         reportScrn *report = shown<reportScrn>();
         QVERIFY(report);
         QCOMPARE(testkit::child<qlmListBox>(report, "reportBox")->headings(),
@@ -267,7 +275,7 @@ private Q_SLOTS:
         QVERIFY(shown<reportIntroScrn>());
         QVERIFY(!startScrn1::instance() || !startScrn1::instance()->isVisible());
 
-        QTest::mouseClick(shown<reportIntroScrn>()->viewBtn[2], Qt::LeftButton);
+        QTest::mouseClick(listCtl<QPushButton>(shown<reportIntroScrn>(), "viewBtn", 2), Qt::LeftButton);
         report = shown<reportScrn>();
         QCOMPARE(testkit::child<QLabel>(report, "titleLbl")->text(), QStringLiteral("Pitching"));
         QTest::mouseClick(testkit::child<QPushButton>(report, "closeBtn"), Qt::LeftButton);

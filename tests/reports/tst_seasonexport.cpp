@@ -254,10 +254,11 @@ private Q_SLOTS:
         // The text shown is the text saved (tests/data/exports/box-score-text.case).
         const QString base = f.home.filePath(QStringLiteral("box"));
         f.platform.files.answers.enqueue(base + QStringLiteral("-text"));
-        QTest::mouseClick(screen->textBtn, Qt::LeftButton);
-        QCOMPARE(QString::fromUtf8(readAll(base + QStringLiteral("-text.txt"))), screen->boxText->toPlainText());
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "textBtn"), Qt::LeftButton);
+        QCOMPARE(QString::fromUtf8(readAll(base + QStringLiteral("-text.txt"))),
+                 testkit::child<QPlainTextEdit>(screen, "boxText")->toPlainText());
         f.platform.files.answers.enqueue(base + QStringLiteral(".pdf"));
-        QTest::mouseClick(screen->pdfBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "pdfBtn"), Qt::LeftButton);
         QCOMPARE(fakes::pdfPageCount(base + QStringLiteral(".pdf")), 1);
         QVERIFY(fakes::pdfText(base + QStringLiteral(".pdf")).contains(QStringLiteral("Kowalski, Noah")));
         QTest::mouseClick(testkit::child<QPushButton>(screen, "printBtn"), Qt::LeftButton);

@@ -621,7 +621,9 @@ private Q_SLOTS:
             check->setFocus();
             input == u"click" ? QTest::mouseClick(check, Qt::LeftButton) : QTest::keyClick(check, Qt::Key_Space);
         } else if (auto *list = qobject_cast<qlmListBox *>(w); list && !input.isEmpty()) {
-            PlusMinusContainer *pair = list == screen->PositionLB ? screen->PlusMinusPositions : screen->plusMinusGames;
+            auto *pair = testkit::child<PlusMinusContainer>(screen, list->objectName() == u"PositionLB"
+                                                                        ? "PlusMinusPositions"
+                                                                        : "plusMinusGames");
             if (input == u"-") {
                 list->setSelectedRow(0);
                 clickHalf(pair, false);
@@ -635,20 +637,20 @@ private Q_SLOTS:
         } else if (control == u"setBULocBtn") {
             QDir().mkpath(drive);
             f.fake.files.answers.enqueue(drive);
-            QTest::mouseClick(screen->setBULocBtn, Qt::LeftButton);
-            QCOMPARE(screen->backupLocFld->text(), QDir::toNativeSeparators(drive));
+            QTest::mouseClick(testkit::child<QPushButton>(screen, "setBULocBtn"), Qt::LeftButton);
+            QCOMPARE(testkit::child<QLabel>(screen, "backupLocFld")->text(), QDir::toNativeSeparators(drive));
             QVERIFY(QDir(drive).exists(QStringLiteral("TLYN2_backup")));
         } else if (control == u"setUDVBtn") {
-            QTest::mouseClick(screen->setUDVBtn, Qt::LeftButton);
+            QTest::mouseClick(testkit::child<QPushButton>(screen, "setUDVBtn"), Qt::LeftButton);
             auto *sheet = screen->findChild<UDVStatsScrn *>();
             QVERIFY(sheet && sheet->windowModality() == Qt::WindowModal);
-            sheet->batAbbrev.at(0)->setText(input.section(u'\t', 0, 0));
-            sheet->fldDesc.at(2)->setText(input.section(u'\t', 1));
+            testkit::child<QLineEdit>(sheet, "batAbbrev0")->setText(input.section(u'\t', 0, 0));
+            testkit::child<QLineEdit>(sheet, "fldDesc2")->setText(input.section(u'\t', 1));
             QTest::mouseClick(testkit::child<QPushButton>(sheet, "saveBtn"), Qt::LeftButton);
         }
         if (control == u"InnPerGamePop")
             QCOMPARE(screen->SelectedInnings, 7);
-        QTest::mouseClick(screen->prefsavebutton, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "prefsavebutton"), Qt::LeftButton);
         QTRY_VERIFY(!screen);
         QVERIFY(startScrn1::instance() && startScrn1::instance()->isVisible());
 
@@ -680,12 +682,13 @@ private Q_SLOTS:
                  QStringList{QStringLiteral("The positions' abbreviations and names don't match.")});
         QVERIFY(f.fake.messages.shown.first().explanation.startsWith(QStringLiteral(
             "Lines 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17 have an abbreviation but no name.")));
-        QCOMPARE(screen->PositionLB->rowCount(), 17);
-        QCOMPARE(screen->PositionLB->rowCells(2), (QStringList{QStringLiteral("C"), QString()}));
+        QCOMPARE(testkit::child<qlmListBox>(screen, "PositionLB")->rowCount(), 17);
+        QCOMPARE(testkit::child<qlmListBox>(screen, "PositionLB")->rowCells(2),
+                 (QStringList{QStringLiteral("C"), QString()}));
         f.fake.messages.clear();
 
-        screen->gameTypeLB->setSelectedRow(0);
-        clickHalf(screen->plusMinusGames, false);
+        testkit::child<qlmListBox>(screen, "gameTypeLB")->setSelectedRow(0);
+        clickHalf(testkit::child<PlusMinusContainer>(screen, "plusMinusGames"), false);
         f.fake.messages.answers.enqueue(std::uint8_t(answer));
         screen->close();
         QCOMPARE(f.fake.messages.texts(),
@@ -725,9 +728,9 @@ private Q_SLOTS:
         f.start->hide();
         QPointer<prefScrn> screen = qobject_cast<prefScrn *>(screens::create(ScreenId::prefScrn, fromStart));
         testkit::showActive(screen);
-        choose(screen->InnPerGamePop, QStringLiteral("5 Innings"));
-        choose(screen->homeTeamPop, QStringLiteral("Central Cubs"));
-        choose(screen->pitchRulesPop, QStringLiteral("Youth league regular season"));
+        choose(testkit::child<QComboBox>(screen, "InnPerGamePop"), QStringLiteral("5 Innings"));
+        choose(testkit::child<QComboBox>(screen, "homeTeamPop"), QStringLiteral("Central Cubs"));
+        choose(testkit::child<QComboBox>(screen, "pitchRulesPop"), QStringLiteral("Youth league regular season"));
         QWidget *at = screen->findChild<QWidget *>(focus);
         at->setFocus();
         QTest::keyClick(at, Qt::Key_Return);
@@ -770,12 +773,12 @@ private Q_SLOTS:
 
         Session f;
         QPointer<prefScrn> screen = f.openPrefs();
-        QTest::mouseClick(screen->setUDVBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "setUDVBtn"), Qt::LeftButton);
         QPointer<UDVStatsScrn> sheet = screen->findChild<UDVStatsScrn *>();
         QVERIFY(sheet);
         for (int i = 0; i < 5; ++i) {
-            sheet->batAbbrev.at(i)->setText(abbrevs.at(i));
-            sheet->batDesc.at(i)->setText(description);
+            testkit::child<QLineEdit>(sheet, qPrintable(QStringLiteral("batAbbrev%1").arg(i)))->setText(abbrevs.at(i));
+            testkit::child<QLineEdit>(sheet, qPrintable(QStringLiteral("batDesc%1").arg(i)))->setText(description);
         }
         QTest::mouseClick(testkit::child<QPushButton>(sheet, "saveBtn"), Qt::LeftButton);
         QTRY_VERIFY(!sheet);
@@ -811,12 +814,12 @@ private Q_SLOTS:
                                               "hit balls\tTOH\tTwo-out hits\tQAB\tQuality at bats");
         gPrefs->prUDB = stored;
         QPointer<prefScrn> screen = f.openPrefs();
-        QTest::mouseClick(screen->setUDVBtn, Qt::LeftButton);
+        QTest::mouseClick(testkit::child<QPushButton>(screen, "setUDVBtn"), Qt::LeftButton);
         QPointer<UDVStatsScrn> sheet = screen->findChild<UDVStatsScrn *>();
         QVERIFY(sheet);
         const QString typed(1000, u'a');
         for (int i = 0; i < 3; ++i)
-            sheet->batAbbrev.at(i)->setText(typed);
+            testkit::child<QLineEdit>(sheet, qPrintable(QStringLiteral("batAbbrev%1").arg(i)))->setText(typed);
         int pressedOnce = 0;
         if (!pressed.isEmpty()) {
             f.fake.messages.whileShown = [&] {
@@ -870,14 +873,14 @@ private Q_SLOTS:
         }
         Session f;
         QPointer<prefScrn> screen = f.openPrefs();
-        QCOMPARE(screen->setEmailBtn->isEnabled(), registered);
+        QCOMPARE(testkit::child<QPushButton>(screen, "setEmailBtn")->isEnabled(), registered);
         if (registered) {
-            QTest::mouseClick(screen->setEmailBtn, Qt::LeftButton);
+            QTest::mouseClick(testkit::child<QPushButton>(screen, "setEmailBtn"), Qt::LeftButton);
             QWidget *mail = Session::window<QWidget>(QStringLiteral("emailInfoScrn"));
             QVERIFY(mail);
             gPrefs->prEmailUser = QStringLiteral("coach@example.org");
             mail->close();
-            QTRY_COMPARE(screen->emailAddrFld->text(), QStringLiteral("coach@example.org"));
+            QTRY_COMPARE(testkit::child<QLabel>(screen, "emailAddrFld")->text(), QStringLiteral("coach@example.org"));
             screens::unregisterScreen(ScreenId::emailInfoScrn);
         }
     }

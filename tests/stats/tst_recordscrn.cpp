@@ -46,10 +46,8 @@ void playTeam(gameday::GameDay &game, const QStringList &positions, const QList<
 void answerChecks(const QString &answer, QString &marks)
 {
     testkit::whenShown<finalCheckScrn>([answer, &marks](finalCheckScrn *check) {
-        for (const CheckMark *mark : check->checkCnv)
-            marks += mark->passed() ? u'1' : u'0';
-        for (const CheckMark *mark : check->proofCnv)
-            marks += mark->passed() ? u'1' : u'0';
+        for (const char *name : {"checkCnv0", "checkCnv1", "checkCnv2", "checkCnv3", "proofCnv0", "proofCnv1"})
+            marks += testkit::child<CheckMark>(check, name)->passed() ? u'1' : u'0';
         if (answer == u"escape")
             return QTest::keyClick(check, Qt::Key_Escape);
         auto *target = check->findChild<QPushButton *>(answer);
@@ -140,8 +138,9 @@ private Q_SLOTS:
         // team saves and closes it, else recording does.
         testkit::child<BBPlayersLB>(scr, "Names_PosLB")->setSelectedRow(0);
         testkit::child<QPushButton>(scr, "fldStatsBtn")->click();
-        testkit::child<FieldingCtr>(scr, "myFldCtr")->dataFld(0)->selectAll();
-        QTest::keyClicks(testkit::child<FieldingCtr>(scr, "myFldCtr")->dataFld(0), "9");
+        auto *po = testkit::child<QLineEdit>(testkit::child<FieldingCtr>(scr, "myFldCtr"), "dataFld_0");
+        po->selectAll();
+        QTest::keyClicks(po, "9");
         if (view == 1)
             testkit::child<QRadioButton>(scr, "TeamBtn_1")->click();
         QVERIFY(testkit::child<QPushButton>(scr, "finalizeBtn")->isVisible());

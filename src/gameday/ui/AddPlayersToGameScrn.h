@@ -19,8 +19,7 @@ public:
     static QList<gameday::BenchLine> getNewPlayers(const QList<gameday::BenchLine> &players, QWidget *parent = nullptr);
     QList<gameday::BenchLine> mySelections() const;
 
-    qlmListBox *PlayerList = nullptr;
-
 private:
+    qlmListBox *PlayerList = nullptr;
     QList<gameday::BenchLine> m_players;
 };

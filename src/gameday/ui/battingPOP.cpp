@@ -87,12 +87,14 @@ battingPOP::battingPOP(QWidget *parent) : QWidget(parent)
     setAttribute(Qt::WA_NoMouseReplay);
 
     batActionLabel = new QLabel(tr("At Bat Action"), this);
+    batActionLabel->setObjectName(QStringLiteral("batActionLabel"));
     batActionLB = new PopoverCodeList(kActionRows, 4, actionCells(), this);
     batActionLB->setObjectName(QStringLiteral("batActionLB"));
     batActionLB->setAccessibleName(batActionLabel->text());
     batActionLabel->setBuddy(batActionLB);
 
     resultLabel = new QLabel(tr("On Base Result"), this);
+    resultLabel->setObjectName(QStringLiteral("resultLabel"));
     resultLB = new PopoverCodeList(2, 3, resultCells(), this);
     resultLB->setObjectName(QStringLiteral("resultLB"));
     resultLB->setAccessibleName(resultLabel->text());

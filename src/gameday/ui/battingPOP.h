@@ -28,12 +28,6 @@ public:
     QString clickedTxt;
     int displayTop = 0;
 
-    QLabel *batActionLabel = nullptr;
-    PopoverCodeList *batActionLB = nullptr;
-    QLabel *resultLabel = nullptr;
-    PopoverCodeList *resultLB = nullptr;
-    std::array<QPushButton *, 6> actionBtn{};
-
 Q_SIGNALS:
     // Shown and laid out; getClickedTxt is waiting for a choice.
     void opened();
@@ -47,5 +41,10 @@ private:
     void layOut(bool showAll);
     void choose(const QString &text);
 
+    QLabel *batActionLabel = nullptr;
+    PopoverCodeList *batActionLB = nullptr;
+    QLabel *resultLabel = nullptr;
+    PopoverCodeList *resultLB = nullptr;
+    std::array<QPushButton *, 6> actionBtn{};
     QEventLoop *m_loop = nullptr;
 };

@@ -28,7 +28,11 @@ class defenseDlog : public QDialog
 public:
     defenseDlog(myDB &db, gameday::GameDay &game, QWidget *parent = nullptr);
 
-    gameday::DefenseBook &book() { return m_book; }
+Q_SIGNALS:
+    // A move or a fill reached the file.
+    void defenseChanged();
+
+private:
     // Reads the table again (after a change of the lineup or the team shown).
     void refresh();
     // Chooses a cell: position row and inning (the table's column; 0 is
@@ -40,11 +44,6 @@ public:
     // fielding IP of this game becomes his innings in the field so far.
     void fillFieldingInnings();
 
-Q_SIGNALS:
-    // A move or a fill reached the file.
-    void defenseChanged();
-
-public:
     QLabel *teamLbl = nullptr;
     QTreeWidget *defenseTable = nullptr;
     QComboBox *playerPop = nullptr; // data: playerID
@@ -53,8 +52,6 @@ public:
     QPushButton *moveBtn = nullptr;
     QPushButton *fillIPBtn = nullptr;
     QPushButton *closeBtn = nullptr;
-
-private:
     myDB &m_db;
     gameday::GameDay &m_game;
     gameday::DefenseBook m_book;

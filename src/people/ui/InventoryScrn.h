@@ -35,8 +35,6 @@ public:
     void importInvItems();
     void exportInvItems();
 
-    std::array<QLineEdit *, 3> inputFld{};
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -58,6 +56,7 @@ private:
 
     people::InventoryBook m_book;
     bool prohibitChange = false;
+    std::array<QLineEdit *, 3> inputFld{};
     QLabel *titleLbl = nullptr;
     QComboBox *selTeamPop = nullptr;
     QComboBox *selPlayerPop = nullptr;

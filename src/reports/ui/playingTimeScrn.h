@@ -27,6 +27,7 @@ public:
     void printReport();
     void exportReport();
 
+private:
     QLabel *titleLbl = nullptr;
     QComboBox *teamPop = nullptr; // "All Teams", then each team; data: teamID
     QDateEdit *fromFld = nullptr;
@@ -34,6 +35,5 @@ public:
     qlmListBox *timeBox = nullptr;
     QPushButton *closeBtn = nullptr;
 
-private:
     QString reportTitle() const;
 };

@@ -29,6 +29,12 @@ public:
     // File > Export Data: the whole season's statistics as one CSV file.
     void exportSeason();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void statsLB_Open(int which);
+
     std::array<QLabel *, 3> headerLbl{};
     std::array<qlmListBox *, 3> statsLB{};
     std::array<qlmCheckBox *, 3> checkAll{};
@@ -36,10 +42,4 @@ public:
     QPushButton *cancelBtn = nullptr;
     QPushButton *pitchAvailBtn = nullptr; // opens "Pitcher Availability"
     QPushButton *playTimeBtn = nullptr;   // opens "Playing Time"
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    void statsLB_Open(int which);
 };

@@ -23,11 +23,10 @@ public:
     // shortened to fit (the coach is told).
     bool saveValues();
 
+private:
     QList<QLineEdit *> batAbbrev, batDesc;
     QList<QLineEdit *> fldAbbrev, fldDesc;
     QList<QLineEdit *> pitchAbbrev, pitchDesc;
-
-private:
     bool m_saving = false;
     QPushButton *saveBtn = nullptr;
 };

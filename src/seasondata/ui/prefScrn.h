@@ -41,6 +41,18 @@ public:
     int SelectedInnings = 0;
     QStringList teamIDNums;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    // Edits to the lists are asked about before the window goes.
+    bool mayClose() override;
+
+private:
+    bool listsChanged() const;
+    void buildControls();
+    void showBackupLocation();
+    void openEmailInfo();
+    void openUDVStats();
+
     qlmCheckBox *LogoOnStartCheck = nullptr;
     qlmCheckBox *LogoOnReportsCheck = nullptr;
     QComboBox *InnPerGamePop = nullptr;
@@ -62,16 +74,4 @@ public:
     QLabel *curSeasonLbl = nullptr;
     QPushButton *showDataBtn = nullptr;
     QPushButton *prefsavebutton = nullptr;
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-    // Edits to the lists are asked about before the window goes.
-    bool mayClose() override;
-
-private:
-    bool listsChanged() const;
-    void buildControls();
-    void showBackupLocation();
-    void openEmailInfo();
-    void openUDVStats();
 };

@@ -32,9 +32,6 @@ public:
     bool dataDirty() const { return m_dirty; }
     QString whichPlayer() const { return m_player; }
 
-    int fieldCount() const { return int(m_fields.size()); }
-    QLineEdit *dataFld(int i) const { return m_fields.value(i); }
-    QLabel *fieldLabel(int i) const { return m_labels.value(i); }
     // The close path of the click and of Escape: save, hide, wasClosed.
     void closePanel();
 
@@ -44,6 +41,9 @@ Q_SIGNALS:
     void saved();
 
 protected:
+    int fieldCount() const { return int(m_fields.size()); }
+    QLineEdit *dataFld(int i) const { return m_fields.value(i); }
+    QLabel *fieldLabel(int i) const { return m_labels.value(i); }
     // Reads the row into the fields (and any controls of its own); false
     // when the player has none yet.
     virtual bool loadRow();

@@ -20,6 +20,7 @@ public:
     void saveText();
     void exportRows();
 
+private:
     QPlainTextEdit *boxText = nullptr;
     QPushButton *printBtn = nullptr;
     QPushButton *pdfBtn = nullptr;
@@ -27,7 +28,6 @@ public:
     QPushButton *rowsBtn = nullptr;
     QPushButton *closeBtn = nullptr;
 
-private:
     // The chosen path with `suffix` added when it has none; empty on cancel.
     QString askPath(const QString &title, const QString &suffix, const QString &filter) const;
     bool writeFile(const QString &path, const QByteArray &bytes);

@@ -50,6 +50,10 @@ public:
     bool result = false;
     std::array<bool, 4> passed{};
 
+    // The texts of the four checks, in order.
+    static const std::array<QString, 4> &checkTexts();
+
+private:
     QLabel *titleLabel = nullptr;
     QLabel *scoreLabel = nullptr;
     std::array<QLabel *, 4> checkLabel{};
@@ -59,7 +63,4 @@ public:
     QLabel *warnLabel = nullptr;
     QPushButton *cancelBtn = nullptr;
     QPushButton *recordBtn = nullptr;
-
-    // The texts of the four checks, in order.
-    static const std::array<QString, 4> &checkTexts();
 };

@@ -24,11 +24,6 @@ public:
     // The eight figures of auto-fill; marks the panel changed and shows it.
     void setAutoData(const gameday::AutoFillData &values);
 
-    QRadioButton *gameBtn(int i) const { return m_gameBtn.at(size_t(i)); }
-    QCheckBox *achieveBtn(int i) const { return m_achieveBtn.at(size_t(i)); }
-    QLineEdit *pitchCtFld(int i) const { return m_pitchCt.at(size_t(i)); }
-    QPushButton *autoFillButton() const { return m_autoFillBtn; }
-
 Q_SIGNALS:
     void autoFillCalled();
 

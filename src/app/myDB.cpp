@@ -49,12 +49,12 @@ QVariant Record::value(const QString &column) const
 
 myDB::myDB(const myPrefs &prefs) : myDB(prefs.strdDataLoc, prefs.prSeason) {}
 
-myDB::myDB(const QString &dataFolder, const QString &season)
+myDB::myDB(const QString &dataFolder, const QString &season, bool checked) : m_checked(checked)
 {
     try {
         check4Database(dataFolder, season);
     } catch (const std::exception &) {
-        tlynData.reset();
+        closeConnection();
         platform::messages().msgBox(QStringLiteral("There was an error connecting to the Database."));
     }
 }
@@ -87,7 +87,7 @@ void myDB::notOpened(const QString &message, const QString &explanation)
     // A season that can't be written is never typed into: the program goes
     // on without a connection, the start screen names the file, and every
     // write says that nothing was saved.
-    tlynData.reset();
+    closeConnection();
     platform::messages().showMsgDlog(message, explanation, QStringLiteral("OK"), {});
 }
 
@@ -116,7 +116,7 @@ bool myDB::verifyIntegrity()
                                    "has finished, and try again."),
                     QStringLiteral("Try Again"), {}) == platform::MsgAction)
                 continue;
-            tlynData.reset();
+            closeConnection();
             return false;
         }
         notOpened(QStringLiteral("The season file \"") + QDir::toNativeSeparators(m_filePath) +
@@ -130,9 +130,10 @@ bool myDB::verifyIntegrity()
 bool myDB::connectToDB(const QString &file)
 {
     try {
+        closeConnection();
         tlynData = std::make_unique<SQLite::Database>(utf8(file), SQLite::OPEN_READWRITE);
     } catch (const SQLite::Exception &e) {
-        tlynData.reset();
+        closeConnection();
         rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
         DisplayDatabaseError();
         return false;
@@ -140,7 +141,7 @@ bool myDB::connectToDB(const QString &file)
     // Set before the first read: a file that another program (a sync tool,
     // a backup) holds for a moment is waited for, not taken for damaged.
     tlynData->setBusyTimeout(kBusyTimeoutMs);
-    if (!verifyIntegrity())
+    if (m_checked && !verifyIntegrity())
         return false;
     // SQLite falls back to reading only when the file can't be opened for
     // writing; the coach hears it now, not at the first save.
@@ -182,7 +183,7 @@ bool myDB::createSchema(const QString &file)
             tlynData->exec(utf8(statement));
         transaction.commit();
     } catch (const SQLite::Exception &) {
-        tlynData.reset();
+        closeConnection();
         creationFailed(file);
         return false;
     }
@@ -192,11 +193,12 @@ bool myDB::createSchema(const QString &file)
 bool myDB::createDBFile(const QString &file)
 {
     try {
+        closeConnection();
         tlynData = std::make_unique<SQLite::Database>(utf8(file), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         tlynData->setBusyTimeout(kBusyTimeoutMs);
         configureConnection();
     } catch (const SQLite::Exception &) {
-        tlynData.reset();
+        closeConnection();
         QFile::remove(file);
         creationFailed(file);
         return false;
@@ -273,6 +275,7 @@ void myDB::bindAll(SQLite::Statement &statement, const QVariantList &params)
 
 void myDB::fail(const SQLite::Exception &e)
 {
+    ++m_failures;
     rememberError(e.getErrorCode(), QString::fromUtf8(e.what()));
     if (m_transactionDepth > 0)
         throw;
@@ -303,6 +306,28 @@ bool myDB::exec(const QString &sql, const QVariantList &params)
         fail(e);
         return false;
     }
+}
+
+void myDB::closeConnection()
+{
+    // A statement still prepared keeps the connection from closing.
+    m_prepared.clear();
+    tlynData.reset();
+}
+
+SQLite::Statement &myDB::prepared(const std::string &sql)
+{
+    if (!tlynData)
+        throw SQLite::Exception("No season is open.", SQLITE_MISUSE);
+    std::unique_ptr<SQLite::Statement> &statement = m_prepared[sql];
+    if (!statement) {
+        statement = std::make_unique<SQLite::Statement>(*tlynData, sql);
+    } else {
+        // An error of the last run was reported then.
+        statement->tryReset();
+        statement->clearBindings();
+    }
+    return *statement;
 }
 
 QList<Record> myDB::select(const QString &sql, const QVariantList &params)

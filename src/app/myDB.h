@@ -6,7 +6,9 @@
 #include <QVariant>
 
 #include <functional>
+#include <map>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace SQLite {
@@ -56,7 +58,10 @@ public:
     // Opens (or creates, with the complete schema) the season of
     // prefs.prSeason in prefs.strdDataLoc.
     explicit myDB(const myPrefs &prefs);
-    myDB(const QString &dataFolder, const QString &season);
+    // `checked` false leaves out the check of every page at open (PRAGMA
+    // quick_check), for a command that only reads: a damaged page then fails
+    // the read that meets it, and failures() says so.
+    myDB(const QString &dataFolder, const QString &season, bool checked = true);
     ~myDB();
     myDB(const myDB &) = delete;
     myDB &operator=(const myDB &) = delete;
@@ -71,6 +76,8 @@ public:
 
     bool DisplayDatabaseError();
     int lastErrorCode() const { return m_lastErrorCode; }
+    // The statements that failed since the season was opened.
+    int failures() const { return m_failures; }
     QString lastErrorMessage() const { return m_lastErrorMessage; }
 
     QString getTeamNameFromID(const QString &id, bool full);
@@ -103,6 +110,13 @@ public:
     // Binds `params` (by position) to a prepared statement.
     static void bindAll(SQLite::Statement &statement, const QVariantList &params);
 
+    // A statement of the program's own SQL run often (recording a game),
+    // prepared once for this connection and kept until it closes: it comes
+    // back reset, its bindings cleared. The caller steps it to the end or
+    // resets it, so it holds no read lock between calls. Throws
+    // SQLite::Exception, also without a connection.
+    SQLite::Statement &prepared(const std::string &sql);
+
 private:
     void check4Database(const QString &dataFolder, const QString &season);
     bool connectToDB(const QString &file);
@@ -112,6 +126,7 @@ private:
     static void creationFailed(const QString &file);
     void notOpened(const QString &message, const QString &explanation);
     void configureConnection();
+    void closeConnection();
     bool verifyIntegrity();
     void rememberError(int code, const QString &message);
     void clearError();
@@ -124,4 +139,8 @@ private:
     int m_lastErrorCode = 0;
     QString m_lastErrorMessage;
     int m_transactionDepth = 0;
+    bool m_checked = true;
+    int m_failures = 0;
+    // Declared after the connection, so they are finalized before it closes.
+    std::map<std::string, std::unique_ptr<SQLite::Statement>> m_prepared;
 };

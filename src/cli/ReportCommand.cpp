@@ -237,7 +237,11 @@ int ReportCommand::execute(const QCommandLineParser &parser, QTextStream &out, Q
     if (!readRange(parser, err, range) || !checkDateOptions(parser, which == kAvailability, err))
         return Usage;
     SeasonAccess season(parser, err);
-    myDB *db = season.open();
+    // The season reports read a few tables once: a damaged page fails its
+    // read, and the report is then not written. The others are checked
+    // whole at open.
+    const bool seasonReport = which != kStandings && which != kPlayingTime && which != kAvailability;
+    myDB *db = season.open(!seasonReport);
     if (!db)
         return Failed;
 
@@ -317,6 +321,8 @@ int ReportCommand::execute(const QCommandLineParser &parser, QTextStream &out, Q
     filter.selLeague = parser.value(QStringLiteral("league"));
     filter.selDivision = parser.value(QStringLiteral("division"));
     filter.selTeam = team.value_or(-1);
+    if (db->failures() > 0)
+        return Failed; // each failed read has gone to standard error
     if (parser.isSet(QStringLiteral("more")))
         writeTable(out, format, report.moreHeaders(), report.moreRows(filter));
     else

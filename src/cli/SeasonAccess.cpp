@@ -69,7 +69,7 @@ QStringList SeasonAccess::seasons() const
     return names;
 }
 
-myDB *SeasonAccess::open()
+myDB *SeasonAccess::open(bool checked)
 {
     if (m_db)
         return m_db.get();
@@ -85,7 +85,7 @@ myDB *SeasonAccess::open()
         m_err << "There is no season \"" << m_season << "\" in " << QDir::toNativeSeparators(m_folder) << Qt::endl;
         return nullptr;
     }
-    m_db = std::make_unique<myDB>(m_folder, m_season);
+    m_db = std::make_unique<myDB>(m_folder, m_season, checked);
     if (!m_db->isConnected()) {
         m_db.reset();
         return nullptr; // the season's own message has gone to standard error

@@ -32,7 +32,9 @@ public:
     static QString seasonFile(const QString &folder, const QString &season);
 
     // Opens the season; null (and a line on `err`) when there is none to open.
-    myDB *open();
+    // `checked` false, for a report that only reads, leaves out the check of
+    // every page at open (see myDB).
+    myDB *open(bool checked = true);
 
     // For a command that writes: takes the data folder's lock as the program
     // does. False, with the reason on `err`, while the program holds it.

@@ -229,8 +229,18 @@ constexpr int kFigureCount = int(std::tuple_size_v<decltype(Reporter::mData)>);
 // A figure as plain number text: stored counts are whole numbers.
 QString plainNumber(double value)
 {
+    // Most counts are small: their texts are made once and shared, not
+    // made again for every cell of a long report.
+    static const QStringList small = [] {
+        QStringList texts;
+        for (int n = 0; n < 1000; ++n)
+            texts.append(QString::number(n));
+        return texts;
+    }();
     const auto whole = static_cast<qint64>(value);
-    return double(whole) == value ? QString::number(whole) : QString::number(value, 'g', 15);
+    if (double(whole) != value)
+        return QString::number(value, 'g', 15);
+    return whole >= 0 && whole < small.size() ? small.at(whole) : QString::number(whole);
 }
 
 template<size_t N>

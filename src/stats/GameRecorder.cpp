@@ -11,6 +11,7 @@
 #include "stats/SeasonFold.h"
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 
 #include <stdexcept>
 
@@ -63,36 +64,38 @@ int GameRecorder::scoreboardRuns(const gameday::TeamStrings &team)
 
 GamePanels GameRecorder::loadPanels(const QString &schedID)
 {
-    // One query per table for the whole game. A player's first row for the
-    // game is his; the panels never write a second one.
+    // One query per table for the whole game, read by column position. A
+    // player's first row for the game is his; the panels never write a
+    // second one.
     GamePanels panels;
-    for (const Record &r :
-         m_db.select(QStringLiteral("SELECT playerID, stats FROM GamesIndivHitting WHERE gameID = ? ORDER BY recID"),
-                     {schedID})) {
-        if (!panels.hitting.contains(r.text(QStringLiteral("playerID"))))
-            panels.hitting.insert(r.text(QStringLiteral("playerID")), r.text(QStringLiteral("stats")));
-    }
-    for (const Record &r :
-         m_db.select(QStringLiteral("SELECT playerID, stats FROM GamesIndivFielding WHERE gameID = ? ORDER BY recID"),
-                     {schedID})) {
-        if (!panels.fielding.contains(r.text(QStringLiteral("playerID"))))
-            panels.fielding.insert(r.text(QStringLiteral("playerID")), r.text(QStringLiteral("stats")));
-    }
-    for (const Record &r : m_db.select(QStringLiteral("SELECT playerID, gameResult, start, shutout, compGame, "
-                                                      "totBalls, totKs, stats FROM GamesIndivPitching "
-                                                      "WHERE gameID = ? ORDER BY recID"),
-                                       {schedID})) {
-        const QString player = r.text(QStringLiteral("playerID"));
+    const std::string game = schedID.toStdString();
+    const auto text = [](const SQLite::Column &c) { return QString::fromUtf8(c.getText(), c.getBytes()); };
+    const auto readStats = [&](const char *sql, QHash<QString, QString> &out) {
+        SQLite::Statement &query = m_db.prepared(sql);
+        query.bind(1, game);
+        while (query.executeStep()) {
+            const QString player = text(query.getColumn(0));
+            if (!out.contains(player))
+                out.insert(player, text(query.getColumn(1)));
+        }
+    };
+    readStats("SELECT playerID, stats FROM GamesIndivHitting WHERE gameID = ? ORDER BY recID", panels.hitting);
+    readStats("SELECT playerID, stats FROM GamesIndivFielding WHERE gameID = ? ORDER BY recID", panels.fielding);
+    SQLite::Statement &query = m_db.prepared("SELECT playerID, gameResult, start, shutout, compGame, totBalls, "
+                                             "totKs, stats FROM GamesIndivPitching WHERE gameID = ? ORDER BY recID");
+    query.bind(1, game);
+    while (query.executeStep()) {
+        const QString player = text(query.getColumn(0));
         if (panels.pitching.contains(player))
             continue;
         PitchingLine row;
-        row.gameResult = int(r.integer(QStringLiteral("gameResult")));
-        row.start = r.integer(QStringLiteral("start")) != 0;
-        row.shutout = r.integer(QStringLiteral("shutout")) != 0;
-        row.compGame = r.integer(QStringLiteral("compGame")) != 0;
-        row.totBalls = int(r.integer(QStringLiteral("totBalls")));
-        row.totKs = int(r.integer(QStringLiteral("totKs")));
-        row.stats = r.text(QStringLiteral("stats"));
+        row.gameResult = query.getColumn(1).getInt();
+        row.start = query.getColumn(2).getInt64() != 0;
+        row.shutout = query.getColumn(3).getInt64() != 0;
+        row.compGame = query.getColumn(4).getInt64() != 0;
+        row.totBalls = query.getColumn(5).getInt();
+        row.totKs = query.getColumn(6).getInt();
+        row.stats = text(query.getColumn(7));
         panels.pitching.insert(player, row);
     }
     return panels;
@@ -157,7 +160,8 @@ GameRecorder::Result GameRecorder::record(const QString &schedID, int runsA, int
         showMissing();
         return Result::NoGame;
     }
-    return record(*game, runsA, runsB);
+    // Just read: its flag is the stored one.
+    return recordUnlessRecorded(*game, game->recorded, runsA, runsB);
 }
 
 GameRecorder::Result GameRecorder::record(const gameday::GameRecord &game, int runsA, int runsB)
@@ -170,7 +174,13 @@ GameRecorder::Result GameRecorder::record(const gameday::GameRecord &game, int r
         showMissing();
         return Result::NoGame;
     }
-    if (*recorded)
+    return recordUnlessRecorded(game, *recorded, runsA, runsB);
+}
+
+GameRecorder::Result GameRecorder::recordUnlessRecorded(const gameday::GameRecord &game, bool recorded, int runsA,
+                                                        int runsB)
+{
+    if (recorded)
         return Result::AlreadyRecorded;
     Result result = Result::Failed;
     try {
@@ -234,7 +244,7 @@ GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game
         refused = false;
         return m_db.runInTransaction([&] {
             SQLite::Database &db = *m_db.tlynData;
-            SeasonFold fold(db, playerIDs, {idValue(game.teamIDs[0]), idValue(game.teamIDs[1])});
+            SeasonFold fold(m_db, additions, {idValue(game.teamIDs[0]), idValue(game.teamIDs[1])});
             for (int t = 0; t < 2; ++t) {
                 const qint64 teamID = idValue(game.teamIDs[t]);
                 for (const PlayerAdditions &p : additions[t].players) {
@@ -250,7 +260,7 @@ GameRecorder::Result GameRecorder::recordChecked(const gameday::GameRecord &game
                 }
             }
             fold.addResult(outcome);
-            fold.write(db);
+            fold.write(m_db);
             QHash<qint64, qint64> flies;
             for (int t = 0; t < 2; ++t) {
                 for (const PlayerAdditions &p : additions[t].players)
@@ -309,7 +319,7 @@ GameRecorder::Correction GameRecorder::correct(const QString &schedID)
     bool mismatch = false;
     const bool written = m_db.runInTransaction([&] {
         SQLite::Database &db = *m_db.tlynData;
-        SeasonFold fold(db, playerIDs, {idValue(game->teamIDs[0]), idValue(game->teamIDs[1])});
+        SeasonFold fold(m_db, additions, {idValue(game->teamIDs[0]), idValue(game->teamIDs[1])});
         for (const TeamAdditions &team : additions) {
             for (const PlayerAdditions &p : team.players) {
                 if (!fold.takeBack(p, gameID)) {
@@ -322,7 +332,7 @@ GameRecorder::Correction GameRecorder::correct(const QString &schedID)
             mismatch = true;
             return;
         }
-        fold.write(db);
+        fold.write(m_db);
         QHash<qint64, qint64> flies;
         for (const TeamAdditions &team : additions) {
             for (const PlayerAdditions &p : team.players)

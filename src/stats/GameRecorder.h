@@ -88,6 +88,7 @@ public:
                             std::array<TeamAdditions, 2> &additions, QList<qint64> &playerIDs);
 
 private:
+    Result recordUnlessRecorded(const gameday::GameRecord &game, bool recorded, int runsA, int runsB);
     Result recordChecked(const gameday::GameRecord &game, int runsA, int runsB);
 
     myDB &m_db;

@@ -1,5 +1,6 @@
 #include "stats/SeasonFold.h"
 
+#include "app/myDB.h"
 #include "stats/GameResultClass.h"
 
 #include <SQLiteCpp/Database.h>
@@ -36,12 +37,12 @@ std::string selectRows(const char *table, const std::array<const char *, N> &col
 // Reads the first row of each player (a player is looked up by his ID
 // alone, so an older file's second row for him is left as it is).
 template<std::size_t N>
-void readRows(SQLite::Database &db, const char *table, const std::array<const char *, N> &columns,
-              const QList<qint64> &ids, QHash<qint64, SeasonRow<N>> &rows)
+void readRows(myDB &db, const char *table, const std::array<const char *, N> &columns, const QList<qint64> &ids,
+              QHash<qint64, SeasonRow<N>> &rows)
 {
     if (ids.isEmpty())
         return;
-    SQLite::Statement query(db, selectRows(table, columns, "playerID", int(ids.size())));
+    SQLite::Statement &query = db.prepared(selectRows(table, columns, "playerID", int(ids.size())));
     for (int i = 0; i < ids.size(); ++i)
         query.bind(i + 1, static_cast<int64_t>(ids.at(i)));
     while (query.executeStep()) {
@@ -79,15 +80,15 @@ std::string updateSql(const char *table, const std::array<const char *, N> &colu
     return sql + " WHERE recID = ?";
 }
 
-// Each changed row is one statement; the two statements of a table are
-// prepared once for the whole game.
+// Each changed row is one statement; a table's statements are prepared
+// once for the connection.
 template<std::size_t N>
-void writeRows(SQLite::Database &db, const char *table, const std::array<const char *, N> &columns,
-               const QList<qint64> &order, const QHash<qint64, SeasonRow<N>> &rows)
+void writeRows(myDB &db, const char *table, const std::array<const char *, N> &columns, const QList<qint64> &order,
+               const QHash<qint64, SeasonRow<N>> &rows)
 {
-    std::optional<SQLite::Statement> insert;
-    std::optional<SQLite::Statement> update;
-    std::optional<SQLite::Statement> remove;
+    SQLite::Statement *insert = nullptr;
+    SQLite::Statement *update = nullptr;
+    SQLite::Statement *remove = nullptr;
     for (const qint64 player : order) {
         const auto it = rows.constFind(player);
         if (it == rows.cend() || !it->changed)
@@ -96,16 +97,16 @@ void writeRows(SQLite::Database &db, const char *table, const std::array<const c
             if (it->recID < 0)
                 continue;
             if (!remove)
-                remove.emplace(db, std::string("DELETE FROM ") + table + " WHERE recID = ?");
+                remove = &db.prepared(std::string("DELETE FROM ") + table + " WHERE recID = ?");
             remove->reset();
             remove->bind(1, static_cast<int64_t>(it->recID));
             remove->exec();
             continue;
         }
         const bool isUpdate = it->recID >= 0;
-        std::optional<SQLite::Statement> &statement = isUpdate ? update : insert;
+        SQLite::Statement *&statement = isUpdate ? update : insert;
         if (!statement)
-            statement.emplace(db, isUpdate ? updateSql(table, columns) : insertSql(table, columns));
+            statement = &db.prepared(isUpdate ? updateSql(table, columns) : insertSql(table, columns));
         statement->reset();
         statement->bind(1, static_cast<int64_t>(player));
         statement->bind(2, static_cast<int64_t>(it->teamID));
@@ -164,15 +165,30 @@ qint64 idValue(const QString &id)
     return figureCount(id);
 }
 
-SeasonFold::SeasonFold(SQLite::Database &db, const QList<qint64> &playerIDs, const QList<qint64> &teamIDs)
+SeasonFold::SeasonFold(myDB &db, const std::array<TeamAdditions, 2> &additions, const QList<qint64> &teamIDs)
 {
-    readRows(db, "Hitting", hittingColumns(), playerIDs, m_hitting);
-    readRows(db, "Fielding", fieldingColumns(), playerIDs, m_fielding);
-    readRows(db, "Pitching", pitchingColumns(), playerIDs, m_pitching);
+    // A table's rows are read only for the players the game adds to in it:
+    // most of a lineup neither pitched nor has a fielding line.
+    QList<qint64> hitters;
+    QList<qint64> fielders;
+    QList<qint64> pitchers;
+    for (const TeamAdditions &team : additions) {
+        for (const PlayerAdditions &p : team.players) {
+            const qint64 id = idValue(p.playerID);
+            hitters.append(id);
+            if (p.fielding)
+                fielders.append(id);
+            if (p.pitching)
+                pitchers.append(id);
+        }
+    }
+    readRows(db, "Hitting", hittingColumns(), hitters, m_hitting);
+    readRows(db, "Fielding", fieldingColumns(), fielders, m_fielding);
+    readRows(db, "Pitching", pitchingColumns(), pitchers, m_pitching);
     if (teamIDs.isEmpty())
         return;
     static const std::array<const char *, 3> counts = {"W", "L", "Tie"};
-    SQLite::Statement query(db, selectRows("GameResultsByTeam", counts, "teamID", int(teamIDs.size())));
+    SQLite::Statement &query = db.prepared(selectRows("GameResultsByTeam", counts, "teamID", int(teamIDs.size())));
     for (int i = 0; i < teamIDs.size(); ++i)
         query.bind(i + 1, static_cast<int64_t>(teamIDs.at(i)));
     while (query.executeStep()) {
@@ -294,7 +310,7 @@ bool SeasonFold::takeBackResult(const GameResultClass &result)
     return true;
 }
 
-void SeasonFold::write(SQLite::Database &db) const
+void SeasonFold::write(myDB &db) const
 {
     writeRows(db, "Hitting", hittingColumns(), m_order, m_hitting);
     writeRows(db, "Fielding", fieldingColumns(), m_order, m_fielding);
@@ -304,18 +320,20 @@ void SeasonFold::write(SQLite::Database &db) const
         if (!row.changed)
             continue;
         if (row.removed) {
-            SQLite::Statement remove(db, "DELETE FROM GameResultsByTeam WHERE recID = ?");
+            SQLite::Statement &remove = db.prepared("DELETE FROM GameResultsByTeam WHERE recID = ?");
             remove.bind(1, static_cast<int64_t>(row.recID));
             remove.exec();
         } else if (row.recID >= 0) {
-            SQLite::Statement update(db, "UPDATE GameResultsByTeam SET W = ?, L = ?, Tie = ? WHERE recID = ?");
+            SQLite::Statement &update = db.prepared(
+                "UPDATE GameResultsByTeam SET W = ?, L = ?, Tie = ? WHERE recID = ?");
             update.bind(1, static_cast<int64_t>(row.W));
             update.bind(2, static_cast<int64_t>(row.L));
             update.bind(3, static_cast<int64_t>(row.Tie));
             update.bind(4, static_cast<int64_t>(row.recID));
             update.exec();
         } else {
-            SQLite::Statement insert(db, "INSERT INTO GameResultsByTeam (teamID, W, L, Tie) VALUES (?, ?, ?, ?)");
+            SQLite::Statement &insert = db.prepared(
+                "INSERT INTO GameResultsByTeam (teamID, W, L, Tie) VALUES (?, ?, ?, ?)");
             insert.bind(1, static_cast<int64_t>(team));
             insert.bind(2, static_cast<int64_t>(row.W));
             insert.bind(3, static_cast<int64_t>(row.L));

@@ -14,9 +14,7 @@
 
 #include <array>
 
-namespace SQLite {
-class Database;
-}
+class myDB;
 
 namespace stats {
 
@@ -46,9 +44,10 @@ struct TeamRecordRow
 class SeasonFold
 {
 public:
-    // Reads the season rows of these players and the records of these teams.
-    // Throws SQLite::Exception on a database error.
-    SeasonFold(SQLite::Database &db, const QList<qint64> &playerIDs, const QList<qint64> &teamIDs);
+    // Reads the season rows the players of `additions` are added to (or
+    // taken back from) and the records of these teams. Throws
+    // SQLite::Exception on a database error.
+    SeasonFold(myDB &db, const std::array<TeamAdditions, 2> &additions, const QList<qint64> &teamIDs);
     // A fold over no stored rows: it holds the totals of the games added to
     // it alone, as a season recording only those games would.
     SeasonFold() = default;
@@ -74,7 +73,7 @@ public:
     // a delete of a row taken back to nothing.
     // Throws SQLite::Exception on a database error; the caller's
     // transaction then takes everything back.
-    void write(SQLite::Database &db) const;
+    void write(myDB &db) const;
 
     // The player's rows as they stand, or null.
     const SeasonRow<kHittingFigures> *hitting(qint64 playerID) const;

@@ -234,6 +234,31 @@ private Q_SLOTS:
         QVERIFY2(lines[1].startsWith(pitching) && lines[1].contains("65"), lines[1]);
     }
 
+    // A report reads the season without checking every page first: pages
+    // past the schema that don't read stop it with an error and no rows.
+    void reportRefusesDamagedPages()
+    {
+        QTemporaryDir dir;
+        const QString season = QDir(dir.path()).filePath(QStringLiteral("tlData_damaged.sqlite"));
+        QVERIFY(QFile::copy(QDir(m_folder).filePath(myDB::getCurDBFileName(m_season->prefs->prSeason)), season));
+        qint64 pageSize = 0;
+        {
+            SQLite::Database db(season.toStdString(), SQLite::OPEN_READONLY);
+            pageSize = db.execAndGet("PRAGMA page_size").getInt64();
+        }
+        QFile file(season);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.seek(pageSize));
+        file.write(QByteArray(int(file.size() - pageSize), '\xA5'));
+        file.close();
+        const Run run = runCli({QStringLiteral("report"), QStringLiteral("batting"), QStringLiteral("--format"),
+                                QStringLiteral("csv"), QStringLiteral("--data-dir"), dir.path(),
+                                QStringLiteral("--season"), QStringLiteral("damaged")});
+        QVERIFY(run.status != 0);
+        QVERIFY2(run.out.isEmpty(), run.out);
+        QVERIFY(!run.err.isEmpty());
+    }
+
     // The backup is taken while this process writes to the season, and is
     // a sound season holding every team; the program's lock stops it.
     void backupWhileWritten()

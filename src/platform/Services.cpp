@@ -1,5 +1,6 @@
 #include "platform/Services.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 
@@ -60,6 +61,21 @@ HttpService &http()
 SecretStore &secrets()
 {
     return need(g_services.secrets, "secrets");
+}
+
+std::optional<bool> printCopies(const PrinterSetup &setup, const QString &title,
+                                const std::function<bool(PrintJob &)> &printCopy)
+{
+    std::unique_ptr<PrintJob> job = printing().printDialog(setup, title);
+    if (!job)
+        return std::nullopt;
+    bool ok = true;
+    for (int copy = 0; copy < std::max(1, job->copies()); ++copy) {
+        if (copy > 0)
+            ok = job->newPage() && ok;
+        ok = printCopy(*job) && ok;
+    }
+    return job->finish() && ok;
 }
 
 } // namespace platform

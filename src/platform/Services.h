@@ -7,6 +7,9 @@
 #include "platform/Printing.h"
 #include "platform/SecretStore.h"
 
+#include <functional>
+#include <optional>
+
 namespace platform {
 
 // What the program asks of the desktop. main() installs the Qt
@@ -23,6 +26,12 @@ struct Services
     HttpService *http = nullptr;
     SecretStore *secrets = nullptr;
 };
+
+// Asks with the print dialog, then prints each copy the device doesn't make
+// by itself, each starting on a page of its own. Nothing when the user
+// cancelled; otherwise whether every page reached the printer.
+std::optional<bool> printCopies(const PrinterSetup &setup, const QString &title,
+                                const std::function<bool(PrintJob &)> &printCopy);
 
 // Installs a set of services and returns the set that was there before.
 Services install(const Services &services);

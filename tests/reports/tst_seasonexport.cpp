@@ -238,7 +238,7 @@ private Q_SLOTS:
     }
 
     // The first game of the sample season, recorded: its box score shown,
-    // saved as text and PDF and printed on one page.
+    // saved as text and PDF and printed, one page a copy.
     void boxScore()
     {
         ReportsFixture f;
@@ -261,9 +261,10 @@ private Q_SLOTS:
         QTest::mouseClick(testkit::child<QPushButton>(screen, "pdfBtn"), Qt::LeftButton);
         QCOMPARE(fakes::pdfPageCount(base + QStringLiteral(".pdf")), 1);
         QVERIFY(fakes::pdfText(base + QStringLiteral(".pdf")).contains(QStringLiteral("Kowalski, Noah")));
+        f.platform.printing.copies = 2; // each copy on a page of its own
         QTest::mouseClick(testkit::child<QPushButton>(screen, "printBtn"), Qt::LeftButton);
         QCOMPARE(f.platform.printing.printed.size(), 1);
-        QCOMPARE(fakes::pdfPageCount(f.platform.printing.printed.first()), 1);
+        QCOMPARE(fakes::pdfPageCount(f.platform.printing.printed.first()), 2);
         QVERIFY(fakes::pdfText(f.platform.printing.printed.first()).contains(QStringLiteral("Moreno, Isaac")));
         QCOMPARE(f.platform.messages.shown.size(), shownBefore);
         delete screen;

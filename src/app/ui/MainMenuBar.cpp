@@ -143,6 +143,19 @@ void MainMenuBar::run(const QString &name)
         (*it)();
 }
 
+void MainMenuBar::installListHandlers(const std::function<void()> &print, const std::function<void()> &exportList)
+{
+    installHandler(QStringLiteral("FilePrint"), [print] {
+        print();
+        return true;
+    });
+    installHandler(QStringLiteral("FileExport"), [exportList] {
+        exportList();
+        return true;
+    });
+    installPrinterSetup();
+}
+
 void MainMenuBar::installPrinterSetup(bool forceDialog)
 {
     installHandler(QStringLiteral("FilePrinterSetup"), [forceDialog] {

@@ -25,6 +25,9 @@ public:
     // Enables "Printer Setup": it shows the page set-up dialog (or, without
     // `forceDialog`, only when no set-up is remembered yet).
     void installPrinterSetup(bool forceDialog = true);
+    // A list window's File menu: "Print..." runs `print`, "Export..." runs
+    // `exportList`, and "Printer Setup" shows the page set-up.
+    void installListHandlers(const std::function<void()> &print, const std::function<void()> &exportList);
     QAction *item(const QString &name) const;
 
 private:

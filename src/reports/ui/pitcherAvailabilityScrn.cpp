@@ -68,15 +68,7 @@ pitcherAvailabilityScrn::pitcherAvailabilityScrn(QWidget *parent)
     resize(900, 480);
 
     connect(closeBtn, &QPushButton::clicked, this, &QWidget::close);
-    menus()->installHandler(QStringLiteral("FilePrint"), [this] {
-        printReport();
-        return true;
-    });
-    menus()->installHandler(QStringLiteral("FileExport"), [this] {
-        exportReport();
-        return true;
-    });
-    menus()->installPrinterSetup();
+    menus()->installListHandlers([this] { printReport(); }, [this] { exportReport(); });
 
     // The home team's set from the season's data folder; a copy the coach
     // damaged is named with its line and the built-in set stands in.

@@ -103,15 +103,7 @@ playingTimeScrn::playingTimeScrn(QWidget *parent)
     resize(900, 480);
 
     connect(closeBtn, &QPushButton::clicked, this, &QWidget::close);
-    menus()->installHandler(QStringLiteral("FilePrint"), [this] {
-        printReport();
-        return true;
-    });
-    menus()->installHandler(QStringLiteral("FileExport"), [this] {
-        exportReport();
-        return true;
-    });
-    menus()->installPrinterSetup();
+    menus()->installListHandlers([this] { printReport(); }, [this] { exportReport(); });
 
     connect(teamPop, &QComboBox::currentIndexChanged, this, &playingTimeScrn::refresh);
     connect(fromFld, &QDateEdit::dateChanged, this, &playingTimeScrn::refresh);

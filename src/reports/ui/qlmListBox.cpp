@@ -326,18 +326,8 @@ void qlmListBox::dropEvent(QDropEvent *event)
 void qlmListBox::printAllCopies(const platform::PrinterSetup &setup, const QString &title,
                                 const std::function<bool(platform::PrintJob &)> &printCopy)
 {
-    std::unique_ptr<platform::PrintJob> job = platform::printing().printDialog(setup, title);
-    if (!job)
-        return;
-    bool ok = true;
-    for (int copy = 0; copy < std::max(1, job->copies()); ++copy) {
-        // Each copy starts on a page of its own.
-        if (copy > 0)
-            ok = job->newPage() && ok;
-        ok = printCopy(*job) && ok;
-    }
-    ok = job->finish() && ok;
-    if (!ok)
+    const std::optional<bool> ok = platform::printCopies(setup, title, printCopy);
+    if (ok && !*ok)
         gMsgBox(QStringLiteral("The printer reported an error; the list may not have printed completely."));
 }
 

@@ -81,15 +81,7 @@ reportScrn::reportScrn(int which, const QStringList &headers, QWidget *parent)
         showNewRept = false;
         close();
     });
-    menus()->installHandler(QStringLiteral("FilePrint"), [this] {
-        printReport();
-        return true;
-    });
-    menus()->installHandler(QStringLiteral("FileExport"), [this] {
-        exportReport();
-        return true;
-    });
-    menus()->installPrinterSetup();
+    menus()->installListHandlers([this] { printReport(); }, [this] { exportReport(); });
 
     scrnSetup();
 }

@@ -79,15 +79,9 @@ standingsScrn::standingsScrn(QWidget *parent)
     myLB->setCellKeyHandler(
         [this](int row, int column, QKeyEvent *event) { return myLB_CellKeyDown(row, column, event); });
 
-    menus()->installHandler(QStringLiteral("FilePrint"), [this] {
-        myLB->printMe(QStringLiteral("Current Standings - ") + standSelPop->currentText(), false);
-        return true;
-    });
-    menus()->installHandler(QStringLiteral("FileExport"), [this] {
-        myLB->exportMe(QStringLiteral("Current Standings - ") + standSelPop->currentText());
-        return true;
-    });
-    menus()->installPrinterSetup();
+    menus()->installListHandlers(
+        [this] { myLB->printMe(QStringLiteral("Current Standings - ") + standSelPop->currentText(), false); },
+        [this] { myLB->exportMe(QStringLiteral("Current Standings - ") + standSelPop->currentText()); });
 }
 
 void standingsScrn::acquireData()

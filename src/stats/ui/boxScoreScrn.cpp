@@ -72,17 +72,12 @@ void boxScoreScrn::printBox()
     gGetPrinterSetup(setup, false);
     if (!setup)
         return;
-    std::unique_ptr<platform::PrintJob> job = platform::printing().printDialog(*setup, QStringLiteral("Box Score - ") +
-                                                                                           m_title);
-    if (!job)
-        return;
-    bool ok = true;
-    for (int copy = 0; copy < std::max(1, job->copies()); ++copy) {
-        if (copy > 0)
-            ok = job->newPage() && ok;
-        stats::paintOnePage(job->painter(), QRectF(0, 0, job->setup().width(), job->setup().height()), m_text);
-    }
-    if (!job->finish() || !ok)
+    const std::optional<bool> ok = platform::printCopies(
+        *setup, QStringLiteral("Box Score - ") + m_title, [this](platform::PrintJob &job) {
+            stats::paintOnePage(job.painter(), QRectF(0, 0, job.setup().width(), job.setup().height()), m_text);
+            return true;
+        });
+    if (ok && !*ok)
         gMsgBox(QStringLiteral("The printer reported an error; the box score may not have printed completely."));
 }
 
